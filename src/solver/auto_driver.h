@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "engine/evaluation.h"
+#include "grid/game_state.h"
+
+namespace sudoku {
+
+// What automatic play asks of the board.
+class PlateauAuto {
+ public:
+  virtual ~PlateauAuto() = default;
+  // Redraws the board from VmGrille, or from VmGrilleEtat while VgSilence is True.
+  virtual void Affiche() = 0;
+  // A message box with an OK button; comes back when it is answered.
+  virtual void Message(TexteVue texte) = 0;
+};
+
+// Automatic play, the one entry to the solver. Works on the live grid with messages (VgSilence False) or
+// silently on a copy, VmGrilleEtat (VgSilence True). Every run ends, whatever the grid; VgEtat is 2 after it.
+class AutoDriver {
+ public:
+  AutoDriver(GameState& jeu, Evaluateur& moteur, PlateauAuto& plateau);
+
+  // VpReset: forget that VmGrilleEtat is complete (otherwise a complete one is simply shown, without a
+  // message). VpGuess: suppose symbols where deduction stops.
+  void JeuAuto(bool VpReset, bool VpGuess);
+
+ private:
+  struct TSupposition {
+    std::int16_t Index = 0;
+    Texte Essais;    // candidates refuted so far, in the order tried
+    Texte Valeur;    // the one supposed now
+    Texte Possible;  // the cell's candidates when the level was opened
+  };
+  using Pile = std::vector<TSupposition>;
+
+  std::int16_t JeuSolve(Grille& VpGrille);
+  bool GuessResult(std::int16_t VpResultat, Pile& VpSupp);
+  void Guess(Grille& VpGrille, const Grille& VpBase, Pile& VpSupp);
+
+  GameState& jeu_;
+  Evaluateur& moteur_;
+  PlateauAuto& plateau_;
+};
+
+}  // namespace sudoku
