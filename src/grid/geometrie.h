@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace sudoku {
+
+// Kinds of units, as numbers of the data model.
+enum TypeUnite : std::int32_t { kColonne = 0, kLigne = 1, kCarre = 2 };
+
+inline constexpr int kTailleMax = 169;  // the next square, 196, has more cells than a 16-bit number counts
+
+// N symbols make a grid: N is a perfect square, from 1 to 169.
+bool TailleAcceptable(std::size_t longueur);
+
+// The places of a grid of side N (block side S = root of N): which column, row and block a cell lies in, and
+// which cells a unit has. Cells are numbered 1 to N*N row by row, units 1 to N (blocks row by row), places in
+// a unit 0 to N-1 by ascending cell number.
+class Geometrie {
+ public:
+  explicit Geometrie(int N);
+
+  int N() const { return n_; }
+  int S() const { return s_; }
+  int Cases() const { return n_ * n_; }
+
+  // Number of the unit of this kind that holds the cell.
+  std::int16_t Unite(int type, int cellule) const { return unites_[At(type)][At(cellule)]; }
+  // Place of the cell in that unit.
+  std::int16_t Place(int type, int cellule) const { return places_[At(type)][At(cellule)]; }
+  // The N cells of a unit.
+  std::span<const std::int16_t> Serie(int type, int numero) const {
+    return std::span(series_[At(type)]).subspan(At(numero - 1) * At(n_), At(n_));
+  }
+
+ private:
+  static std::size_t At(int i) { return static_cast<std::size_t>(i); }
+
+  int n_;
+  int s_;
+  std::array<std::vector<std::int16_t>, 3> unites_;
+  std::array<std::vector<std::int16_t>, 3> places_;
+  std::array<std::vector<std::int16_t>, 3> series_;
+};
+
+}  // namespace sudoku

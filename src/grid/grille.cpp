@@ -1,0 +1,125 @@
+#include "grid/grille.h"
+
+#include <utility>
+
+#include "grid/game_state.h"
+
+namespace sudoku {
+namespace {
+
+std::size_t At(int i) { return static_cast<std::size_t>(i); }
+
+// The verdict on one player's entry whose Etat is 2 after the chance of step 3 -> 2.
+std::int32_t Juge(const Bloc& bloc, int cellule) {
+  if (!bloc.Permet(cellule, bloc.saisie[At(cellule)])) return kErronee;
+  if (bloc.sure[At(cellule)] == kVide) return kPossible;
+  return bloc.alphabet->Egaux(bloc.sure[At(cellule)], bloc.saisie[At(cellule)]) ? kProuvee : kErronee;
+}
+
+}  // namespace
+
+bool Bloc::SansCandidat(int cellule) const {
+  if (possibleTexte[At(cellule)] != kVide) return false;
+  for (int m = 0; m < mots; ++m) {
+    if (candidats[At(cellule * mots + m)] != 0) return false;
+  }
+  return true;
+}
+
+bool Bloc::Compte(int cellule) const {
+  if (saisie[At(cellule)] == kVide) return false;
+  switch (etat[At(cellule)]) {
+    case kDonnee:
+    case kProuvee:
+      return true;
+    case kPossible:
+      return jeu->VgEtat == kSecondePasse;
+    default:
+      return false;
+  }
+}
+
+bool Bloc::Permet(int cellule, Code code) const {
+  if (possibleTexte[At(cellule)] != kVide) {
+    const Code possible = possibleTexte[At(cellule)];
+    if (!alphabet->Long(possible)) return alphabet->Egaux(possible, code);
+    return Contient(alphabet->TexteDe(possible), alphabet->TexteDe(code));
+  }
+  if (!alphabet->Long(code)) {
+    const int position = alphabet->Position(code);
+    // Of equal positions the first is always among those left.
+    return position >= 0 && Candidat(cellule, position);
+  }
+  return Contient(ClsPos(const_cast<Bloc*>(this), cellule).Possible(), alphabet->TexteDe(code));
+}
+
+Grille Grille::Nouvelle(GameState& jeu, TexteVue VmValeurs) {
+  Grille grille;
+  grille.bloc_ = std::make_shared<Bloc>();
+  Bloc& bloc = *grille.bloc_;
+  bloc.jeu = &jeu;
+  bloc.geometrie = std::make_shared<const Geometrie>(static_cast<int>(VmValeurs.size()));
+  bloc.alphabet = std::make_shared<Alphabet>(VmValeurs);
+  bloc.mots = (bloc.geometrie->N() + 63) / 64;
+  const std::size_t taille = At(bloc.geometrie->Cases() + 1);
+  bloc.etat.assign(taille, kDonnee);
+  for (auto* codes : {&bloc.saisie, &bloc.sure, &bloc.poss, &bloc.possibleTexte}) codes->assign(taille, kVide);
+  bloc.candidats.assign(taille * At(bloc.mots), 0);
+  return grille;
+}
+
+void GrilleCopy(const Grille& VpSource, Grille& VpDest) {
+  if (VpDest.bloc_ && VpDest.bloc_.use_count() == 1 && VpDest.bloc_ != VpSource.bloc_) {
+    *VpDest.bloc_ = *VpSource.bloc_;
+  } else {
+    VpDest.bloc_ = std::make_shared<Bloc>(*VpSource.bloc_);
+  }
+}
+
+bool SymboleEnDouble(const Grille& VpGrille) {
+  const Bloc& bloc = VpGrille.Donnees();
+  std::vector<int> vu(At(VpGrille.N()), 0);
+  int tour = 0;
+  for (int type = kColonne; type <= kCarre; ++type) {
+    for (int u = 1; u <= VpGrille.N(); ++u) {
+      ++tour;
+      for (const int cellule : bloc.geometrie->Serie(type, u)) {
+        const int position = bloc.alphabet->Position(bloc.saisie[At(cellule)]);
+        if (position >= 0 && std::exchange(vu[At(position)], tour) == tour) return true;
+      }
+    }
+  }
+  return false;
+}
+
+std::int32_t GrilleCheck(Grille& VpGrille, Levees& levees) {
+  Bloc& bloc = VpGrille.Donnees();
+  int remplies = 0;
+  for (int i = 1; i <= VpGrille.Borne(); ++i) {
+    if (bloc.SansCandidat(i)) return -1;
+    std::int32_t& etat = bloc.etat[At(i)];
+    if (etat == kDonnee || etat == kProuvee) {
+      if (bloc.saisie[At(i)] != kVide) ++remplies;
+      continue;
+    }
+    const std::int32_t avant = etat;
+    if (etat == kErronee) {
+      const bool levable = levees.empty() || levees[At(i)] < VpGrille.N();
+      if (levable && bloc.Permet(i, bloc.saisie[At(i)])) etat = kPossible;
+    }
+    if (etat != kPossible) continue;
+    etat = Juge(bloc, i);
+    if (etat == avant) {
+      if (etat == kPossible) ++remplies;
+      continue;
+    }
+    if (avant == kErronee && etat == kPossible) {
+      if (levees.empty()) levees.assign(At(VpGrille.Borne() + 1), 0);
+      ++levees[At(i)];
+    }
+    return kReevaluer;
+  }
+  return VpGrille.Borne() - remplies;
+}
+
+}  // namespace sudoku
