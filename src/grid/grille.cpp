@@ -1,5 +1,6 @@
 #include "grid/grille.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "grid/game_state.h"
@@ -40,6 +41,7 @@ bool Bloc::Compte(int cellule) const {
 }
 
 bool Bloc::Permet(int cellule, Code code) const {
+  if (code == kVide) return true;  // the empty text stands in every text
   if (possibleTexte[At(cellule)] != kVide) {
     const Code possible = possibleTexte[At(cellule)];
     if (!alphabet->Long(possible)) return alphabet->Egaux(possible, code);
@@ -47,8 +49,8 @@ bool Bloc::Permet(int cellule, Code code) const {
   }
   if (!alphabet->Long(code)) {
     const int position = alphabet->Position(code);
-    // Of equal positions the first is always among those left.
-    return position >= 0 && Candidat(cellule, position);
+    return position >= 0 && std::ranges::any_of(alphabet->Egales(position),
+                                                [&](int p) { return Candidat(cellule, p); });
   }
   return Contient(ClsPos(const_cast<Bloc*>(this), cellule).Possible(), alphabet->TexteDe(code));
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
 #include "engine/evaluation.h"
 #include "grid/game_state.h"
+#include "solver/suppositions.h"
 
 namespace sudoku {
 
@@ -29,21 +29,20 @@ class AutoDriver {
   void JeuAuto(bool VpReset, bool VpGuess);
 
  private:
-  struct TSupposition {
-    std::int16_t Index = 0;
-    Texte Essais;    // candidates refuted so far, in the order tried
-    Texte Valeur;    // the one supposed now
-    Texte Possible;  // the cell's candidates when the level was opened
-  };
-  using Pile = std::vector<TSupposition>;
-
+  std::int16_t Cherche(Grille& VlTravail, bool VpGuess);
   std::int16_t JeuSolve(Grille& VpGrille);
-  bool GuessResult(std::int16_t VpResultat, Pile& VpSupp);
-  void Guess(Grille& VpGrille, const Grille& VpBase, Pile& VpSupp);
+  bool GuessResult(std::int16_t VpResultat);
+  bool Guess(Grille& VpGrille);
+  std::int16_t Acheve(Grille& VlTravail);
+  Texte MessageFinal(std::int16_t VlVerdict) const;
 
   GameState& jeu_;
   Evaluateur& moteur_;
   PlateauAuto& plateau_;
+  // Of the run: the base grid of the suppositions (kept between runs, so that a run allocates nothing), and
+  // the open levels.
+  Grille VlBase_;
+  Suppositions VlSupp_;
 };
 
 }  // namespace sudoku

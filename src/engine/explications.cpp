@@ -1,0 +1,111 @@
+#include "engine/explications.h"
+
+namespace sudoku {
+namespace {
+
+using Genre = Argument::Genre;
+
+std::size_t At(int i) { return static_cast<std::size_t>(i); }
+
+constexpr TexteVue kDe[] = {U" de la colonne ", U" de la ligne ", U" du carré "};
+constexpr TexteVue kDes[] = {U" des colonnes ", U" des lignes ", U" des carrés "};
+constexpr TexteVue kUnites[] = {U"colonnes ", U"lignes ", U"carrés "};
+constexpr TexteVue kCette[] = {U"cette colonne ", U"cette ligne ", U"ce carré "};
+constexpr TexteVue kAutres[] = {U"colonnes que celles spécifiées", U"lignes que celles spécifiées",
+                                U"carrés que ceux spécifiés"};
+// Two blanks after "possible": the first belongs to the sentence, the second to the ending.
+constexpr TexteVue kSeule[] = {U"Seule solution possible  en colonne", U"Seule solution possible  en ligne",
+                               U"Seule solution possible  dans le carré"};
+
+// Makes sentences of the facts of one grid.
+class Redacteur {
+ public:
+  explicit Redacteur(const Bloc& bloc) : bloc_(bloc) {}
+
+  Texte Phrase(const Fait& fait) const {
+    const Argument& a = bloc_.journal.arguments[fait.argument];
+    switch (a.genre) {
+      case Genre::kSeule:
+        return Texte(kSeule[a.type]);
+      case Genre::kInference:
+        return U"Le " + Symbole(a) + Unite(a) + U" se trouve dans les cases " + Cases(a, a.masques, 1);
+      case Genre::kCachee:
+        return Sequence(a) + U", ce qui exclut de cette case les éléments " +
+               AvecTirets(Symboles(static_cast<std::uint32_t>(fait.exclus)));
+      case Genre::kNue:
+        return Sequence(a);
+      case Genre::kFigure:
+        break;
+    }
+    return Texte(U"Le ") + Symbole(a) + Texte(kDes[a.type]) + Numeros(a.masques) + U" se trouve dans les " +
+           Texte(kUnites[a.type2]) + Numeros(MasqueB(a)) + U", ce qui exclut sa présence dans " +
+           Texte(kCette[a.type2]) + U"dans d'autres " + Texte(kAutres[a.type]);
+  }
+
+ private:
+  std::uint32_t MasqueB(const Argument& a) const { return a.masques + static_cast<std::uint32_t>(bloc_.mots); }
+  Texte Symbole(const Argument& a) const { return bloc_.alphabet->TexteDe(a.symbole); }
+  static Texte Unite(const Argument& a) { return Texte(kDe[a.type]) + Decimal(a.unite); }
+
+  Texte Sequence(const Argument& a) const {
+    const Texte symboles = a.genre == Genre::kNue && a.symbole != kVide ? Symbole(a) : Symboles(a.masques);
+    return U"La séquence " + AvecTirets(symboles) + Unite(a) + U" se trouve dans les cases " +
+           Cases(a, MasqueB(a), a.fois);
+  }
+
+  // Calls f with each number of the set of words that begins at `debut`.
+  template <class F>
+  void Chaque(std::uint32_t debut, F f) const {
+    for (int n = 0; n < 64 * bloc_.mots; ++n) {
+      if (((bloc_.journal.mots[debut + At(n / 64)] >> (n % 64)) & 1U) != 0) f(n);
+    }
+  }
+  Texte Symboles(std::uint32_t debut) const {
+    Texte texte;
+    Chaque(debut, [&](int p) { texte += bloc_.alphabet->Symboles()[At(p)]; });
+    return texte;
+  }
+  Texte Numeros(std::uint32_t debut) const {
+    Texte texte;
+    Chaque(debut, [&](int u) { Joint(texte, u + 1); });
+    return texte;
+  }
+  Texte Cases(const Argument& a, std::uint32_t debut, int fois) const {
+    Texte texte;
+    for (int i = 0; i < fois; ++i) {
+      Chaque(debut, [&](int place) { Joint(texte, bloc_.geometrie->Serie(a.type, a.unite)[At(place)]); });
+    }
+    return texte;
+  }
+  static void Joint(Texte& texte, int nombre) {
+    if (!texte.empty()) texte += U", ";
+    texte += Decimal(nombre);
+  }
+
+  const Bloc& bloc_;
+};
+
+}  // namespace
+
+std::vector<Texte> Phrases(const Grille& VpGrille, int cellule) {
+  const Bloc& bloc = VpGrille.Donnees();
+  const Redacteur redacteur(bloc);
+  std::vector<Texte> phrases;
+  for (const Fait& fait : bloc.journal.faits) {
+    if (fait.cellule != cellule) continue;
+    const Texte phrase = redacteur.Phrase(fait);
+    bool tenue = false;
+    for (const Texte& ancienne : phrases) tenue = tenue || Contient(ancienne, phrase);
+    if (!tenue) phrases.push_back(phrase);
+    if (bloc.journal.arguments[fait.argument].genre == Genre::kSeule) break;
+  }
+  return phrases;
+}
+
+Texte Explications(const Grille& VpGrille, int cellule) {
+  Texte texte;
+  for (const Texte& phrase : Phrases(VpGrille, cellule)) texte += phrase + U"\r\n";
+  return texte;
+}
+
+}  // namespace sudoku

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstdint>
+
+namespace sudoku {
+
+// A set of small numbers (symbols of the grid, places in a unit, units of a kind), W words of 64.
+template <int W>
+struct Masque {
+  std::array<std::uint64_t, static_cast<std::size_t>(W)> mots{};
+
+  // The numbers 0 to n-1.
+  static Masque Premiers(int n) {
+    Masque m;
+    for (int i = 0; i < W; ++i) {
+      const int reste = n - 64 * i;
+      m[i] = reste >= 64 ? ~std::uint64_t{0} : reste > 0 ? (std::uint64_t{1} << reste) - 1 : std::uint64_t{0};
+    }
+    return m;
+  }
+
+  std::uint64_t& operator[](int i) { return mots[static_cast<std::size_t>(i)]; }
+  std::uint64_t operator[](int i) const { return mots[static_cast<std::size_t>(i)]; }
+
+  bool Contient(int n) const { return (((*this)[n >> 6] >> (n & 63)) & 1U) != 0; }
+  void Ajoute(int n) { (*this)[n >> 6] |= std::uint64_t{1} << (n & 63); }
+  void Enleve(int n) { (*this)[n >> 6] &= ~(std::uint64_t{1} << (n & 63)); }
+
+  bool Vide() const {
+    std::uint64_t tous = 0;
+    for (const auto mot : mots) tous |= mot;
+    return tous == 0;
+  }
+  int Compte() const {
+    int n = 0;
+    for (const auto mot : mots) n += std::popcount(mot);
+    return n;
+  }
+  // Exactly one number.
+  bool Seul() const {
+    if constexpr (W == 1) return std::has_single_bit(mots[0]);
+    return Compte() == 1;
+  }
+  // Two numbers or more.
+  bool Plusieurs() const {
+    if constexpr (W == 1) return (mots[0] & (mots[0] - 1)) != 0;
+    return Compte() > 1;
+  }
+  // The smallest number; the set isn't empty.
+  int Premier() const {
+    int i = 0;
+    while ((*this)[i] == 0) ++i;
+    return 64 * i + std::countr_zero((*this)[i]);
+  }
+  bool Croise(const Masque& autre) const { return !(*this & autre).Vide(); }
+  bool Dans(const Masque& autre) const { return Sauf(autre).Vide(); }
+
+  Masque operator&(const Masque& b) const { return Combine(b, [](auto x, auto y) { return x & y; }); }
+  Masque operator|(const Masque& b) const { return Combine(b, [](auto x, auto y) { return x | y; }); }
+  // Those of this set that `b` lacks.
+  Masque Sauf(const Masque& b) const { return Combine(b, [](auto x, auto y) { return x & ~y; }); }
+  Masque& operator|=(const Masque& b) { return *this = *this | b; }
+  bool operator==(const Masque& b) const = default;
+
+  // Calls f with each number, ascending.
+  template <class F>
+  void Chaque(F f) const {
+    for (int i = 0; i < W; ++i) {
+      for (std::uint64_t mot = (*this)[i]; mot != 0; mot &= mot - 1) f(64 * i + std::countr_zero(mot));
+    }
+  }
+
+  std::uint64_t Hache() const {
+    std::uint64_t h = 0;
+    for (const auto mot : mots) h = (h ^ mot) * 0x9E3779B97F4A7C15U;
+    return h ^ (h >> 29);
+  }
+
+ private:
+  template <class F>
+  Masque Combine(const Masque& b, F f) const {
+    Masque m;
+    for (int i = 0; i < W; ++i) m[i] = f((*this)[i], b[i]);
+    return m;
+  }
+};
+
+}  // namespace sudoku

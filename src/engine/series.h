@@ -1,0 +1,55 @@
+#pragma once
+
+#include <vector>
+
+#include "engine/tableau.h"
+
+namespace sudoku {
+
+// The deductions within one unit, always in this order: hidden singles and locked candidates in one sweep over
+// the symbols, then hidden sets, then naked sets, of every size.
+template <int W>
+class Series {
+ public:
+  explicit Series(Tableau<W>& t) : t_(t) {}
+
+  // One sweep over all units: for each number, block, row, column. Units none of whose cells changed in any
+  // field since their own last run can only give nothing again and are left out. True if a candidate went.
+  bool Balaye();
+
+ private:
+  using M = Masque<W>;
+
+  bool TestSerie(int type, int unite);
+  M Reste();
+  void Symbole(int s, int p);
+  void SeuleSolution(int s, int p);
+  // Locked candidate: symbol p has all its places of this unit (`lieux`) in one unit of another kind too.
+  void Verrouille(int p, const M& lieux);
+  void Inference(int type, int unite, const M& horsDe, int p, const M& lieux);
+  void InferenceAvecTextes(int type, int unite, int p, const M& lieux);
+  void EnsemblesCaches();
+  void Cache(int rang);
+  void EnsemblesNus();
+  void CompteNus(int depuis);
+  void Nu(int place);
+  void EnsemblesNusEnTextes();
+  bool MemesSymboles(const M& a, const M& b) const;
+  int Cellule(int place) const { return t_.geo->Serie(type_, unite_)[static_cast<std::size_t>(place)]; }
+
+  Tableau<W>& t_;
+  int type_ = 0;
+  int unite_ = 0;
+  bool resultat_ = false;
+  // Symbols with two places or more, ascending: places, how often each was noted, a set begins here.
+  struct Lieux {
+    int symbole;
+    M places;
+    int fois;
+    bool ensemble;
+  };
+  std::vector<Lieux> lieux_;
+  std::vector<char> nus_;  // by place: the naked set that begins here has as many cells as symbols
+};
+
+}  // namespace sudoku
