@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/fichiers.h"
+
+namespace sudoku {
+
+// The files of the machine, which every window system uses. Paths go to the machine as UTF-8.
+class FichiersDisque : public Fichiers {
+ public:
+  std::string Lit(TexteVue chemin) override;
+  std::unique_ptr<FichierEcrit> Cree(TexteVue chemin) override;
+  void Copie(TexteVue de, TexteVue vers) override;
+  void Supprime(TexteVue chemin) override;
+  bool Existe(TexteVue chemin) override;
+  bool EstFichier(TexteVue chemin) override;
+  Texte DossierCourant() override;
+};
+
+}  // namespace sudoku

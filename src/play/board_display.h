@@ -1,0 +1,48 @@
+#pragma once
+
+#include <vector>
+
+#include "grid/game_state.h"
+#include "platform/systeme.h"
+#include "play/voisins.h"
+
+namespace sudoku {
+
+// Writes the game into the view: the board from the cell records, the title line from file and library. The
+// engine never comes here, and nothing is read back from the view.
+class BoardDisplay {
+ public:
+  BoardDisplay(GameState& jeu, Fenetre& fenetre, Systeme& systeme);
+
+  // Redraws the board whole: texts, colours, which boxes take typing. Shows VmGrilleEtat while VgSilence is
+  // True, VmGrille otherwise; a grid without cells paints nothing. In mode 5 while it runs, so that the
+  // change events it causes do nothing. With the assistant visible it adds its marks, and has the cell with
+  // the focus described and highlighted anew.
+  void Affiche(Assistant& assistant);
+
+  // The title line. A file name too short to lose an extension is reported and leaves the line as it was.
+  void SetInfos();
+
+  // Lays out boxes and frames for VmGrille and sizes window and labels. The clock line is shown.
+  void MetEnPlace();
+
+ private:
+  struct Marques {
+    bool sure = false;
+    bool poss = false;
+    bool bleu = false;
+    bool rouge = false;
+  };
+  template <bool kMarques>
+  void AfficheCases(const Grille& VlGrille, bool modifiable, const Marques& marques);
+  Twips GetPos(int VpPos, int VpAxe) const;
+
+  GameState& jeu_;
+  Plateau& plateau_;
+  Fenetre& fenetre_;
+  Systeme& systeme_;
+  Element& LblInfos_;
+  Element& LblChrono_;
+};
+
+}  // namespace sudoku

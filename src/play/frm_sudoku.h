@@ -1,0 +1,83 @@
+#pragma once
+
+#include <memory>
+
+#include "engine/evaluation.h"
+#include "grid/game_state.h"
+#include "grid/jeu_vierge.h"
+#include "platform/systeme.h"
+#include "play/board_display.h"
+#include "play/cell_input.h"
+#include "play/commands.h"
+#include "play/game_flow.h"
+#include "play/voisins.h"
+#include "play/window_shell.h"
+#include "solver/auto_driver.h"
+
+namespace sudoku {
+
+// The main window: owner of the game state, of the engine and of the board, and the place where the parts of
+// play meet. Storage, assistant and about box reach the game through it. It stays where it was made: its
+// parts hold references to it.
+class FRMSudoku : private PlateauAuto, private PlateauVierge {
+ public:
+  explicit FRMSudoku(Systeme& systeme);
+  FRMSudoku(const FRMSudoku&) = delete;
+  FRMSudoku& operator=(const FRMSudoku&) = delete;
+
+  // Names the neighbours; before Form_Load.
+  void Relie(Assistant& assistant, Stockage& stockage, APropos& aPropos);
+
+  // The start of the program: mode 0, menus, window above the others; then loads the file that the command
+  // line names, if it isn't empty.
+  void Form_Load(TexteVue ligneDeCommande);
+
+  GameState& Jeu() { return jeu_; }
+  const GameState& Jeu() const { return jeu_; }
+  Fenetre& LaFenetre() { return fenetre_; }
+  Systeme& LeSysteme() { return systeme_; }
+  Evaluateur& Moteur() { return moteur_; }
+  Assistant& LAssistant() { return *assistant_; }
+  Stockage& LeStockage() { return *stockage_; }
+  APropos& LAPropos() { return *aPropos_; }
+  // Elements that several parts write.
+  Minuterie& Tmr() { return Tmr_; }
+  Element& LblChrono() { return LblChrono_; }
+
+  // As sudoku::JeuVierge, on this board. False: no grid was made.
+  bool JeuVierge(Texte& VpValeurs);
+  void JeuAuto(bool VpReset, bool VpGuess) { pilote_.JeuAuto(VpReset, VpGuess); }
+  void JeuStart() { deroulement_.JeuStart(); }
+  void JeuReinit(bool VpValide) { deroulement_.JeuReinit(VpValide); }
+  void StartChrono() { deroulement_.StartChrono(); }
+  void Affiche() override;
+  void SetInfos() override;
+  void SetMenus() { menus_.SetMenus(jeu_, assistant_->LaFenetre().Visible); }
+  void Deplacement(int KeyCode) { saisie_.Deplacement(KeyCode); }
+
+ private:
+  void Message(TexteVue texte) override;
+  Texte DemandeSymboles() override;
+  void MetEnPlace() override;
+  void Evalue() override;
+  void Branche();
+
+  Systeme& systeme_;
+  Assistant* assistant_ = nullptr;
+  Stockage* stockage_ = nullptr;
+  APropos* aPropos_ = nullptr;
+
+  GameState jeu_;
+  Fenetre fenetre_;
+  Minuterie& Tmr_;
+  Element& LblChrono_;
+  Evaluateur moteur_;
+  AutoDriver pilote_;
+  MenusDuJeu menus_;
+  BoardDisplay affichage_;
+  CellInput saisie_;
+  GameFlow deroulement_;
+  Commands commandes_;
+};
+
+}  // namespace sudoku

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "grid/game_state.h"
+#include "platform/fenetre.h"
+
+namespace sudoku {
+
+// The table of the main window: elements, timer, menu tree, template of the board. No handlers yet.
+Fenetre TableFRMSudoku();
+
+// The menu items whose state depends on the game, looked up once.
+class MenusDuJeu {
+ public:
+  explicit MenusDuJeu(Fenetre& fenetre);
+
+  // Enables exactly the commands that the game's mode, its library and the assistant's visibility allow.
+  void SetMenus(const GameState& jeu, bool assistantVisible);
+
+ private:
+  ArticleMenu* Start_;
+  ArticleMenu* Restart_;
+  ArticleMenu* Reinit_;
+  ArticleMenu* Partie_;
+  ArticleMenu* Save_;
+  ArticleMenu* Assist_;
+  ArticleMenu* Solver_;
+  ArticleMenu* Solveur2_;
+  ArticleMenu* Scores_;
+};
+
+// Keeps a window above the others, or no longer. Shows it if it was hidden, in either case.
+void AlwaysOnTop(Fenetre& VpForm, bool VpOnTop);
+
+}  // namespace sudoku
