@@ -1,0 +1,121 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "text/texte.h"
+
+// The rules of the deductions and of the solver once more, on strings and one step after the other, as a
+// person would carry them out with pencil and rubber: the measure that the engine's bit sets and short cuts
+// are held against. Nothing here is shared with the engine but the type of text. Slow on purpose; the only
+// liberties taken are tables for what a plain search of the whole grid would find again and again.
+namespace sudoku::plain {
+
+// What Etat and VgEtat may be, where a rule asks for it.
+inline constexpr int kDonnee = 0, kSure = 1, kEssai = 2, kFausse = 3;
+inline constexpr int kEntree = 1, kJeu = 2, kSecondePasse = 3, kFini = 4;
+inline constexpr int kColonne = 0, kLigne = 1, kCarre = 2;
+
+struct ClsPos {
+  int Index = 0, Ligne = 0, Colonne = 0, Carre = 0;
+  Texte Possible, SolutionSure, SolutionPoss, Explications;
+  int Etat = 0;
+  Texte VmValeur;
+
+  const Texte& ValeurSaisie() const { return VmValeur; }
+  void Load(TexteVue valeur, int etat);
+};
+
+using Case = std::shared_ptr<ClsPos>;
+using Grille = std::vector<Case>;  // indices 0 to N*N, element 0 empty
+using Serie = std::vector<Case>;   // positions 1 to N, element 0 empty
+using Tirets = std::string;        // a dash list: "-3-7"
+
+// Where symbol Symbole can go in unit Unite of type T1, seen through the units of type T2.
+struct NxNEmpreinte {
+  int Unite = 0;
+  char32_t Symbole = 0;
+  int T2 = 0, T1 = 0;
+  Tirets Unites, Cases;
+};
+
+struct TSupposition {
+  int Index = 0;
+  Texte Essais, Valeur, Possible;
+};
+using Pile = std::vector<TSupposition>;
+
+// The entries of a dash list; its canonical form.
+std::vector<int> Nombres(const Tirets& liste);
+Tirets GetCombi(const Tirets& liste);
+
+// One game with all that the rules read and write; every box that would open is noted in Messages.
+class Jeu {
+ public:
+  int VgEtat = 0;
+  bool VgSilence = false;
+  int VmTaille = 0;
+  Texte VmValeurs;
+  Grille VmGrille, VmGrilleEtat;
+  bool VsResolu = false;
+  std::vector<Texte> Messages;
+
+  // A new grid in mode 1, evaluated once; false, and nothing changed, for symbols that no grid can have.
+  bool JeuVierge(TexteVue valeurs);
+
+  TexteVue Valeur(const ClsPos& c) const;
+  void DonneValeur(ClsPos& c, TexteVue valeur);
+
+  Grille GrilleCopy(const Grille& source) const;
+  int Evaluation(Grille& grille, int passes, bool suite = false);
+  int JeuSolve(Grille& grille);
+  void JeuAuto(bool reset, bool guess);
+
+ private:
+  Case Cellule(int index) const;
+  int NbARemplir(const Grille& grille) const;
+  // The verdict; nothing when a judgement changed and the grid is to be evaluated again.
+  std::optional<int> GrilleCheck(Grille& grille, std::vector<int>& releves);
+  int Juge(ClsPos& c, bool relevable) const;
+
+  void Passes(Grille& grille, int passes, bool suite);
+  bool ParcoursCases(Grille& grille, bool suite);
+  bool ParcoursSeries(Grille& grille);
+  void ListePossibles(int pos, Grille& grille);
+  Texte RetireTous(TexteVue liste, const Serie& serie, int pos) const;
+
+  void GetSerie(int type, int num, Serie& serie, const Grille& grille) const;
+  std::vector<Case> GetLocations(const Serie& serie, char32_t symbole) const;
+  bool IsLocated(const Serie& serie, char32_t symbole) const;
+
+  bool TestSerie(const Serie& serie, int type, Grille& grille);
+  Texte ResteAPlacer(const Serie& serie) const;
+  void SeuleCase(ClsPos& c, char32_t symbole, int type) const;
+  bool Confine(const std::vector<Case>& locs, char32_t symbole, int type, Grille& grille) const;
+  bool SequencesCachees(const Serie& serie, int type, const std::vector<Tirets>& places,
+                        Grille& grille) const;
+  bool SequencesNues(const Serie& serie, int type) const;
+  bool Inference(int type, int num, char32_t symbole, const std::vector<Case>& locs, Grille& grille,
+                 const Texte& origine) const;
+
+  bool NxN(Grille& grille);
+  std::vector<NxNEmpreinte> Empreintes(const Grille& grille) const;
+  bool Figure(const std::vector<const NxNEmpreinte*>& groupe, Grille& grille) const;
+
+  bool GuessResult(int resultat, Pile& supp);
+  bool Guess(Grille& grille, const Grille& base, Pile& supp);
+  void CorrigeFausses(Grille& grille, const Grille& base);
+  bool Recherche(Grille& travail, bool guess, Pile& supp, int& verdict);
+  Texte MessageFinal(int verdict, const Pile& supp) const;
+  bool UniteBrisee(const Grille& grille) const;
+
+  std::vector<std::vector<int>> unites_[3];  // by type and number: the indexes, ascending
+};
+
+// Takes `valeur` out of the candidates of `c`, ignoring case; sets `trouve` if one went, and then explains.
+void Retire(ClsPos& c, TexteVue valeur, bool& trouve, TexteVue explication);
+void Explique(ClsPos& c, TexteVue texte);
+
+}  // namespace sudoku::plain

@@ -1,0 +1,148 @@
+#include "plain/plain_engine.h"
+
+namespace sudoku::plain {
+
+int Jeu::JeuSolve(Grille& grille) {
+  for (;;) {
+    const int resultat = Evaluation(grille, 2);
+    if (resultat == -1) return -1;
+    bool fini = true;
+    for (std::size_t i = 1; i < grille.size(); ++i) {
+      ClsPos& c = *grille[i];
+      if (!c.SolutionSure.empty() && !Egal(c.ValeurSaisie(), c.SolutionSure)) {
+        DonneValeur(c, Texte(c.SolutionSure));
+        fini = false;
+      } else if (c.ValeurSaisie().empty() && !c.SolutionPoss.empty()) {
+        DonneValeur(c, Texte(c.SolutionPoss));
+        fini = false;
+      }
+    }
+    if (fini) return resultat;
+  }
+}
+
+// True when the search is over, false when Guess is to go on.
+bool Jeu::GuessResult(int resultat, Pile& supp) {
+  if (resultat == 0) return true;
+  if (resultat > 0) return false;
+  while (supp.size() > 1) {
+    TSupposition& haut = supp.back();
+    haut.Essais += haut.Valeur;
+    haut.Valeur.clear();
+    if (!Egal(haut.Possible, haut.Essais)) return false;
+    Messages.push_back(U"Retour arrière ! Procédure à vérifier");
+    supp[0].Essais += haut.Essais;
+    supp.pop_back();
+  }
+  return true;
+}
+
+// The next supposition; false when it finds no cell for one.
+bool Jeu::Guess(Grille& grille, const Grille& base, Pile& supp) {
+  grille = GrilleCopy(base);
+  if (supp.size() > 1) {
+    for (std::size_t niveau = 1; niveau < supp.size(); ++niveau) {
+      const TSupposition& s = supp[niveau];
+      if (!s.Valeur.empty()) DonneValeur(*grille[static_cast<std::size_t>(s.Index)], s.Valeur);
+    }
+    TSupposition& haut = supp.back();
+    if (haut.Valeur.empty()) {
+      haut.Valeur = haut.Possible.substr(haut.Essais.size(), 1);
+      DonneValeur(*grille[static_cast<std::size_t>(haut.Index)], haut.Valeur);
+      return true;
+    }
+    JeuSolve(grille);
+  }
+  for (std::size_t i = static_cast<std::size_t>(supp.back().Index) + 1; i < grille.size(); ++i) {
+    ClsPos& c = *grille[i];
+    if (c.Possible.size() <= 1) continue;
+    supp.push_back({static_cast<int>(i), {}, c.Possible.substr(0, 1), c.Possible});
+    DonneValeur(c, supp.back().Valeur);
+    return true;
+  }
+  return false;
+}
+
+// No cell is left to suppose a symbol for: wrong entries of the player that stand in the way of their cells'
+// only candidates give way to them.
+void Jeu::CorrigeFausses(Grille& grille, const Grille& base) {
+  for (std::size_t i = 1; i < grille.size(); ++i) {
+    ClsPos& c = *grille[i];
+    if (!base[i]->ValeurSaisie().empty() && c.Etat == kFausse && c.Possible.size() == 1) {
+      DonneValeur(c, Texte(c.Possible));
+    }
+  }
+}
+
+bool Jeu::UniteBrisee(const Grille& grille) const {
+  for (const auto& type : unites_) {
+    for (const std::vector<int>& unite : type) {
+      for (std::size_t a = 0; a < unite.size(); ++a) {
+        for (std::size_t b = a + 1; b < unite.size(); ++b) {
+          const Texte& un = grille[static_cast<std::size_t>(unite[a])]->ValeurSaisie();
+          if (!un.empty() && Egal(un, grille[static_cast<std::size_t>(unite[b])]->ValeurSaisie()))
+            return true;
+        }
+      }
+    }
+  }
+  return false;
+}
+
+// The loop of solve pass and supposition; false when it ends with a grid that can be neither completed nor
+// refuted.
+bool Jeu::Recherche(Grille& travail, bool guess, Pile& supp, int& verdict) {
+  Grille base;
+  for (;;) {
+    verdict = JeuSolve(travail);
+    if (verdict == 0 && supp.size() > 1 && UniteBrisee(travail)) verdict = -1;
+    if (base.empty()) base = GrilleCopy(travail);
+    if (GuessResult(verdict, supp) || !guess) return true;
+    if (Guess(travail, base, supp)) continue;
+    CorrigeFausses(travail, base);
+    verdict = JeuSolve(travail);
+    if (verdict == 0 && !UniteBrisee(travail)) return true;
+    if (supp.size() == 1) return false;
+    verdict = -1;
+    if (GuessResult(verdict, supp)) return true;
+    Guess(travail, base, supp);
+  }
+}
+
+void Jeu::JeuAuto(bool reset, bool guess) {
+  if (reset) VsResolu = false;
+  if (VsResolu) {
+    if (!VgSilence) VmGrille = VmGrilleEtat;
+    return;
+  }
+  if (VgSilence) VmGrilleEtat = GrilleCopy(VmGrille);
+  Grille travail = VgSilence ? VmGrilleEtat : VmGrille;
+  Pile supp(1);
+  int verdict = 0;
+  const bool tranche = Recherche(travail, guess, supp, verdict);
+  const bool resolu = tranche && verdict == 0;
+  if (resolu) VsResolu = true;
+  if (VgSilence) {
+    if (resolu) VmGrilleEtat = travail;
+    VgEtat = kJeu;
+    return;
+  }
+  VmGrille = travail;
+  Messages.push_back(tranche ? MessageFinal(verdict, supp) : U"Non résolu");
+  if (resolu) VmGrilleEtat = travail;
+}
+
+Texte Jeu::MessageFinal(int verdict, const Pile& supp) const {
+  if (verdict == -1) return U"Insoluble (état initial incorrect)";
+  if (verdict != 0) return U"Non résolu";
+  std::size_t suppositions = 0, erreurs = 0;
+  for (const TSupposition& s : supp) {
+    suppositions += s.Valeur.size() + s.Essais.size();
+    erreurs += s.Essais.size();
+  }
+  if (suppositions == 0) return U"Résolu sans supposition";
+  return U"Résolu avec " + Decimal(static_cast<std::int64_t>(suppositions)) + U" supposition(s), dont " +
+         Decimal(static_cast<std::int64_t>(erreurs)) + U" erreur(s)";
+}
+
+}  // namespace sudoku::plain
