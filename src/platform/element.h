@@ -49,8 +49,8 @@ struct Police {
 // element named `Parent`, or to the window's client area.
 struct Element {
   Genre genre = Genre::kEtiquette;
-  std::string Name;
-  Texte Caption;
+  std::string Name = {};
+  Texte Caption = {};
   Twips Left = 0;
   Twips Top = 0;
   Twips Width = 0;

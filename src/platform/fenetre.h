@@ -13,8 +13,8 @@ namespace sudoku {
 // An entry of a menu. The caption "-" is a separator line. In captions & marks the access key, && is one
 // ampersand on the screen.
 struct ArticleMenu {
-  std::string Name;
-  Texte Caption;
+  std::string Name = {};
+  Texte Caption = {};
   bool Enabled = true;
   std::function<void()> Click = {};
 };
@@ -37,12 +37,13 @@ struct Minuterie {
 // Why a window is to be unloaded.
 inline constexpr int kFermeParUtilisateur = 0;
 
-// A window: its own properties and the table of its elements, which any window system can draw. Sizes are
-// those of the client area. No window can be resized by the user, minimised or maximised. The list of
-// elements stays as the owner filled it at first: references to its elements are good for the window's life.
+// A window: its own properties and the table of its elements, which any window system can draw. A later
+// element lies above an earlier one, but group frames and the board lie below all others. Sizes are those of
+// the client area. No window can be resized by the user, minimised or maximised. The list of elements stays
+// as the owner filled it at first: references to its elements are good for the window's life.
 struct Fenetre {
-  std::string Name;
-  Texte Caption;
+  std::string Name = {};
+  Texte Caption = {};
   Twips Width = 0;
   Twips Height = 0;
   bool Visible = false;    // a window that becomes visible so doesn't take the focus
@@ -69,11 +70,8 @@ struct Fenetre {
   Minuterie* TrouveMinuterie(std::string_view nom);
 
   // Ends a modal window: Systeme::MontreModale returns once the handler that runs has returned.
-  void Ferme() { fermee_ = true; }
-  bool Fermee() const { return fermee_; }
-
- private:
-  bool fermee_ = false;
+  void Ferme() { fermee = true; }
+  bool fermee = false;
 };
 
 }  // namespace sudoku

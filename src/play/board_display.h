@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "grid/game_state.h"
 #include "platform/systeme.h"
 #include "play/voisins.h"
@@ -27,14 +25,15 @@ class BoardDisplay {
   void MetEnPlace();
 
  private:
+  // The assistant's options that are in force.
   struct Marques {
     bool sure = false;
     bool poss = false;
     bool bleu = false;
     bool rouge = false;
   };
-  template <bool kMarques>
   void AfficheCases(const Grille& VlGrille, bool modifiable, const Marques& marques);
+  // Place of a cell on the board: VpAxe 0 from the left, 1 from the top.
   Twips GetPos(int VpPos, int VpAxe) const;
 
   GameState& jeu_;

@@ -60,7 +60,8 @@ class FRMSudoku : private PlateauAuto, private PlateauVierge {
   Texte DemandeSymboles() override;
   void MetEnPlace() override;
   void Evalue() override;
-  void Branche();
+  void BrancheMenus();
+  void BrancheEvenements();
 
   Systeme& systeme_;
   Assistant* assistant_ = nullptr;

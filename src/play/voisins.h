@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grid/cls_pos.h"
+#include "grid/grille.h"
 #include "platform/fenetre.h"
 #include "text/texte.h"
 
@@ -18,9 +18,9 @@ class Assistant {
   virtual bool ChkLightPoss() const = 0;
   virtual bool ChkForeBlue() const = 0;
   virtual bool ChkForeRed() const = 0;
-  // Describes a cell and highlights its box. VpInit: the board has just been repainted, so that no earlier
-  // highlight stands there.
-  virtual void Infos(const ClsPos& VpPos, bool VpInit) = 0;
+  // Describes cell VpPos of VpGrille and highlights its box. VpInit: the board has just been repainted, so
+  // that no earlier highlight stands there.
+  virtual void Infos(const Grille& VpGrille, int VpPos, bool VpInit) = 0;
   // A new grid is on the board: no box is highlighted.
   virtual void OubliePosition() = 0;
 };

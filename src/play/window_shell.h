@@ -17,15 +17,15 @@ class MenusDuJeu {
   void SetMenus(const GameState& jeu, bool assistantVisible);
 
  private:
-  ArticleMenu* Start_;
-  ArticleMenu* Restart_;
-  ArticleMenu* Reinit_;
-  ArticleMenu* Partie_;
-  ArticleMenu* Save_;
-  ArticleMenu* Assist_;
-  ArticleMenu* Solver_;
-  ArticleMenu* Solveur2_;
-  ArticleMenu* Scores_;
+  ArticleMenu& MnuStart;
+  ArticleMenu& MnuRestart;
+  ArticleMenu& MnuReinit;
+  ArticleMenu& MnuPartie;
+  ArticleMenu& MnuSave;
+  ArticleMenu& MnuAssist;
+  ArticleMenu& MnuSolver;
+  ArticleMenu& MnuSolveur2;
+  ArticleMenu& MnuScores;
 };
 
 // Keeps a window above the others, or no longer. Shows it if it was hidden, in either case.

@@ -1,0 +1,117 @@
+#include "play/board_display.h"
+
+#include "platform/rapport.h"
+
+namespace sudoku {
+namespace {
+
+std::size_t At(int i) {
+  return static_cast<std::size_t>(i);
+}
+
+constexpr Twips kEcart = 15;  // between two cells, and from a cell to its block's frame
+
+// The name of a file without folder and without its extension of three letters.
+TexteVue NomSansExtension(TexteVue chemin) {
+  const std::size_t barre = chemin.find_last_of(U"\\/");
+  const TexteVue nom = chemin.substr(barre == TexteVue::npos ? 0 : barre + 1);
+  if (nom.size() < 4) throw Erreur(kArgumentIncorrect);
+  return nom.substr(0, nom.size() - 4);
+}
+
+}  // namespace
+
+BoardDisplay::BoardDisplay(GameState& jeu, Fenetre& fenetre, Systeme& systeme)
+    : jeu_(jeu),
+      plateau_(fenetre.plateau),
+      fenetre_(fenetre),
+      systeme_(systeme),
+      LblInfos_(*fenetre.Trouve("LblInfos")),
+      LblChrono_(*fenetre.Trouve("LblChrono")) {}
+
+void BoardDisplay::Affiche(Assistant& assistant) {
+  const Grille& VlGrille = jeu_.VgSilence ? jeu_.VmGrilleEtat : jeu_.VmGrille;
+  const std::int32_t VlEtat = jeu_.VgEtat;
+  const bool visible = assistant.LaFenetre().Visible;
+  jeu_.VgEtat = kAffichage;
+  if (VlGrille.Borne() > 0) {
+    const Marques marques = visible ? Marques{assistant.ChkLightSur(), assistant.ChkLightPoss(),
+                                              assistant.ChkForeBlue(), assistant.ChkForeRed()}
+                                    : Marques{};
+    AfficheCases(VlGrille, VlEtat == kSaisieGrille, marques);
+    plateau_.Reecrit();
+  }
+  jeu_.VgEtat = VlEtat;
+  const int VmCase = jeu_.VmCase;
+  if (visible && VmCase != 0 && VmCase <= VlGrille.Borne()) assistant.Infos(VlGrille, VmCase, true);
+}
+
+// Runs after every keystroke over every cell: a cell that shows what it should costs a few comparisons.
+void BoardDisplay::AfficheCases(const Grille& VlGrille, bool modifiable, const Marques& marques) {
+  const Bloc& bloc = VlGrille.Donnees();
+  for (int i = 1; i <= VlGrille.Borne(); ++i) {
+    const Code saisie = bloc.saisie[At(i)];
+    const std::int32_t etat = bloc.etat[At(i)];
+    Couleur fond = kBlanc;
+    Couleur encre = kNoir;
+    plateau_.Text(i, bloc.alphabet->TexteDe(saisie));
+    if (saisie == kVide) {
+      if (bloc.sure[At(i)] != kVide) {
+        if (marques.sure) fond = kVert;
+      } else if (bloc.poss[At(i)] != kVide) {
+        if (marques.poss) fond = kCyan;
+      }
+    } else if (etat == kDonnee) {
+      fond = kGris;
+      plateau_.Acces(i, !modifiable, modifiable);
+    } else if (etat == kPossible) {
+      if (marques.bleu) encre = kBleu;
+    } else if (etat == kErronee) {
+      if (marques.rouge) encre = kRouge;
+    }
+    plateau_.Couleurs(i, fond, encre);
+  }
+}
+
+void BoardDisplay::SetInfos() {
+  Rapport(systeme_, U"FRMSudoku.SetInfos", [this] {
+    Texte titre;
+    if (!jeu_.VmNom.empty()) {
+      titre = NomSansExtension(jeu_.VmNom);
+    } else if (jeu_.VgEtat != kSansGrille) {
+      titre = U"(Nouvelle grille)";
+    }
+    if (jeu_.VmPartie > 0) titre += U" - " + jeu_.VgParties[At(jeu_.VmPartie)].Nom;
+    LblInfos_.Caption = titre;
+  });
+}
+
+Twips BoardDisplay::GetPos(int VpPos, int VpAxe) const {
+  const CaseTexte& modele = plateau_.TxtCase(0);
+  const int N = jeu_.VmTaille;
+  if (VpAxe == 0) return (modele.Width + kEcart) * ((VpPos - 1) % N) + modele.Left;
+  return (modele.Height + kEcart) * ((VpPos - 1) / N) + modele.Top;
+}
+
+void BoardDisplay::MetEnPlace() {
+  const Geometrie& geometrie = *jeu_.VmGrille.Donnees().geometrie;
+  plateau_.Vide();
+  for (int i = 1; i <= geometrie.Cases(); ++i) plateau_.AjouteCase(GetPos(i, 0), GetPos(i, 1));
+  for (int b = 1; b <= geometrie.N(); ++b) {
+    const auto serie = geometrie.Serie(kCarre, b);
+    const CaseTexte& premiere = plateau_.TxtCase(serie.front());
+    const CaseTexte& derniere = plateau_.TxtCase(serie.back());
+    const Twips Left = premiere.Left - kEcart;
+    const Twips Top = premiere.Top - kEcart;
+    plateau_.AjouteCadre(Left, Top, derniere.Width + derniere.Left - Left + 2 * kEcart,
+                         derniere.Height + derniere.Top - Top + 2 * kEcart);
+  }
+  const CadreCarre& dernier = plateau_.Box(geometrie.N());
+  fenetre_.Width = dernier.Width + dernier.Left + 350;
+  fenetre_.Height = dernier.Height + dernier.Top + 850;
+  LblChrono_.Width = fenetre_.Width - 150;
+  LblInfos_.Width = fenetre_.Width - 150;
+  LblChrono_.Visible = true;
+}
+
+}  // namespace sudoku

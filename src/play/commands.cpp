@@ -1,0 +1,71 @@
+#include "play/commands.h"
+
+#include "play/frm_sudoku.h"
+
+namespace sudoku {
+
+bool Commands::Abandonne(TexteVue question) {
+  return frm_.Jeu().VgEtat == kSansGrille || frm_.LeSysteme().Question(question);
+}
+
+void Commands::MnuInit_Click() {
+  if (!Abandonne(U"Etes-vous certain de vouloir abandonner la grille en cours ?")) return;
+  Texte VlValeurs;
+  frm_.JeuVierge(VlValeurs);
+  frm_.SetMenus();
+  frm_.StartChrono();
+}
+
+void Commands::MnuStart_Click() {
+  frm_.JeuStart();
+}
+
+void Commands::MnuRestart_Click() {
+  if (frm_.LeSysteme().Question(U"Etes-vous certain de vouloir recommencer ?")) frm_.JeuReinit(false);
+}
+
+void Commands::MnuReinit_Click() {
+  if (frm_.LeSysteme().Question(U"Etes-vous certain de vouloir revenir aux seules cases certaines ?")) {
+    frm_.JeuReinit(true);
+  }
+}
+
+void Commands::MnuQuit_Click() {
+  if (Abandonne(U"Etes-vous certain de vouloir quitter le jeu ?")) frm_.LeSysteme().Fin();
+}
+
+void Commands::MnuAssist_Click() {
+  AlwaysOnTop(frm_.LAssistant().LaFenetre(), true);
+  frm_.Affiche();
+  frm_.SetMenus();
+}
+
+void Commands::MnuSolver_Click() {
+  Resout(false);
+}
+
+void Commands::MnuSolveur2_Click() {
+  Resout(true);
+}
+
+void Commands::Resout(bool VpGuess) {
+  if (!frm_.LeSysteme().Question(
+          U"La résolution entrainera la fin de la partie. Souhaitez-vous poursuivre ?")) {
+    return;
+  }
+  frm_.Tmr().Enabled = false;
+  frm_.LblChrono().Caption = U"Chrono non applicable (solver utilisé)";
+  frm_.JeuAuto(false, VpGuess);
+  frm_.SetMenus();
+}
+
+void Commands::Form_KeyDown(int KeyCode) {
+  frm_.Deplacement(KeyCode);
+}
+
+bool Commands::Form_QueryUnload(int) {
+  MnuQuit_Click();
+  return true;
+}
+
+}  // namespace sudoku

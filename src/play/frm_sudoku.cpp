@@ -1,0 +1,96 @@
+#include "play/frm_sudoku.h"
+
+#include <string_view>
+
+namespace sudoku {
+
+FRMSudoku::FRMSudoku(Systeme& systeme)
+    : systeme_(systeme),
+      fenetre_(TableFRMSudoku()),
+      Tmr_(*fenetre_.TrouveMinuterie("Tmr")),
+      LblChrono_(*fenetre_.Trouve("LblChrono")),
+      moteur_(jeu_),
+      pilote_(jeu_, moteur_, *this),
+      menus_(fenetre_),
+      affichage_(jeu_, fenetre_, systeme),
+      saisie_(*this),
+      deroulement_(*this),
+      commandes_(*this) {
+  jeu_.Message = [this](TexteVue texte) { systeme_.Message(texte); };
+}
+
+void FRMSudoku::Relie(Assistant& assistant, Stockage& stockage, APropos& aPropos) {
+  assistant_ = &assistant;
+  stockage_ = &stockage;
+  aPropos_ = &aPropos;
+  BrancheMenus();
+  BrancheEvenements();
+}
+
+void FRMSudoku::BrancheMenus() {
+  const auto branche = [this](std::string_view nom, std::function<void()> handler) {
+    fenetre_.TrouveArticle(nom)->Click = std::move(handler);
+  };
+  branche("MnuInit", [this] { commandes_.MnuInit_Click(); });
+  branche("MnuStart", [this] { commandes_.MnuStart_Click(); });
+  branche("MnuRestart", [this] { commandes_.MnuRestart_Click(); });
+  branche("MnuReinit", [this] { commandes_.MnuReinit_Click(); });
+  branche("MnuPartie", [this] { stockage_->MnuPartie_Click(); });
+  branche("MnuLoad", [this] { stockage_->MnuLoad_Click(); });
+  branche("MnuSave", [this] { stockage_->MnuSave_Click(); });
+  branche("MnuQuit", [this] { commandes_.MnuQuit_Click(); });
+  branche("MnuAbout", [this] { aPropos_->MnuAbout_Click(); });
+  branche("MnuAssist", [this] { commandes_.MnuAssist_Click(); });
+  branche("MnuSolver", [this] { commandes_.MnuSolver_Click(); });
+  branche("MnuSolveur2", [this] { commandes_.MnuSolveur2_Click(); });
+  branche("MnuScores", [this] { stockage_->MnuScores_Click(); });
+}
+
+void FRMSudoku::BrancheEvenements() {
+  fenetre_.KeyDown = [this](int KeyCode) { commandes_.Form_KeyDown(KeyCode); };
+  fenetre_.QueryUnload = [this](int UnloadMode) { return commandes_.Form_QueryUnload(UnloadMode); };
+  fenetre_.plateau.Change = [this](int Index) { saisie_.ChangeCase(Index); };
+  fenetre_.plateau.GotFocus = [this](int Index) { saisie_.TxtCase_GotFocus(Index); };
+  Tmr_.Timer = [this] { deroulement_.Tmr_Timer(); };
+}
+
+void FRMSudoku::Form_Load(TexteVue ligneDeCommande) {
+  jeu_.VgEtat = kSansGrille;
+  jeu_.VgParties.resize(1);
+  jeu_.VgScores.resize(1);
+  SetMenus();
+  AlwaysOnTop(fenetre_, true);
+  systeme_.DoEvents();
+  if (!ligneDeCommande.empty()) stockage_->JeuLoad(Texte(ligneDeCommande));
+}
+
+bool FRMSudoku::JeuVierge(Texte& VpValeurs) {
+  return sudoku::JeuVierge(jeu_, *this, VpValeurs);
+}
+
+void FRMSudoku::Affiche() {
+  affichage_.Affiche(*assistant_);
+}
+
+void FRMSudoku::SetInfos() {
+  affichage_.SetInfos();
+}
+
+void FRMSudoku::Message(TexteVue texte) {
+  systeme_.Message(texte);
+}
+
+Texte FRMSudoku::DemandeSymboles() {
+  return systeme_.Saisie(U"Valeurs possibles ?", U"Nouvelle grille", U"123456789");
+}
+
+void FRMSudoku::MetEnPlace() {
+  affichage_.MetEnPlace();
+  assistant_->OubliePosition();
+}
+
+void FRMSudoku::Evalue() {
+  moteur_.Evaluation(jeu_.VmGrille, 1);
+}
+
+}  // namespace sudoku
