@@ -6,8 +6,10 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <span>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include "platform/erreur.h"
 
@@ -16,25 +18,52 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// No game comes near it; a disk image opened by mistake must not eat the machine's memory.
+constexpr off_t kTailleMax = off_t{1} << 30;
+
 // A NUL can't be part of a path: cutting it there would name another file.
 bool Nommable(TexteVue chemin) {
-  return !chemin.empty() && chemin.find(U'\0') == TexteVue::npos;
+  return chemin.find(U'\0') == TexteVue::npos;
 }
 
 class Descripteur {
  public:
   explicit Descripteur(int fd) : fd_(fd) {}
-  Descripteur(const Descripteur&) = delete;
-  Descripteur& operator=(const Descripteur&) = delete;
+  Descripteur(Descripteur&& autre) noexcept : fd_(std::exchange(autre.fd_, -1)) {}
+  Descripteur& operator=(Descripteur&&) = delete;
   ~Descripteur() {
     if (fd_ >= 0) ::close(fd_);
   }
   int Fd() const { return fd_; }
+  bool Ouvert() const { return fd_ >= 0; }
   bool Ferme() { return ::close(std::exchange(fd_, -1)) == 0; }
 
  private:
   int fd_;
 };
+
+// Opens regular files only: pipes and devices may have no end, and opening one may wait for ever. Where it
+// fails, errno says why.
+Descripteur OuvreRegulier(const std::string& chemin, int mode, struct stat& infos) {
+  Descripteur fd(::open(chemin.c_str(), mode | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666));
+  if (!fd.Ouvert()) return fd;
+  if (::fstat(fd.Fd(), &infos) == 0 && S_ISREG(infos.st_mode)) return fd;
+  fd.Ferme();
+  errno = EINVAL;
+  return fd;
+}
+
+bool Absent(int code) {
+  return code == ENOENT || code == ENOTDIR;
+}
+
+// As read(2), past interruptions.
+ssize_t LitMorceau(int fd, std::span<char> tampon) {
+  for (;;) {
+    const ssize_t n = ::read(fd, tampon.data(), tampon.size());
+    if (n >= 0 || errno != EINTR) return n;
+  }
+}
 
 bool EcritTout(int fd, std::string_view octets) {
   while (!octets.empty()) {
@@ -46,80 +75,94 @@ bool EcritTout(int fd, std::string_view octets) {
   return true;
 }
 
-// Pipes and the like can't be flushed, and need not be.
-bool Vide(int fd) {
-  return ::fsync(fd) == 0 || errno == EINVAL || errno == EROFS;
+bool CopieTout(int de, int vers) {
+  std::vector<char> tampon(std::size_t{1} << 16);
+  for (;;) {
+    const ssize_t n = LitMorceau(de, tampon);
+    if (n <= 0) return n == 0;
+    if (!EcritTout(vers, {tampon.data(), static_cast<std::size_t>(n)})) return false;
+  }
+}
+
+// Puts the names of the folder that `chemin` lies in on the disk. A folder that may be used but not read, and
+// a file system that has no such operation, count as done.
+bool DossierSurDisque(const std::string& chemin) {
+  const std::size_t barre = chemin.rfind('/');
+  const std::string dossier = barre == std::string::npos ? "." : chemin.substr(0, barre + 1);
+  const Descripteur fd(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!fd.Ouvert()) return errno == EACCES;
+  return ::fsync(fd.Fd()) == 0 || errno == EINVAL;
 }
 
 class FichierDisque : public FichierEcrit {
  public:
-  explicit FichierDisque(int fd) : fd_(fd) {}
-  void Ecrit(std::string_view octets) override {
-    if (!EcritTout(fd_.Fd(), octets)) throw Erreur(kAccesFichier);
-  }
-  void VideSurDisque() override {
-    if (!Vide(fd_.Fd())) throw Erreur(kAccesFichier);
-  }
-  void Ferme() override {
-    if (!fd_.Ferme()) throw Erreur(kAccesFichier);
-  }
+  FichierDisque(Descripteur fd, std::string chemin, bool neuf)
+      : fd_(std::move(fd)), chemin_(std::move(chemin)), neuf_(neuf) {}
+  bool Neuf() const override { return neuf_; }
+  void Tronque() override { Exige(::ftruncate(fd_.Fd(), 0) == 0); }
+  void Ecrit(std::string_view octets) override { Exige(EcritTout(fd_.Fd(), octets)); }
+  void VideSurDisque() override { Exige(::fsync(fd_.Fd()) == 0 && (!neuf_ || DossierSurDisque(chemin_))); }
+  void Ferme() override { Exige(fd_.Ferme()); }
 
  private:
+  static void Exige(bool reussi) {
+    if (!reussi) throw Erreur(kAccesFichier);
+  }
   Descripteur fd_;
+  std::string chemin_;
+  bool neuf_;
 };
 
 }  // namespace
 
 std::string FichiersDisque::Lit(TexteVue chemin) {
   if (!Nommable(chemin)) throw Erreur(kFichierIntrouvable);
-  const Descripteur fd(::open(VersUtf8(chemin).c_str(), O_RDONLY | O_CLOEXEC));
-  const bool absent = errno == ENOENT || errno == ENOTDIR;
-  if (fd.Fd() < 0) throw Erreur(absent ? kFichierIntrouvable : kAccesFichier);
+  struct stat infos = {};
+  const Descripteur fd = OuvreRegulier(VersUtf8(chemin), O_RDONLY, infos);
+  if (!fd.Ouvert()) throw Erreur(Absent(errno) ? kFichierIntrouvable : kAccesFichier);
+  if (infos.st_size > kTailleMax) throw Erreur(kAccesFichier);
   std::string contenu;
-  char tampon[65536];
+  contenu.reserve(static_cast<std::size_t>(infos.st_size));
+  std::vector<char> tampon(std::size_t{1} << 16);
   for (;;) {
-    const ssize_t n = ::read(fd.Fd(), tampon, sizeof tampon);
-    if (n < 0 && errno == EINTR) continue;
-    if (n < 0) throw Erreur(kAccesFichier);
+    const ssize_t n = LitMorceau(fd.Fd(), tampon);
+    if (n < 0 || contenu.size() > static_cast<std::size_t>(kTailleMax)) throw Erreur(kAccesFichier);
     if (n == 0) return contenu;
-    contenu.append(tampon, static_cast<std::size_t>(n));
+    contenu.append(tampon.data(), static_cast<std::size_t>(n));
   }
 }
 
-std::unique_ptr<FichierEcrit> FichiersDisque::Cree(TexteVue chemin) {
+std::unique_ptr<FichierEcrit> FichiersDisque::Ouvre(TexteVue chemin) {
   if (!Nommable(chemin)) throw Erreur(kAccesFichier);
-  const int fd = ::open(VersUtf8(chemin).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-  if (fd < 0) throw Erreur(kAccesFichier);
-  return std::make_unique<FichierDisque>(fd);
+  const std::string nom = VersUtf8(chemin);
+  struct stat infos = {};
+  Descripteur ancien = OuvreRegulier(nom, O_WRONLY, infos);
+  if (ancien.Ouvert()) return std::make_unique<FichierDisque>(std::move(ancien), nom, false);
+  if (errno != ENOENT) throw Erreur(kAccesFichier);
+  Descripteur nouveau = OuvreRegulier(nom, O_WRONLY | O_CREAT, infos);
+  if (!nouveau.Ouvert()) throw Erreur(kAccesFichier);
+  return std::make_unique<FichierDisque>(std::move(nouveau), nom, true);
 }
 
-void FichiersDisque::Copie(TexteVue de, TexteVue vers) {
+bool FichiersDisque::Copie(TexteVue de, TexteVue vers) {
   if (!Nommable(de) || !Nommable(vers)) throw Erreur(kAccesFichier);
-  const Descripteur source(::open(VersUtf8(de).c_str(), O_RDONLY | O_CLOEXEC));
-  struct stat droits = {};
-  if (source.Fd() < 0 || ::fstat(source.Fd(), &droits) != 0) throw Erreur(kAccesFichier);
-  if (!S_ISREG(droits.st_mode)) throw Erreur(kAccesFichier);  // a device may have no end
-  std::string contenu;
-  try {
-    contenu = Lit(de);
-  } catch (const Erreur&) {
-    throw Erreur(kAccesFichier);
-  }
   const std::string nom = VersUtf8(vers);
-  Descripteur copie(::open(nom.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, droits.st_mode & 0777));
-  if (copie.Fd() < 0) throw Erreur(kAccesFichier);
-  if (EcritTout(copie.Fd(), contenu) && Vide(copie.Fd()) && copie.Ferme()) return;
+  struct stat infos = {};
+  const Descripteur source = OuvreRegulier(VersUtf8(de), O_RDONLY, infos);
+  if (!source.Ouvert()) throw Erreur(kAccesFichier);
+  // The copy is no more open to others than the file.
+  Descripteur copie(::open(nom.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, infos.st_mode & 0777));
+  if (!copie.Ouvert() && errno == EEXIST) return false;
+  if (!copie.Ouvert()) throw Erreur(kAccesFichier);
+  const bool reussi = CopieTout(source.Fd(), copie.Fd()) && ::fsync(copie.Fd()) == 0 && copie.Ferme() &&
+                      DossierSurDisque(nom);
+  if (reussi) return true;
   ::unlink(nom.c_str());
   throw Erreur(kAccesFichier);
 }
 
 void FichiersDisque::Supprime(TexteVue chemin) {
   if (!Nommable(chemin) || ::unlink(VersUtf8(chemin).c_str()) != 0) throw Erreur(kAccesFichier);
-}
-
-bool FichiersDisque::Existe(TexteVue chemin) {
-  struct stat infos = {};
-  return Nommable(chemin) && ::lstat(VersUtf8(chemin).c_str(), &infos) == 0;
 }
 
 bool FichiersDisque::EstFichier(TexteVue chemin) {

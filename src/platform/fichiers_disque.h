@@ -8,10 +8,9 @@ namespace sudoku {
 class FichiersDisque : public Fichiers {
  public:
   std::string Lit(TexteVue chemin) override;
-  std::unique_ptr<FichierEcrit> Cree(TexteVue chemin) override;
-  void Copie(TexteVue de, TexteVue vers) override;
+  std::unique_ptr<FichierEcrit> Ouvre(TexteVue chemin) override;
+  bool Copie(TexteVue de, TexteVue vers) override;
   void Supprime(TexteVue chemin) override;
-  bool Existe(TexteVue chemin) override;
   bool EstFichier(TexteVue chemin) override;
   Texte DossierCourant() override;
 };
