@@ -1,0 +1,160 @@
+#include "apps/lot_appel.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+#include <string_view>
+#include <thread>
+
+#include "grid/geometrie.h"
+
+namespace sudoku::lot {
+namespace {
+
+constexpr std::string_view kAide =
+    "sudoku-lot : résout et explique des grilles en grand nombre\n"
+    "\n"
+    "  sudoku-lot resoudre  [--symboles S] [--deduction] [--processus J] [FICHIER…]\n"
+    "  sudoku-lot expliquer [--symboles S] [--passes 1|2] [--texte] [FICHIER…]\n"
+    "\n"
+    "Une grille par ligne : un caractère par case (« . », « 0 » ou une espace pour une case vide), ou deux, "
+    "la\n"
+    "valeur et l'état. Sans FICHIER, ou pour « - », l'entrée standard est lue. Ce qui suit une tabulation "
+    "est\n"
+    "ignoré, comme les lignes vides et celles qui commencent par « # ».\n"
+    "\n"
+    "resoudre   la grille, le résultat, les suppositions, celles réfutées, les retours arrière, le message\n"
+    "expliquer  tout ce qui est déduit de chaque case et pourquoi, en JSON\n"
+    "\n"
+    "  --symboles S   les symboles de la grille, un par valeur (123456789)\n"
+    "  --deduction    ne rien supposer\n"
+    "  --processus J  travailler sur J grilles à la fois ; 0 : une par processeur (1)\n"
+    "  --passes P     1 : sans compter les saisies non prouvées ; 2 : en les comptant au besoin (2)\n"
+    "  --texte        expliquer en texte au lieu de JSON\n"
+    "  --aide         cette aide\n"
+    "\n"
+    "Statut : 0 tout a été lu, 1 une ligne ou un fichier n'a pas pu l'être, 2 l'appel est incorrect.\n";
+
+// Why the call is wrong, in French.
+struct AppelIncorrect {
+  std::string raison;
+};
+
+int Entier(const std::string& mot, const char* option, int minimum, int maximum) {
+  int valeur = 0;
+  const auto [fin, erreur] = std::from_chars(mot.data(), mot.data() + mot.size(), valeur);
+  if (erreur != std::errc{} || fin != mot.data() + mot.size() || valeur < minimum || valeur > maximum) {
+    throw AppelIncorrect{std::string(option) + " : « " + mot + " » n'est pas un nombre de " +
+                         std::to_string(minimum) + " à " + std::to_string(maximum)};
+  }
+  return valeur;
+}
+
+Texte Symboles(const std::string& mot) {
+  const std::optional<Texte> symboles = DepuisUtf8Strict(mot);
+  if (!symboles) throw AppelIncorrect{"Choix incorrect : les symboles ne sont pas de l'UTF-8"};
+  if (!TailleAcceptable(symboles->size())) {
+    throw AppelIncorrect{"Choix incorrect : " + std::to_string(symboles->size()) +
+                         " symbole(s) ; il en faut 1, 4, 9, 16 … 169, le carré d'un nombre de 1 à 13"};
+  }
+  return *symboles;
+}
+
+// The library's own messages are English: they are told by their kind.
+std::string Raison(const CLI::ParseError& erreur) {
+  if (erreur.get_exit_code() == static_cast<int>(CLI::ExitCodes::ArgumentMismatch)) {
+    return "une option attend une valeur qui n'est pas donnée";
+  }
+  return "options incorrectes";
+}
+
+// What isn't an option is a file, and behind "--" everything. The library would take "[a]" for a list of
+// files.
+std::vector<std::string> Fichiers(const std::vector<std::string>& restes) {
+  std::vector<std::string> fichiers;
+  bool options = true;
+  for (const std::string& mot : restes) {
+    if (options && mot == "--") {
+      options = false;
+    } else if (options && mot.size() > 1 && mot.front() == '-') {
+      throw AppelIncorrect{"option inconnue : " + mot};
+    } else {
+      fichiers.push_back(mot);
+    }
+  }
+  if (fichiers.empty()) fichiers.emplace_back("-");
+  return fichiers;
+}
+
+Appel Lis(std::vector<std::string> mots) {
+  constexpr int kProcessusMax = 1024;
+  Appel appel;
+  std::string symboles;
+  std::string processus;
+  std::string passes;
+  CLI::App app;
+  app.set_help_flag();
+  const auto option = [&app](const char* nom, std::string& valeur) {
+    return app.add_option(nom, valeur)->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+  };
+  const CLI::Option* const donnes = option("--symboles", symboles);
+  if (appel.commande = mots.front(); appel.commande == "resoudre") {
+    option("--processus", processus);
+    app.add_flag("--deduction", appel.deduction);
+  } else if (appel.commande == "expliquer") {
+    option("--passes", passes);
+    app.add_flag("--texte", appel.texte);
+  } else {
+    throw AppelIncorrect{"commande inconnue : " + appel.commande};
+  }
+  app.allow_extras();
+  try {
+    mots.erase(mots.begin());
+    std::reverse(mots.begin(), mots.end());  // the order that the library takes words in
+    app.parse(std::move(mots));
+  } catch (const CLI::ParseError& erreur) {
+    throw AppelIncorrect{Raison(erreur)};
+  }
+  appel.fichiers = Fichiers(app.remaining());
+  if (donnes->count() > 0) appel.symboles = Symboles(symboles);
+  if (!passes.empty()) appel.passes = Entier(passes, "--passes", 1, 2);
+  if (!processus.empty()) appel.processus = Entier(processus, "--processus", 0, kProcessusMax);
+  if (appel.processus == 0)
+    appel.processus = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  return appel;
+}
+
+void Ecris(std::FILE* flux, std::string_view texte) {
+  std::fwrite(texte.data(), 1, texte.size(), flux);
+}
+
+// The word after --symboles is a value, whatever it is.
+bool AideDemandee(const std::vector<std::string>& mots) {
+  for (std::size_t i = 0; i < mots.size() && mots[i] != "--"; ++i) {
+    if (mots[i] == "--aide" || mots[i] == "--help" || mots[i] == "-h") return true;
+    if (mots[i] == "--symboles") ++i;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::optional<Appel> LisAppel(int argc, const char* const* argv, int& statut) {
+  const std::vector<std::string> mots(argv + std::min(argc, 1), argv + argc);
+  statut = 0;
+  if (AideDemandee(mots)) {
+    Ecris(stdout, kAide);
+    return std::nullopt;
+  }
+  try {
+    if (mots.empty()) throw AppelIncorrect{"il manque la commande"};
+    return Lis(mots);
+  } catch (const AppelIncorrect& erreur) {
+    Ecris(stderr, "sudoku-lot : " + erreur.raison + "\nsudoku-lot --aide dit comment l'appeler.\n");
+    statut = 2;
+    return std::nullopt;
+  }
+}
+
+}  // namespace sudoku::lot

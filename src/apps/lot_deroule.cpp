@@ -1,0 +1,92 @@
+#include "apps/lot_deroule.h"
+
+#include <optional>
+
+#include "apps/lot_lignes.h"
+#include "apps/lot_progres.h"
+#include "apps/lot_sortie.h"
+
+namespace sudoku::lot {
+namespace {
+
+class Deroulement {
+ public:
+  explicit Deroulement(const Appel& appel) : appel_(appel), progres_(TailleDesFichiers(appel.fichiers)) {}
+
+  void Seul(Ouvrier& ouvrier) {
+    Poste poste;
+    Parcours([&]() -> Poste& { return poste; },
+             [&] {
+               poste.reponse.Vide();
+               ouvrier.Traite(poste.champ, poste.reponse);
+               Livre(poste);
+             });
+  }
+  void Ensemble(const Atelier& atelier) {
+    Equipe equipe(appel_.processus, atelier, [this](const Poste& poste) { Livre(poste); });
+    Parcours([&]() -> Poste& { return equipe.Prochain(); }, [&] { equipe.Confie(); });
+  }
+  int Statut() const { return statut_; }
+
+ private:
+  // Fills the place that `prochain` gives with each line and hands it over to `confie`.
+  template <class Prochain, class Confie>
+  void Parcours(Prochain prochain, Confie confie) {
+    Lignes lignes([this] {
+      lecteurAttend_ = true;
+      sortie_.Pousse();
+    });
+    for (const std::string& fichier : appel_.fichiers) {
+      std::optional<std::string> erreur = lignes.Ouvre(fichier);
+      while (const auto ligne = erreur ? std::nullopt : lignes.Suivante()) {
+        lecteurAttend_ = false;
+        Poste& poste = prochain();
+        poste.champ = ligne->champ;
+        poste.fichier = &fichier;
+        poste.numero = ligne->numero;
+        poste.lus = lignes.Octets();
+        confie();
+      }
+      if (!erreur) erreur = lignes.Erreur();
+      if (erreur) Signale(fichier + ": " + *erreur);
+    }
+  }
+
+  // Called for one line at a time, in their order.
+  void Livre(const Poste& poste) {
+    progres_.Avance(poste.lus);
+    if (!poste.reponse.erreur.empty()) {
+      Signale(*poste.fichier + ":" + std::to_string(poste.numero) + ": " + poste.reponse.erreur);
+      return;
+    }
+    sortie_.Ecris(poste.reponse.sortie);
+    if (lecteurAttend_) sortie_.Pousse();
+  }
+
+  // Where both streams go to one place, messages stand among the results.
+  void Signale(const std::string& texte) {
+    statut_ = 1;
+    sortie_.Pousse();
+    progres_.Message(texte + "\n");
+  }
+
+  const Appel& appel_;
+  std::atomic<int> statut_{0};
+  std::atomic<bool> lecteurAttend_{false};  // for more to read: who finishes a grid shows it at once
+  Progres progres_;
+  Sortie sortie_;
+};
+
+}  // namespace
+
+int Deroule(const Appel& appel, const Atelier& atelier) {
+  Deroulement deroulement(appel);
+  if (appel.processus > 1) {
+    deroulement.Ensemble(atelier);
+  } else {
+    deroulement.Seul(*atelier());
+  }
+  return deroulement.Statut();
+}
+
+}  // namespace sudoku::lot

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "apps/lot_appel.h"
+#include "apps/lot_equipe.h"
+
+namespace sudoku::lot {
+
+// Runs over all lines of all files of the call: one worker, or a team of appel.processus, whose answers come
+// out in the order of the lines. Bad lines and unreadable files are reported on standard error and passed
+// over. Result: the exit status, 0 or, if there were any, 1.
+int Deroule(const Appel& appel, const Atelier& atelier);
+
+}  // namespace sudoku::lot

@@ -1,0 +1,148 @@
+#include "apps/lot_lignes.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+namespace sudoku::lot {
+namespace {
+
+constexpr std::size_t kTampon = std::size_t{1} << 18;
+static_assert(kTampon > Lignes::kChampMax, "a full buffer holds more than the longest field");
+
+}  // namespace
+
+std::string RaisonSysteme(int erreur) {
+  switch (erreur) {
+    case ENOENT:
+      return "fichier introuvable";
+    case EACCES:
+    case EPERM:
+      return "accès refusé";
+    case EISDIR:
+      return "c'est un dossier ; il faut un fichier de grilles";
+    case ENOTDIR:
+      return "un des dossiers du chemin est un fichier";
+    case ENAMETOOLONG:
+      return "chemin trop long";
+    case ENOSPC:
+    case EDQUOT:
+      return "plus de place sur le disque";
+    case EBADF:
+      return "flux fermé";
+    case EIO:
+      return "erreur du périphérique";
+    default:
+      return "erreur " + std::to_string(erreur) + " du système";
+  }
+}
+
+Lignes::Lignes(std::function<void()> avantAttente)
+    : avantAttente_(std::move(avantAttente)), tampon_(kTampon) {}
+
+Lignes::~Lignes() {
+  if (fd_ > STDIN_FILENO) close(fd_);
+}
+
+std::optional<std::string> Lignes::Ouvre(const std::string& chemin) {
+  if (fd_ > STDIN_FILENO) close(fd_);
+  debut_ = fin_ = 0;
+  numero_ = 0;
+  epuise_ = false;
+  erreur_.reset();
+  fd_ = chemin == "-" ? STDIN_FILENO : open(chemin.c_str(), O_RDONLY | O_CLOEXEC);
+  if (fd_ < 0) return RaisonSysteme(errno);
+  struct stat etat {};
+  if (fstat(fd_, &etat) != 0) return RaisonSysteme(errno);
+  if (S_ISDIR(etat.st_mode)) return RaisonSysteme(EISDIR);
+  return std::nullopt;
+}
+
+std::optional<Lignes::Ligne> Lignes::Suivante() {
+  while (const std::optional<std::string_view> brute = LigneBrute()) {
+    std::string_view champ = *brute;
+    if (champ.ends_with('\r')) champ.remove_suffix(1);
+    champ = champ.substr(0, champ.find('\t'));
+    if (!champ.empty() && champ.front() != '#') return Ligne{champ, numero_};
+  }
+  return std::nullopt;
+}
+
+// A whole line without its end, or the beginning of one that the buffer can't hold.
+std::optional<std::string_view> Lignes::LigneBrute() {
+  std::size_t cherches = 0;
+  for (;;) {
+    const char* const debut = tampon_.data() + debut_;
+    const std::size_t presents = fin_ - debut_;
+    const void* const lf = std::memchr(debut + cherches, '\n', presents - cherches);
+    if (lf == nullptr && presents < tampon_.size() && Remplis()) {
+      cherches = presents;
+      continue;
+    }
+    if (lf == nullptr && presents == 0) return std::nullopt;
+    if (erreur_) return std::nullopt;
+    ++numero_;
+    if (lf != nullptr) {
+      const auto longueur = static_cast<std::size_t>(static_cast<const char*>(lf) - debut);
+      debut_ += longueur + 1;
+      octets_ += static_cast<std::int64_t>(longueur) + 1;
+      return std::string_view(debut, longueur);
+    }
+    octets_ += static_cast<std::int64_t>(presents);
+    debut_ = fin_;
+    if (presents < tampon_.size()) return std::string_view(debut, presents);  // the last line has no end
+    tete_.assign(debut, kChampMax + 1);
+    SauteLaFin();
+    return tete_;
+  }
+}
+
+// Reads on behind what isn't handed out yet, which moves to the beginning of the buffer. False at the end of
+// the file, or where reading fails.
+bool Lignes::Remplis() {
+  if (epuise_) return false;
+  std::memmove(tampon_.data(), tampon_.data() + debut_, fin_ - debut_);
+  fin_ -= debut_;
+  debut_ = 0;
+  pollfd attente{fd_, POLLIN, 0};
+  if (poll(&attente, 1, 0) == 0) avantAttente_();
+  ssize_t lus = 0;
+  do {
+    lus = read(fd_, tampon_.data() + fin_, tampon_.size() - fin_);
+    if (lus < 0 && errno == EAGAIN) poll(&attente, 1, -1);
+  } while (lus < 0 && (errno == EINTR || errno == EAGAIN));
+  if (lus < 0) erreur_ = RaisonSysteme(errno);
+  epuise_ = lus <= 0;
+  fin_ += static_cast<std::size_t>(std::max<ssize_t>(lus, 0));
+  return lus > 0;
+}
+
+void Lignes::SauteLaFin() {
+  while (Remplis()) {
+    const char* const debut = tampon_.data();
+    const auto* const lf = static_cast<const char*>(std::memchr(debut, '\n', fin_));
+    debut_ = lf == nullptr ? fin_ : static_cast<std::size_t>(lf - debut) + 1;
+    octets_ += static_cast<std::int64_t>(debut_);
+    if (lf != nullptr) return;
+  }
+}
+
+std::optional<std::int64_t> TailleDesFichiers(const std::vector<std::string>& chemins) {
+  std::int64_t somme = 0;
+  for (const std::string& chemin : chemins) {
+    struct stat etat {};
+    const bool entree = chemin == "-";
+    if ((entree ? fstat(STDIN_FILENO, &etat) : stat(chemin.c_str(), &etat)) != 0) continue;
+    if (!S_ISREG(etat.st_mode)) return std::nullopt;
+    somme += etat.st_size - (entree ? lseek(STDIN_FILENO, 0, SEEK_CUR) : 0);
+  }
+  return somme;
+}
+
+}  // namespace sudoku::lot

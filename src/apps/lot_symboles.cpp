@@ -1,0 +1,24 @@
+#include "apps/lot_symboles.h"
+
+namespace sudoku::lot {
+
+void SymbolesUtf8::Ecris(const Alphabet& alphabet, std::span<const Code> codes, std::string& sortie) {
+  for (const Code code : codes) {
+    if (code == kVide) {
+      sortie += '.';
+    } else if (const std::string& texte = De(alphabet, code); texte.size() == 1) {
+      sortie += texte.front();  // the usual case, and far cheaper
+    } else {
+      sortie += texte;
+    }
+  }
+}
+
+void SymbolesUtf8::Etends(const Alphabet& alphabet, std::size_t rang) {
+  for (std::size_t i = textes_.size(); i <= rang; ++i) {
+    const std::string texte = VersUtf8(alphabet.TexteDe(static_cast<Code>(i) - 1));
+    textes_.push_back(forme_ == nullptr ? texte : forme_(texte));
+  }
+}
+
+}  // namespace sudoku::lot

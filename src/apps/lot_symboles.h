@@ -1,0 +1,34 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "grid/alphabet.h"
+
+namespace sudoku::lot {
+
+// The texts of cells as output wants them, in UTF-8, each worked out once. Serves one alphabet.
+class SymbolesUtf8 {
+ public:
+  // `forme` makes the output form of a text that is already UTF-8.
+  explicit SymbolesUtf8(std::string (*forme)(std::string_view) = nullptr) : forme_(forme) {}
+
+  const std::string& De(const Alphabet& alphabet, Code code) {
+    const auto rang = static_cast<std::size_t>(code + 1);
+    if (rang >= textes_.size()) Etends(alphabet, rang);
+    return textes_[rang];
+  }
+
+  // Appends the contents of cells in a row, "." for an empty one.
+  void Ecris(const Alphabet& alphabet, std::span<const Code> codes, std::string& sortie);
+
+ private:
+  void Etends(const Alphabet& alphabet, std::size_t rang);
+
+  std::string (*forme_)(std::string_view);
+  std::vector<std::string> textes_;  // by code + 1: element 0 is the empty text
+};
+
+}  // namespace sudoku::lot
