@@ -55,6 +55,8 @@ class Grille {
   // N*N; 0 for a grid that has no cells.
   int Borne() const { return bloc_ ? bloc_->geometrie->Cases() : 0; }
   int N() const { return bloc_ ? bloc_->geometrie->N() : 0; }
+  // The symbols it was made for; empty for a grid that has no cells.
+  Texte Symboles() const { return bloc_ ? bloc_->alphabet->Symboles() : Texte(); }
   // Cell i, from 1 to Borne().
   ClsPos operator()(int i) const { return ClsPos(bloc_.get(), i); }
   // The two see the same cells.

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "play/voisins.h"
+#include "storage/best_scores.h"
+#include "storage/game_file.h"
+#include "storage/grid_library.h"
+
+namespace sudoku {
+
+// All that is stored of a game, as the main window sees it.
+class GameStorage : public Stockage {
+ public:
+  GameStorage(FRMSudoku& frm, DialogueFichier& dialogue)
+      : bibliotheque_(frm), scores_(frm), fichier_(frm, bibliotheque_, dialogue) {}
+  GameStorage(const GameStorage&) = delete;
+  GameStorage& operator=(const GameStorage&) = delete;
+
+  void MnuLoad_Click() override { fichier_.MnuLoad_Click(); }
+  void MnuSave_Click() override { fichier_.MnuSave_Click(); }
+  void MnuPartie_Click() override { bibliotheque_.MnuPartie_Click(); }
+  void MnuScores_Click() override { scores_.ShowScores(); }
+  void JeuLoad(Texte VpFichier) override { fichier_.JeuLoad(VpFichier); }
+  void SetScores() override { scores_.SetScores(); }
+
+ private:
+  GridLibrary bibliotheque_;
+  BestScores scores_;
+  GameFile fichier_;
+};
+
+}  // namespace sudoku

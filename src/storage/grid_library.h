@@ -1,0 +1,31 @@
+#pragma once
+
+#include "grid/game_state.h"
+#include "text/texte.h"
+
+namespace sudoku {
+
+class FRMSudoku;
+
+// The library of named games, which all stand on the grid of their file.
+class GridLibrary {
+ public:
+  explicit GridLibrary(FRMSudoku& frm) : frm_(frm) {}
+
+  // Has the user choose a game, in mode kChargePartie, or name one, in kSauvePartie. Leaves the choice in
+  // VmPartie; the mode is what it was.
+  void ShowParties(Mode mode);
+
+  // Makes a running game of a state string: the user may choose one of the library instead, the board is
+  // rebuilt for VmValeurs, the cells are loaded, play starts. An empty string touches nothing but VmPartie.
+  // Symbols that no grid can have leave the board too, and VmValeurs is that of the board again. A string
+  // that breaks off is reported; the board then holds the cells before the break, in entry.
+  void JeuLoadPartie(Texte VpPartie);
+
+  void MnuPartie_Click();
+
+ private:
+  FRMSudoku& frm_;
+};
+
+}  // namespace sudoku
