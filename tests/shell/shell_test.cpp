@@ -1,0 +1,134 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "headless/systeme_sans_ecran.h"
+#include "platform/fichiers_disque.h"
+#include "shell/about.h"
+#include "shell/com_dlg.h"
+
+namespace sudoku {
+namespace {
+
+// Answers every box at once, file dialogs with `chemin`, and keeps what was asked.
+class SystemeQuiRepond : public SystemeSansEcran {
+ public:
+  SystemeQuiRepond() : SystemeSansEcran(sortie, disque_, [this] { return Repond(); }) {}
+
+  void Fichier(DemandeFichier& demande) override {
+    posee = demande;
+    SystemeSansEcran::Fichier(demande);
+  }
+  std::optional<ValeurRegistre> Registre(std::uint32_t, TexteVue, TexteVue) override { return registre; }
+
+  Texte chemin;
+  DemandeFichier posee;
+  std::optional<ValeurRegistre> registre;
+  std::ostringstream sortie;
+
+ private:
+  bool Repond() {
+    Boite* const boite = Dessus();
+    if (boite == nullptr) return false;
+    boite->texte = chemin;
+    return boite->close = true;
+  }
+  FichiersDisque disque_;
+};
+
+Texte AvecNul(TexteVue texte) {
+  Texte resultat(texte);
+  for (char32_t& c : resultat) c = c == U'|' ? U'\0' : c;
+  return resultat;
+}
+
+TEST(ComDlg, ListesDeFiltres) {
+  const struct {
+    std::vector<Texte> filtres;
+    TexteVue liste;
+  } cas[] = {{{}, U""}, {{U"a"}, U"a|*.*|"}, {{U"a", U"b"}, U"a|b|"}, {{U"a", U"b", U"c"}, U"a|b|c|*.*|"}};
+  for (const auto& c : cas) {
+    EXPECT_EQ(CreateFilterString(c.filtres), AvecNul(c.liste)) << c.filtres.size();
+  }
+}
+
+TEST(ComDlg, DemandeParExtension) {
+  const struct {
+    TexteVue extension, filtre;
+  } cas[] = {{U"sud", U"Sudoku Files (*.sud)|*.sud|"}, {U"SUD", U"Sudoku Files (*.sud)|*.sud|"},
+             {U"txt", U"Text Files (*.txt)|*.txt|"},   {U"mdb", U"Database Files (*.MDB)|*.MDB|"},
+             {U"xls", U"Excel Files (*.xls)|*.xls|"},  {U"", U"All Files (*.*)|*.*|"},
+             {U"sudo", U"All Files (*.*)|*.*|"}};
+  for (const auto& c : cas) {
+    SystemeQuiRepond systeme;
+    EXPECT_EQ(ComDlg(systeme).GetOpenFile(U"/dossier", U"Titre", c.extension), U"") << "cancelled";
+    const DemandeFichier& posee = systeme.posee;
+    EXPECT_EQ(posee.lpstrFilter, AvecNul(c.filtre)) << VersUtf8(c.extension);
+    EXPECT_EQ(posee.lpstrInitialDir, U"/dossier");
+    EXPECT_EQ(posee.lpstrTitle, U"Titre");
+    EXPECT_EQ(posee.lpstrDefExt, U"") << "the dialog must add no extension";
+    EXPECT_EQ(posee.Flags, 20);
+    EXPECT_EQ(posee.lStructSize, 76);
+    EXPECT_EQ(posee.nMaxFile, 511);
+    EXPECT_EQ(posee.lpstrFile, Texte(512, U'\0'));
+  }
+  DemandeFichier demande;
+  ConvertStruct2Win({}, demande);
+  EXPECT_EQ(demande.lpstrFilter, AvecNul(U"All Files|*.*|"));
+}
+
+TEST(ComDlg, CheminRendu) {
+  const struct {
+    Texte reponse, chemin;
+  } cas[] = {{U"/a/b.sud", U"/a/b.sud"},
+             {AvecNul(U"a.sud|b"), U"a.sud"},
+             {AvecNul(U"|a.sud"), U""},
+             {Texte(511, U'x'), Texte(511, U'x')},
+             {Texte(512, U'x'), U""}};
+  for (const auto& c : cas) {
+    SystemeQuiRepond systeme;
+    systeme.chemin = c.reponse;
+    EXPECT_EQ(ComDlg(systeme).GetOpenFile({}, {}, U"sud"), c.chemin) << VersUtf8(c.reponse);
+    EXPECT_EQ(systeme.posee.lpstrInitialDir, FichiersDisque().DossierCourant());
+  }
+  TypFileDlg record;
+  DemandeFichier demande;
+  ConvertStruct2Win(record, demande);
+  Repond(demande, U"/dossier/jeu.sud");
+  ConvertWin2Struct(demande, record);
+  EXPECT_EQ(record.FileTitle, U"jeu.sud");
+  EXPECT_EQ(record.FileOffset, 9);
+  EXPECT_EQ(record.FileExtension, 13);
+}
+
+TEST(GetKeyValue, ParType) {
+  const struct {
+    std::uint32_t type;
+    Texte donnees, avant;
+    bool trouvee;
+    Texte valeur;
+  } cas[] = {{1, U"chemin", {}, true, U"chemin"},
+             {1, AvecNul(U"chemin|"), {}, true, U"chemin"},
+             {1, AvecNul(U"a||"), U"vieux", true, AvecNul(U"a|")},
+             {1, Texte(1024, U'x'), {}, true, Texte(1024, U'x')},
+             {1, Texte(1025, U'x'), U"vieux", false, {}},
+             {3, U"octets", U"vieux", true, U"vieux"},
+             {4, U"\x01\x02\x03\x04", {}, true, U"17185"},  // 0x4321: digits without leading zeros
+             {4, AvecNul(U"\x34\x12||"), {}, true, U"4660"},
+             {4, AvecNul(U"||||"), {}, true, U"0"},
+             {4, U"\xFF\xFF\xFF\xFF", {}, true, U"4294967295"},
+             {4, U"\xFF\xFF\xFF\xFF\x01", {}, false, {}},
+             {4, {}, {}, false, {}}};
+  int rang = 0;
+  for (const auto& c : cas) {
+    SystemeQuiRepond systeme;
+    systeme.registre = ValeurRegistre{c.type, c.donnees};
+    Texte valeur = c.avant;
+    EXPECT_EQ(GetKeyValue(systeme, 0x80000002, U"cle", U"valeur", valeur), c.trouvee) << rang;
+    EXPECT_EQ(valeur, c.valeur) << rang;
+    ++rang;
+  }
+}
+
+}  // namespace
+}  // namespace sudoku
