@@ -1,5 +1,7 @@
 #include "engine/evaluation.h"
 
+#include <algorithm>
+
 #include "engine/figures.h"
 #include "engine/series.h"
 #include "engine/tableau.h"
@@ -12,9 +14,11 @@ template <int W>
 class Moteur {
  public:
   // Up to VpPasses passes; GrilleCheck is the caller's.
-  void Passes(GameState& jeu, Grille& grille, int VpPasses) {
+  void Passes(GameState& jeu, Grille& grille, int VpPasses, bool premiereConnue) {
     t_.Adopte(jeu, grille);
-    for (int passe = 1; passe <= VpPasses; ++passe) {
+    const bool seconde = premiereConnue && VpPasses == 2 &&
+                         std::ranges::find(grille.Donnees().etat, kPossible) != grille.Donnees().etat.end();
+    for (int passe = seconde ? 2 : 1; passe <= VpPasses; ++passe) {
       if (VpPasses == 2) jeu.VgEtat = passe == 1 ? kJeu : kSecondePasse;
       const bool saisies = t_.Amorce();
       t_.Releve();
@@ -47,14 +51,14 @@ class Moteur {
 
 class Evaluateur::Travail {
  public:
-  void Passes(GameState& jeu, Grille& grille, int VpPasses) {
+  void Passes(GameState& jeu, Grille& grille, int VpPasses, bool premiereConnue) {
     switch (grille.Donnees().mots) {
       case 1:
-        return Lance(un_, jeu, grille, VpPasses);
+        return Lance(un_, jeu, grille, VpPasses, premiereConnue);
       case 2:
-        return Lance(deux_, jeu, grille, VpPasses);
+        return Lance(deux_, jeu, grille, VpPasses, premiereConnue);
       default:
-        return Lance(trois_, jeu, grille, VpPasses);
+        return Lance(trois_, jeu, grille, VpPasses, premiereConnue);
     }
   }
 
@@ -62,9 +66,9 @@ class Evaluateur::Travail {
 
  private:
   template <int W>
-  static void Lance(std::unique_ptr<Moteur<W>>& moteur, GameState& jeu, Grille& grille, int VpPasses) {
+  static void Lance(std::unique_ptr<Moteur<W>>& moteur, GameState& jeu, Grille& grille, int VpPasses, bool premiereConnue) {
     if (!moteur) moteur = std::make_unique<Moteur<W>>();
-    moteur->Passes(jeu, grille, VpPasses);
+    moteur->Passes(jeu, grille, VpPasses, premiereConnue);
   }
 
   std::unique_ptr<Moteur<1>> un_;
@@ -78,10 +82,10 @@ Evaluateur::~Evaluateur() = default;
 // A changed Etat changes what the deductions rest on: everything is worked out again, with two passes. It ends:
 // an entry goes from 2 to 1 or 3 and from 3 to 1 at most once between two lifts from 3 to 2, and GrilleCheck
 // allows each cell N lifts.
-std::int16_t Evaluateur::Evaluation(Grille& VpGrille, int VpPasses) {
+std::int16_t Evaluateur::Evaluation(Grille& VpGrille, int VpPasses, bool premiereConnue) {
   travail_->levees.clear();
   for (int passes = VpPasses;; passes = 2) {
-    travail_->Passes(jeu_, VpGrille, passes);
+    travail_->Passes(jeu_, VpGrille, passes, premiereConnue);
     const std::int32_t verdict = GrilleCheck(VpGrille, travail_->levees);
     if (passes == 2) jeu_.VgEtat = kJeu;
     if (verdict != kReevaluer) return static_cast<std::int16_t>(verdict);

@@ -19,8 +19,10 @@ class Evaluateur {
   // entries anew. VpPasses 2: the first pass sees givens and proved cells, the second one, run only if the
   // first found no cell to fill and there are unproved entries, counts those as true and writes what it finds
   // to SolutionPoss; VgEtat is 2 afterwards. VpPasses 1: one pass in the present mode (1 or 2).
+  // premiereConnue: the first of two passes would give what the grid's fields show already, and no cell to fill;
+  // it is left out where there are unproved entries to run the second one for.
   // Result: -1 a cell has no candidate, 0 the grid is complete, otherwise the number of cells still to fill.
-  std::int16_t Evaluation(Grille& VpGrille, int VpPasses);
+  std::int16_t Evaluation(Grille& VpGrille, int VpPasses, bool premiereConnue = false);
 
  private:
   class Travail;

@@ -5,6 +5,8 @@
 #include "engine/evaluation.h"
 #include "grid/game_state.h"
 #include "solver/suppositions.h"
+#include "solver/travail9.h"
+#include "solver/travail_grille.h"
 
 namespace sudoku {
 
@@ -18,31 +20,38 @@ class PlateauAuto {
   virtual void Message(TexteVue texte) = 0;
 };
 
+// What is read of the grid that a run leaves.
+enum class Lecture {
+  kTout,      // every field, and the player's grid whenever a box is open
+  kContenus,  // contents and Etat alone, after the run
+};
+
 // Automatic play, the one entry to the solver. Works on the live grid with messages (VgSilence False) or
 // silently on a copy, VmGrilleEtat (VgSilence True). Every run ends, whatever the grid; VgEtat is 2 after it.
 class AutoDriver {
  public:
-  AutoDriver(GameState& jeu, Evaluateur& moteur, PlateauAuto& plateau);
+  AutoDriver(GameState& jeu, Evaluateur& moteur, PlateauAuto& plateau, Lecture lecture = Lecture::kTout);
 
   // VpReset: forget that VmGrilleEtat is complete (otherwise a complete one is simply shown, without a
   // message). VpGuess: suppose symbols where deduction stops.
   void JeuAuto(bool VpReset, bool VpGuess);
 
+  // Suppositions of the last run: made, and refuted.
+  const Suppositions& VlSupp() const { return VlSupp_; }
+
  private:
-  std::int16_t Cherche(Grille& VlTravail, bool VpGuess);
-  std::int16_t JeuSolve(Grille& VpGrille);
-  bool GuessResult(std::int16_t VpResultat);
-  bool Guess(Grille& VpGrille);
-  std::int16_t Acheve(Grille& VlTravail);
+  std::int16_t Cherche(Travail& travail, bool VpGuess);
+  bool GuessResult(std::int16_t VpResultat, Travail& travail);
+  bool Guess(Travail& travail);
   Texte MessageFinal(std::int16_t VlVerdict) const;
 
   GameState& jeu_;
-  Evaluateur& moteur_;
   PlateauAuto& plateau_;
-  // Of the run: the base grid of the suppositions (kept between runs, so that a run allocates nothing), and
-  // the open levels.
-  Grille VlBase_;
+  Lecture lecture_;
+  TravailGrille general_;
+  Travail9 neuf_;
   Suppositions VlSupp_;
+  Essai Possible_;
 };
 
 }  // namespace sudoku

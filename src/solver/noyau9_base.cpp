@@ -1,0 +1,2 @@
+#define SUDOKU_NOYAU noyau_base
+#include "solver/noyau9_passe.h"

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "engine/evaluation.h"
+#include "solver/travail.h"
+
+namespace sudoku {
+
+// A run on any grid, cell by cell, with the engine.
+class TravailGrille : public Travail {
+ public:
+  explicit TravailGrille(Evaluateur& moteur) : moteur_(moteur) {}
+
+  // Works on the cells of `grille` until Detache.
+  void Commence(const Grille& grille);
+  // The board as it stands; lets go of it.
+  Grille Rend();
+  // Puts a cell of the board at this content and Etat, unjudged.
+  void Charge(int cellule, Code symbole, std::int32_t etat);
+
+  std::int16_t JeuSolve() override;
+  void PrendBase() override;
+  void Reconstruit() override { GrilleCopy(base_, travail_); }
+  void Detache() override;
+  void Suppose(int cellule, Code symbole) override;
+  int CelluleOuverte(int cellule, Essai& Possible) override;
+  bool SymboleEnDouble() override { return sudoku::SymboleEnDouble(travail_); }
+  std::int16_t Acheve() override;
+  void Montre() override {}
+
+ private:
+  Evaluateur& moteur_;
+  Grille travail_;
+  Grille base_;
+  bool detachee_ = false;
+  // The base holds no entry of the player that isn't proved: the first pass of every later evaluation would
+  // see what the base's own saw, and give nothing.
+  bool baseProuvee_ = false;
+};
+
+}  // namespace sudoku
