@@ -46,8 +46,9 @@ void AutoDriver::JeuAuto(bool VpReset, bool VpGuess) {
 // candidate of one, or, where no cell is left to suppose in, ends the run or refutes.
 std::int16_t AutoDriver::Cherche(Travail& travail, bool VpGuess) {
   VlSupp_.Vide();
+  rejouee_ = true;
   for (bool base = false;; base = true) {
-    std::int16_t VlVerdict = travail.JeuSolve();
+    std::int16_t VlVerdict = travail.JeuSolve(false);
     if (!base) travail.PrendBase();
     // Two cells of a unit can get one symbol in one sweep, and no cell then lacks a candidate.
     if (VlVerdict == 0 && VlSupp_.Niveaux() > 0 && travail.SymboleEnDouble()) VlVerdict = kInsoluble;
@@ -73,28 +74,36 @@ bool AutoDriver::GuessResult(std::int16_t VpResultat, Travail& travail) {
   return true;
 }
 
-// Makes the next supposition: a further candidate of a refuted level, on the board rebuilt from the base and the
-// levels below; or, on the board as it is, a new level on the first open cell behind the last. (It is what the
-// base and all levels give: it was made of them, and the solve pass that would follow has just been run.)
-// False: there is no such cell.
+// Makes the next supposition, on the board rebuilt from the base and the live suppositions: a further candidate of
+// a refuted level, or a new level on the first open cell behind the last, after a solve pass. False: there is no
+// such cell.
 bool AutoDriver::Guess(Travail& travail) {
   travail.Detache();
-  int dernier = 0;
-  if (VlSupp_.Niveaux() > 0) {
-    TSupposition& niveau = VlSupp_.Dernier();
-    if (!niveau.vivante) {
-      niveau.vivante = true;
-      travail.Reconstruit();
-      for (std::size_t i = 1; i <= VlSupp_.Niveaux(); ++i) travail.Suppose(VlSupp_[i].Index, VlSupp_[i].Valeur());
-      return true;
-    }
-    dernier = niveau.Index;
+  if (VlSupp_.Niveaux() > 0 && !VlSupp_.Dernier().vivante) {
+    VlSupp_.Dernier().vivante = true;
+    Rejoue(travail);
+    return true;
   }
-  const int cellule = travail.CelluleOuverte(dernier, Possible_);
+  // The board of the last attempt won't do: what it wrote before its last supposition was found without it, and
+  // the deduction depends on its order. It will where that supposition was made on the very board of the base.
+  if (!rejouee_) {
+    Rejoue(travail);
+    travail.JeuSolve(true);  // a contradiction is no matter here: a cell is looked for all the same
+  }
+  const bool surLaBase = VlSupp_.Niveaux() == 0;
+  const int cellule = travail.CelluleOuverte(surLaBase ? 0 : VlSupp_.Dernier().Index, Possible_);
   if (cellule == 0) return false;
   VlSupp_.Ouvre(static_cast<std::int16_t>(cellule), Possible_);
   travail.Suppose(cellule, VlSupp_.Dernier().Valeur());
+  rejouee_ = surLaBase;
   return true;
+}
+
+// The base with all suppositions.
+void AutoDriver::Rejoue(Travail& travail) {
+  travail.Reconstruit();
+  for (std::size_t i = 1; i <= VlSupp_.Niveaux(); ++i) travail.Suppose(VlSupp_[i].Index, VlSupp_[i].Valeur());
+  rejouee_ = true;
 }
 
 Texte AutoDriver::MessageFinal(std::int16_t VlVerdict) const {

@@ -43,6 +43,7 @@ class AutoDriver {
   std::int16_t Cherche(Travail& travail, bool VpGuess);
   bool GuessResult(std::int16_t VpResultat, Travail& travail);
   bool Guess(Travail& travail);
+  void Rejoue(Travail& travail);
   Texte MessageFinal(std::int16_t VlVerdict) const;
 
   GameState& jeu_;
@@ -52,6 +53,7 @@ class AutoDriver {
   Travail9 neuf_;
   Suppositions VlSupp_;
   Essai Possible_;
+  bool rejouee_ = true;  // the last solve pass began on nothing but the base and the live suppositions
 };
 
 }  // namespace sudoku

@@ -12,8 +12,9 @@ class Travail {
   virtual ~Travail() = default;
 
   // Carries the deductions into the board until an evaluation leaves nothing to write. -1: a cell has no
-  // candidate; 0: complete; otherwise the number of cells not settled.
-  virtual std::int16_t JeuSolve() = 0;
+  // candidate; 0: complete; otherwise the number of cells not settled. Only where `possibles` says so are the
+  // candidates of a board with a contradiction good for CelluleOuverte afterwards.
+  virtual std::int16_t JeuSolve(bool possibles) = 0;
   // Takes the board, after its first solve pass, as the base.
   virtual void PrendBase() = 0;
   // Makes the board the base again.

@@ -16,7 +16,7 @@ std::size_t At(int i) { return static_cast<std::size_t>(i); }
 }  // namespace
 
 bool Travail9::Convient(const Grille& grille) {
-  if (grille.N() != 9) return false;
+  if (grille.N() != 9 ) return false;
   const Bloc& bloc = grille.Donnees();
   for (int p = 0; p < 9; ++p) {
     if (bloc.alphabet->Premiere(p) != p) return false;
@@ -68,14 +68,16 @@ void Travail9::Ecrit(Grille& grille) const {
   }
 }
 
-std::int16_t Travail9::JeuSolve() {
+std::int16_t Travail9::JeuSolve(bool possibles) {
   if (!auGeneral_) {
     jeuSolve_(cases_, base_ ? Mode9::kPossible : Mode9::kSur, passe_);
     candidats_ = passe_.candidats;
-    if (!passe_.erronee) return passe_.verdict;
+    // The kernel stops at the first cell without candidates; the engine then says what is left to the others.
+    const bool complete = !passe_.erronee && (passe_.verdict >= 0 || !possibles);
+    if (complete) return passe_.verdict;
     PasseAuGeneral();
   }
-  return general_.JeuSolve();
+  return general_.JeuSolve(possibles);
 }
 
 void Travail9::PrendBase() {

@@ -18,7 +18,7 @@ class Travail9 : public Travail {
   // The grid as the run leaves it. Evaluated, unless `contenus` says that its contents alone will be read.
   Grille Rend(bool contenus);
 
-  std::int16_t JeuSolve() override;
+  std::int16_t JeuSolve(bool possibles) override;
   void PrendBase() override;
   void Reconstruit() override;
   void Detache() override { detachee_ = true; }

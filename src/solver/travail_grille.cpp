@@ -24,7 +24,7 @@ void TravailGrille::Charge(int cellule, Code symbole, std::int32_t etat) {
 
 // A proved symbol replaces whatever the cell holds; one that rests on unproved entries goes into empty cells
 // only. It ends: a cell is written at most twice, once in each way and in that order.
-std::int16_t TravailGrille::JeuSolve() {
+std::int16_t TravailGrille::JeuSolve(bool /*possibles*/) {
   const Bloc& bloc = travail_.Donnees();
   for (;;) {
     const std::int16_t verdict = moteur_.Evaluation(travail_, 2, baseProuvee_);
@@ -76,7 +76,7 @@ std::int16_t TravailGrille::Acheve() {
     const Texte Possible = travail_(i).Possible();
     if (Possible.size() == 1) travail_(i).Valeur(Possible);
   }
-  return JeuSolve();
+  return JeuSolve(true);
 }
 
 }  // namespace sudoku

@@ -17,7 +17,7 @@ class TravailGrille : public Travail {
   // Puts a cell of the board at this content and Etat, unjudged.
   void Charge(int cellule, Code symbole, std::int32_t etat);
 
-  std::int16_t JeuSolve() override;
+  std::int16_t JeuSolve(bool possibles) override;
   void PrendBase() override;
   void Reconstruit() override { GrilleCopy(base_, travail_); }
   void Detache() override;
