@@ -127,7 +127,10 @@ std::optional<Nombre> LitNombre(TexteVue mot) {
   }
   while (mot.size() > 1 && mot.front() == U'0') mot.remove_prefix(1);
   const bool moins = negatif && valeur != 0;
-  return Nombre{.valeur = moins ? -valeur : valeur, .texte = (moins ? U"-" : U"") + Texte(mot)};
+  Nombre nombre{.valeur = moins ? -valeur : valeur, .texte = {}};
+  if (moins) nombre.texte += U'-';
+  nombre.texte += mot;
+  return nombre;
 }
 
 std::vector<Mot> Decoupe(TexteVue ligne) {

@@ -6,7 +6,7 @@ namespace sudoku {
 namespace {
 
 Texte DeuxChiffres(std::int64_t nombre) {
-  return (nombre < 10 ? U"0" : U"") + Decimal(nombre);
+  return {static_cast<char32_t>(U'0' + nombre / 10), static_cast<char32_t>(U'0' + nombre % 10)};
 }
 
 // A span of milliseconds as a time of day: whole seconds, from 00:00:00 again after a day.

@@ -1,0 +1,364 @@
+#include "apps/session.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+#include "apps/session_vue.h"
+
+namespace sudoku {
+namespace {
+
+const Texte kModale = U"fenêtre modale ouverte";
+
+constexpr int kEntree = 13;
+constexpr int kEchappement = 27;
+constexpr int kEspace = 32;
+
+// An element that commands name, the commands that know it, and the windows that have one of this name.
+struct Nomme {
+  TexteVue nom;
+  TexteVue commandes;
+  std::array<TexteVue, 2> fenetres;
+};
+
+constexpr Nomme kNommes[] = {
+    {U"BtOK", U"click", {U"FRMParties", U"FRMNRVAbout"}},
+    {U"BtDel", U"click", {U"FRMParties"}},
+    {U"BtSysInfo", U"click", {U"FRMNRVAbout"}},
+    {U"BtViewSolution", U"click press release", {U"FRMHelp"}},
+    {U"ChkLightSur", U"click", {U"FRMHelp"}},
+    {U"ChkLightPoss", U"click", {U"FRMHelp"}},
+    {U"ChkForeBlue", U"click", {U"FRMHelp"}},
+    {U"ChkForeRed", U"click", {U"FRMHelp"}},
+    {U"ChkListPoss", U"click", {U"FRMHelp"}},
+    {U"ChkRep", U"click", {U"FRMHelp"}},
+    {U"ChkTips", U"click", {U"FRMHelp"}},
+    {U"LstLoad", U"select dblclick", {U"FRMParties"}},
+    {U"LstSave", U"select dblclick edit", {U"FRMParties"}},
+    {U"FRMSudoku", U"close", {U"FRMSudoku"}},
+    {U"FRMHelp", U"close", {U"FRMHelp"}},
+    {U"FRMParties", U"close", {U"FRMParties"}},
+    {U"FRMNRVAbout", U"close", {U"FRMNRVAbout"}},
+};
+
+const Nomme* Connu(TexteVue commande, TexteVue nom) {
+  const auto place = std::find_if(std::begin(kNommes), std::end(kNommes), [&](const Nomme& n) {
+    return n.nom == nom && n.commandes.find(commande) != TexteVue::npos;
+  });
+  return place == std::end(kNommes) ? nullptr : place;
+}
+
+bool UnDe(TexteVue mot, std::initializer_list<TexteVue> mots) {
+  return std::find(mots.begin(), mots.end(), mot) != mots.end();
+}
+
+// n a number, s a string, m a word, b a way to press a button, r an answer.
+bool ConformeArgument(char32_t forme, const Mot& mot) {
+  if (!mot.correct) return false;
+  switch (forme) {
+    case U's':
+      return mot.chaine;
+    case U'n':
+      return !mot.chaine && LitNombre(mot.texte).has_value();
+    case U'b':
+      return !mot.chaine && UnDe(mot.texte, {U"souris", U"espace"});
+    case U'r':
+      return mot.chaine || UnDe(mot.texte, {U"ok", U"oui", U"non", U"annuler"});
+    default:
+      return !mot.chaine;
+  }
+}
+
+int Entier(const Mot& mot) {
+  return static_cast<int>(std::clamp<std::int64_t>(
+      LitNombre(mot.texte)->valeur, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
+}  // namespace
+
+Session::Session(std::istream& entree, std::ostream& sortie, Fichiers& fichiers)
+    : entree_(entree),
+      sortie_(sortie),
+      systeme_(sortie, fichiers, [this] { return Avance(); }),
+      programme_(systeme_) {}
+
+void Session::Joue() {
+  try {
+    while (Avance()) {
+    }
+  } catch (const FinDuProgramme&) {
+    // The last line is printed.
+  }
+}
+
+bool Session::Avance() {
+  std::string ligne;
+  while (std::getline(entree_, ligne)) {
+    if (ligne.ends_with('\r')) ligne.pop_back();
+    if (ligne.starts_with('#')) continue;
+    const std::vector<Mot> mots = Decoupe(DepuisUtf8(ligne));
+    if (mots.empty()) continue;
+    sortie_ << "> " << ligne << '\n';
+    if (const Refus refus = Execute(mots)) sortie_ << "! " << VersUtf8(*refus) << '\n';
+    return true;
+  }
+  return false;
+}
+
+const std::vector<Session::Commande>& Session::Commandes() {
+  static const std::vector<Commande> commandes = {
+      {U"start", U"?s", &Session::Start, true},
+      {U"now", U"s", &Session::Now, true},
+      {U"registre", U"sss", &Session::Registre, true},
+      {U"type", U"ns", &Session::Type},
+      {U"focus", U"n", &Session::Focus},
+      {U"key", U"n", &Session::Key},
+      {U"tick", U"", &Session::Tick},
+      {U"click", U"m", &Session::Click},
+      {U"press", U"mb", &Session::Press},
+      {U"release", U"mb", &Session::Release},
+      {U"close", U"m", &Session::Close},
+      {U"select", U"mn", &Session::Select},
+      {U"edit", U"ms", &Session::Edit},
+      {U"dblclick", U"m", &Session::DblClick},
+      {U"answer", U"r", &Session::Answer},
+  };
+  return commandes;
+}
+
+// A "?" stands before an argument that may be missing.
+bool Session::Conforme(TexteVue forme, const Arguments& arguments) {
+  std::size_t lus = 0;
+  bool facultatif = false;
+  for (const char32_t lettre : forme) {
+    if (lettre == U'?') {
+      facultatif = true;
+    } else if (lus < arguments.size()) {
+      if (!ConformeArgument(lettre, arguments[lus++])) return false;
+    } else if (!facultatif) {
+      return false;
+    }
+  }
+  return lus == arguments.size();
+}
+
+Session::Refus Session::Execute(const std::vector<Mot>& mots) {
+  const Mot& premier = mots.front();
+  const Arguments arguments(mots.begin() + 1, mots.end());
+  const bool montre = !premier.chaine && premier.texte == U"show";
+  const auto commande = std::find_if(Commandes().begin(), Commandes().end(), [&](const Commande& c) {
+    return !premier.chaine && c.nom == premier.texte;
+  });
+  if (!montre && commande == Commandes().end()) return U"commande inconnue";
+  if (!(montre ? SessionVue::Conforme(arguments) : Conforme(commande->forme, arguments))) {
+    return U"commande incorrecte";
+  }
+  if (!partie_ && (montre || !commande->avantDepart)) return U"pas démarré";
+  return montre ? Show(arguments) : (this->*commande->fait)(arguments);
+}
+
+Session::Refus Session::SansModale() {
+  if (systeme_.Dessus() != nullptr) return kModale;
+  return {};
+}
+
+Session::Refus Session::CaseDuPlateau(const Mot& mot, int& Index) {
+  if (const Refus refus = SansModale()) return refus;
+  Index = Entier(mot);
+  if (Index < 1 || Index > Principale().plateau.Cases()) {
+    return U"pas de case " + LitNombre(mot.texte)->texte;
+  }
+  return {};
+}
+
+// The window of the element or window `nom`, if the command can act there.
+Session::Cible Session::Vise(TexteVue commande, TexteVue nom) {
+  const Nomme* nomme = Connu(commande, nom);
+  const bool menu = commande == U"click" && Principale().TrouveArticle(VersUtf8(nom)) != nullptr &&
+                    Principale().TrouveArticle(VersUtf8(nom))->Click != nullptr;
+  if (nomme == nullptr && !menu) return {.refus = U"pas d'élément " + Texte(nom)};
+  const auto possede = [&](const Fenetre& fenetre) {
+    if (menu) return &fenetre == &Principale();
+    const Texte nomFenetre = DepuisUtf8(fenetre.Name);
+    return nomFenetre == nomme->fenetres[0] || nomFenetre == nomme->fenetres[1];
+  };
+  if (const Boite* dessus = systeme_.Dessus()) {
+    if (dessus->fenetre == nullptr || !possede(*dessus->fenetre)) return {.refus = kModale};
+    return {.fenetre = dessus->fenetre};
+  }
+  for (Fenetre* fenetre : systeme_.Fenetres()) {
+    if (possede(*fenetre) && fenetre->Visible) return {.fenetre = fenetre};
+  }
+  return {.refus = U"pas visible"};
+}
+
+Session::Cible Session::ViseListe(TexteVue commande, TexteVue nom, Element*& liste) {
+  Cible cible = Vise(commande, nom);
+  if (cible.refus) return cible;
+  liste = cible.fenetre->Trouve(VersUtf8(nom));
+  if (!liste->Visible) cible.refus = U"pas visible";
+  return cible;
+}
+
+Session::Refus Session::Start(const Arguments& a) {
+  if (partie_) return U"déjà démarré";
+  partie_ = true;
+  programme_.Demarre(a.empty() ? Texte() : a[0].texte);
+  return {};
+}
+
+Session::Refus Session::Now(const Arguments& a) {
+  const auto instant = LitInstant(a[0].texte);
+  if (!instant) return U"date incorrecte";
+  systeme_.MetHeure(*instant);
+  return {};
+}
+
+Session::Refus Session::Registre(const Arguments& a) {
+  systeme_.MetRegistre(a[0].texte, a[1].texte, a[2].texte);
+  return {};
+}
+
+Session::Refus Session::Type(const Arguments& a) {
+  int Index = 0;
+  if (const Refus refus = CaseDuPlateau(a[0], Index)) return refus;
+  Plateau& plateau = Principale().plateau;
+  if (plateau.TxtCase(Index).Locked) return U"verrouillé";
+  plateau.Saisit(Index, a[1].texte);
+  return {};
+}
+
+Session::Refus Session::Focus(const Arguments& a) {
+  int Index = 0;
+  if (const Refus refus = CaseDuPlateau(a[0], Index)) return refus;
+  Principale().plateau.SetFocus(Index);
+  return {};
+}
+
+Session::Refus Session::Key(const Arguments& a) {
+  const int code = Entier(a[0]);
+  const Boite* dessus = systeme_.Dessus();
+  if (dessus == nullptr) {
+    Principale().KeyDown(code);
+    return {};
+  }
+  if (dessus->fenetre == nullptr) return kModale;
+  for (Element& element : dessus->fenetre->elements) {
+    if ((code == kEntree && element.Default) || (code == kEchappement && element.Cancel)) {
+      element.Clique();
+      break;
+    }
+  }
+  return {};
+}
+
+Session::Refus Session::Tick(const Arguments&) {
+  if (const Refus refus = SansModale()) return refus;
+  const Minuterie& Tmr = *Principale().TrouveMinuterie("Tmr");
+  if (!Tmr.Enabled) return U"Tmr désactivé";
+  Tmr.Timer();
+  return {};
+}
+
+Session::Refus Session::Click(const Arguments& a) {
+  const Cible cible = Vise(U"click", a[0].texte);
+  if (cible.refus) return cible.refus;
+  const std::string nom = VersUtf8(a[0].texte);
+  if (const ArticleMenu* article = cible.fenetre->TrouveArticle(nom)) {
+    if (!article->Enabled) return U"désactivé";
+    article->Click();
+  } else {
+    cible.fenetre->Trouve(nom)->Clique();
+  }
+  return {};
+}
+
+Session::Refus Session::Press(const Arguments& a) {
+  const Cible cible = Vise(U"press", a[0].texte);
+  if (cible.refus) return cible.refus;
+  const Element& bouton = *cible.fenetre->Trouve(VersUtf8(a[0].texte));
+  if (a[1].texte == U"souris") {
+    bouton.MouseDown();
+  } else {
+    bouton.KeyDown(kEspace);
+  }
+  return {};
+}
+
+Session::Refus Session::Release(const Arguments& a) {
+  const Cible cible = Vise(U"release", a[0].texte);
+  if (cible.refus) return cible.refus;
+  const Element& bouton = *cible.fenetre->Trouve(VersUtf8(a[0].texte));
+  if (a[1].texte == U"souris") {
+    bouton.MouseUp();
+  } else {
+    bouton.KeyUp(kEspace);
+  }
+  return {};
+}
+
+Session::Refus Session::Close(const Arguments& a) {
+  const Cible cible = Vise(U"close", a[0].texte);
+  if (cible.refus) return cible.refus;
+  if (!cible.fenetre->ControlBox) return U"désactivé";
+  const bool reste = cible.fenetre->QueryUnload && cible.fenetre->QueryUnload(kFermeParUtilisateur);
+  if (!reste) cible.fenetre->Ferme();
+  return {};
+}
+
+Session::Refus Session::Select(const Arguments& a) {
+  Element* liste = nullptr;
+  const Cible cible = ViseListe(U"select", a[0].texte, liste);
+  if (cible.refus) return cible.refus;
+  const int p = Entier(a[1]);
+  if (p < -1 || p >= static_cast<int>(liste->items.size())) {
+    return U"pas de position " + LitNombre(a[1].texte)->texte;
+  }
+  liste->Selectionne(p);
+  return {};
+}
+
+Session::Refus Session::Edit(const Arguments& a) {
+  Element* liste = nullptr;
+  const Cible cible = ViseListe(U"edit", a[0].texte, liste);
+  if (cible.refus) return cible.refus;
+  liste->Edite(a[1].texte);
+  return {};
+}
+
+Session::Refus Session::DblClick(const Arguments& a) {
+  Element* liste = nullptr;
+  const Cible cible = ViseListe(U"dblclick", a[0].texte, liste);
+  if (cible.refus) return cible.refus;
+  liste->DoubleClique();
+  return {};
+}
+
+Session::Refus Session::Answer(const Arguments& a) {
+  Boite* boite = systeme_.Dessus();
+  if (boite == nullptr || boite->fenetre != nullptr) return U"rien à répondre";
+  const TexteVue mot = a[0].chaine ? TexteVue() : TexteVue(a[0].texte);
+  bool juste = false;
+  switch (boite->genre) {
+    case GenreBoite::kMessage:
+      juste = mot == U"ok";
+      break;
+    case GenreBoite::kQuestion:
+      juste = mot == U"oui" || mot == U"non";
+      boite->oui = mot == U"oui";
+      break;
+    default:
+      juste = a[0].chaine || mot == U"annuler";
+      boite->texte = a[0].chaine ? a[0].texte : Texte();
+  }
+  if (!juste) return U"réponse incorrecte";
+  boite->close = true;
+  return {};
+}
+
+Session::Refus Session::Show(const Arguments& a) {
+  return SessionVue(programme_, systeme_, sortie_).Montre(a);
+}
+
+}  // namespace sudoku

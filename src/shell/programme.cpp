@@ -1,0 +1,20 @@
+#include "shell/programme.h"
+
+namespace sudoku {
+
+Programme::Programme(Systeme& systeme)
+    : principale_(systeme),
+      assistant_(principale_),
+      dialogue_(systeme),
+      stockage_(principale_, dialogue_),
+      aPropos_(principale_) {
+  principale_.Relie(assistant_, stockage_, aPropos_);
+  systeme.Ajoute(principale_.LaFenetre());
+  systeme.Ajoute(assistant_.LaFenetre());
+}
+
+void Programme::Demarre(TexteVue ligneDeCommande) {
+  principale_.Form_Load(ligneDeCommande);
+}
+
+}  // namespace sudoku
