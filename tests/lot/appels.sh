@@ -1,0 +1,61 @@
+#!/bin/bash
+# appels.sh SUDOKU-LOT: calls, wrong ones above all. Each row: exit status, what the messages must hold, the words.
+set -u
+lot=$1
+cd "$(mktemp -d)" || exit 1
+trap 'rm -rf "$PWD"' EXIT
+echo 1111111111111111 > '[a]'
+cp '[a]' ++
+cp '[a]' ./-x
+mkdir dossier
+echec=0
+
+essai() {
+  local statut=$1 tenu=$2 dit rendu
+  shift 2
+  dit=$("$lot" "$@" 2>&1 < '[a]')
+  rendu=$?
+  [ $rendu = "$statut" ] && [[ $dit == *"$tenu"* ]] && ! [[ $dit =~ required|expected|argument|[Uu]sage ]] && return
+  printf 'sudoku-lot'; printf ' %q' "$@"; printf '\n  status %s instead of %s, “%s” expected in:\n%s\n' $rendu "$statut" "$tenu" "$dit"
+  echec=1
+}
+
+resolu='1111111111111111	1111111111111111	0	0	0	Résolu sans supposition'
+
+essai 0 'resoudre' --aide
+essai 0 'resoudre' resoudre --help
+essai 2 'il manque la commande'
+essai 2 'commande inconnue : résoudre' résoudre
+essai 2 'option inconnue : --passes' resoudre --passes 1
+essai 2 'option inconnue : --deduction' expliquer --deduction
+essai 2 'option inconnue : -x' resoudre -x
+essai 2 'option inconnue : --symbole' resoudre --symbole 1234
+essai 2 'attend une valeur' resoudre --symboles
+essai 2 'attend une valeur' expliquer --passes
+essai 2 'pas un nombre de 1 à 2' expliquer --passes 3
+essai 2 'pas un nombre de 1 à 2' expliquer --passes 1x
+essai 2 'pas un nombre de 0 à' resoudre --processus -1
+essai 2 'pas un nombre de 0 à' resoudre --processus 99999999999
+essai 2 'options incorrectes' resoudre --deduction=peut-être
+essai 2 'Choix incorrect' resoudre --symboles ''
+essai 2 'Choix incorrect' resoudre --symboles 12345
+essai 2 'Choix incorrect' resoudre --symboles $'\xff234'
+essai 2 'Choix incorrect' resoudre --symboles "$(printf '%0196d' 0)"
+# The word behind --symboles is the symbols, whatever it is.
+essai 2 'Choix incorrect : 2 symbole(s)' resoudre --symboles --
+essai 2 'Choix incorrect : 6 symbole(s)' resoudre --symboles --aide
+essai 1 'un des symboles « --xy »' resoudre --symboles --xy
+essai 1 'un des symboles « [ab] »' resoudre --symboles '[ab]'
+# Files.
+essai 0 "$resolu" resoudre --symboles 1234
+essai 0 "$resolu" resoudre --symboles 1234 -
+essai 0 "$resolu" resoudre '[a]' --symboles 1234
+essai 0 "$resolu" resoudre --symboles 1234 ++
+essai 0 "$resolu" resoudre --symboles 1234 -- -x
+essai 0 "$resolu" resoudre --symboles 1123 --symboles 1234
+essai 1 'rien: fichier introuvable' resoudre --symboles 1234 rien ++
+essai 1 "$resolu" resoudre --symboles 1234 rien ++
+essai 1 "dossier: c'est un dossier" resoudre dossier
+essai 1 '++/x: un des dossiers du chemin est un fichier' resoudre ++/x
+essai 1 '++:1: 16 caractère(s) ; il en faut 81' resoudre --processus 0 ++
+exit $echec
