@@ -35,7 +35,7 @@ Element CaseACocher(const char* nom, TexteVue caption, Place p, int tab, Couleur
           .ForeColor = encre};
 }
 
-// The text boxes only display.
+// The text boxes only display, TxtRep what the option ChkRep asks for, and so on.
 Element Afficheur(const char* nom, Place p, int tab, Couleur fond = kCouleurSysteme) {
   return {.genre = Genre::kTexte,
           .Name = nom,
@@ -45,6 +45,7 @@ Element Afficheur(const char* nom, Place p, int tab, Couleur fond = kCouleurSyst
           .Height = p.Height,
           .TabIndex = tab,
           .Enabled = false,
+          .Libelle = std::string("Chk") + (nom + 3),
           .BackColor = fond};
 }
 

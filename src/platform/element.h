@@ -60,6 +60,7 @@ struct Element {
   bool Visible = true;
   bool Enabled = true;
   std::string Parent = {};
+  std::string Libelle = {};  // the element whose Caption says what this one holds
 
   Texte Text = {};
   int Value = 0;  // of a check box: 1 checked

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/conforts.h"
 #include "platform/element.h"
 #include "platform/plateau.h"
 
@@ -58,6 +59,7 @@ struct Fenetre {
   std::vector<Minuterie> minuteries = {};
   bool avecPlateau = false;  // TxtCase and Box are drawn
   Plateau plateau = {};
+  Conforts conforts = {};
 
   // Every key that goes down in the window, before the element that has the focus gets it.
   std::function<void(int KeyCode)> KeyDown = {};

@@ -3,13 +3,18 @@
 #include "play/frm_sudoku.h"
 
 namespace sudoku {
+namespace {
+
+constexpr TexteVue kAbandonner = U"Etes-vous certain de vouloir abandonner la grille en cours ?";
+
+}  // namespace
 
 bool Commands::Abandonne(TexteVue question) {
   return frm_.Jeu().VgEtat == kSansGrille || frm_.LeSysteme().Question(question);
 }
 
 void Commands::MnuInit_Click() {
-  if (!Abandonne(U"Etes-vous certain de vouloir abandonner la grille en cours ?")) return;
+  if (!Abandonne(kAbandonner)) return;
   Texte VlValeurs;
   frm_.JeuVierge(VlValeurs);
   frm_.SetMenus();
@@ -53,10 +58,15 @@ void Commands::Resout(bool VpGuess) {
           U"La résolution entrainera la fin de la partie. Souhaitez-vous poursuivre ?")) {
     return;
   }
+  frm_.LaFenetre().plateau.OublieSaisies();
   frm_.Tmr().Enabled = false;
   frm_.LblChrono().Caption = U"Chrono non applicable (solver utilisé)";
   frm_.JeuAuto(false, VpGuess);
   frm_.SetMenus();
+}
+
+void Commands::OuvreFichier(TexteVue chemin) {
+  if (Abandonne(kAbandonner)) frm_.LeStockage().JeuLoad(U"\"" + Texte(chemin) + U"\"");
 }
 
 void Commands::Form_KeyDown(int KeyCode) {

@@ -20,6 +20,8 @@ class Commands {
   void MnuAssist_Click();
   void MnuSolver_Click();
   void MnuSolveur2_Click();
+  // Loads this file in place of the grid there is, once the user agrees.
+  void OuvreFichier(TexteVue chemin);
   void Form_KeyDown(int KeyCode);
   // Every request to close the window is a quit command. True: the window stays.
   bool Form_QueryUnload(int UnloadMode);

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "play/conforts_jeu.h"
+
 namespace sudoku {
 
 FRMSudoku::FRMSudoku(Systeme& systeme)
@@ -51,6 +53,7 @@ void FRMSudoku::BrancheEvenements() {
   fenetre_.QueryUnload = [this](int UnloadMode) { return commandes_.Form_QueryUnload(UnloadMode); };
   fenetre_.plateau.Change = [this](int Index) { saisie_.ChangeCase(Index); };
   fenetre_.plateau.GotFocus = [this](int Index) { saisie_.TxtCase_GotFocus(Index); };
+  fenetre_.conforts = ConfortsDuJeu(*this);
   Tmr_.Timer = [this] { deroulement_.Tmr_Timer(); };
 }
 

@@ -53,6 +53,7 @@ class FRMSudoku : private PlateauAuto, private PlateauVierge {
   void Affiche() override;
   void SetInfos() override;
   void SetMenus() { menus_.SetMenus(jeu_, assistant_->LaFenetre().Visible); }
+  void OuvreFichier(TexteVue chemin) { commandes_.OuvreFichier(chemin); }
   void Deplacement(int KeyCode) { saisie_.Deplacement(KeyCode); }
 
  private:

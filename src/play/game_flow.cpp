@@ -27,6 +27,7 @@ bool GrilleFraiche(const Grille& grille) {
 
 void GameFlow::JeuStart() {
   GameState& jeu = frm_.Jeu();
+  frm_.LaFenetre().plateau.OublieSaisies();
   jeu.VgSilence = true;
   frm_.JeuAuto(true, false);
   jeu.VgSilence = false;

@@ -1,0 +1,52 @@
+#include "play/conforts_jeu.h"
+
+#include "grid/grille_texte.h"
+#include "play/frm_sudoku.h"
+
+namespace sudoku {
+namespace {
+
+// What the colours of a box say. The highlight of the assistant exchanges them.
+TexteVue SensDesCouleurs(const CaseTexte& boite) {
+  const auto a = [&](Couleur c) { return boite.BackColor == c || boite.ForeColor == c; };
+  if (a(kGris)) return U", donnée";
+  if (a(kVert)) return U", case certaine";
+  if (a(kCyan)) return U", case possible";
+  if (a(kBleu)) return U", saisie hypothétique";
+  if (a(kRouge)) return U", saisie erronée";
+  return {};
+}
+
+// A place is read aloud often, its parts from the one that changes most.
+Texte DecritCase(FRMSudoku& frm, int i) {
+  const ClsPos cellule = frm.Jeu().VmGrille(i);
+  const CaseTexte& boite = frm.LaFenetre().plateau.TxtCase(i);
+  return (boite.Text.empty() ? Texte(U"vide") : boite.Text) + Texte(SensDesCouleurs(boite)) + U", ligne " +
+         Decimal(cellule.Ligne()) + U", colonne " + Decimal(cellule.Colonne()) + U", carré " +
+         Decimal(cellule.Carre());
+}
+
+std::vector<Texte> LitGrille(const GameState& jeu, TexteVue texte) {
+  if (jeu.VgEtat != kSaisieGrille) return {};
+  return LitGrilleTexte(texte, jeu.VmGrille.Donnees().alphabet->Symboles()).value_or(std::vector<Texte>());
+}
+
+Texte EcritGrille(const Plateau& plateau) {
+  std::vector<Texte> contenus;
+  for (int i = 1; i <= plateau.Cases(); ++i) contenus.push_back(plateau.TxtCase(i).Text);
+  return EcritGrilleTexte(contenus);
+}
+
+}  // namespace
+
+Conforts ConfortsDuJeu(FRMSudoku& frm) {
+  return {
+      .Symboles = [&frm] { return frm.Jeu().VmGrille.Donnees().alphabet->Symboles(); },
+      .LitGrille = [&frm](TexteVue texte) { return LitGrille(frm.Jeu(), texte); },
+      .EcritGrille = [&frm] { return EcritGrille(frm.LaFenetre().plateau); },
+      .DecritCase = [&frm](int i) { return DecritCase(frm, i); },
+      .OuvreFichier = [&frm](TexteVue chemin) { frm.OuvreFichier(chemin); },
+  };
+}
+
+}  // namespace sudoku

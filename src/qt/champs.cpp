@@ -1,0 +1,94 @@
+#include "qt/champs.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+
+#include "qt/mesure.h"
+#include "qt/texte_qt.h"
+
+namespace sudoku {
+namespace {
+
+void Fond(QWidget* widget, const Element& element) {
+  if (element.BackColor == kCouleurSysteme) return;
+  QPalette palette = widget->palette();
+  palette.setColor(QPalette::Base, CouleurQt(element.BackColor));
+  widget->setPalette(palette);
+}
+
+class ChampElement : public ElementQt {
+ public:
+  ChampElement(Element& element, QWidget* parent, Pilote& pilote)
+      : ChampElement(element, new QLineEdit(parent), pilote) {}
+
+ private:
+  ChampElement(Element& element, QLineEdit* widget, Pilote& pilote)
+      : ElementQt(element, widget), champ_(widget) {
+    Fond(widget, element);
+    QObject::connect(widget, &QLineEdit::textEdited, widget,
+                     [&](const QString& texte) { pilote.Execute([&] { element_.Edite(DepuisQt(texte)); }); });
+  }
+  void Contenu() override {
+    if (champ_->isReadOnly() == element_.Enabled) {
+      champ_->setReadOnly(!element_.Enabled);
+      champ_->setFocusPolicy(element_.Enabled ? Qt::StrongFocus : Qt::NoFocus);
+    }
+    const QString texte = VersQt(element_.Text);
+    if (champ_->text() == texte) return;
+    champ_->setText(texte);
+    champ_->setCursorPosition(0);
+    Ajuste();
+  }
+  void Taille(double echelle) override {
+    police_ = PoliceQt(element_.police, echelle);
+    Ajuste();
+  }
+  void Ajuste() {
+    constexpr int kBord = 8;
+    const int largeur = champ_->width() - kBord;
+    const QFont police = element_.Enabled ? police_ : Condensee(police_, champ_->text(), largeur);
+    champ_->setFont(police);
+    const bool coupe = QFontMetrics(police).horizontalAdvance(champ_->text()) > largeur;
+    champ_->setToolTip(coupe ? champ_->text().toHtmlEscaped() : QString());
+  }
+
+  QLineEdit* champ_;
+  QFont police_;
+};
+
+class ChampLongElement : public ElementQt {
+ public:
+  ChampLongElement(Element& element, QWidget* parent)
+      : ChampLongElement(element, new QPlainTextEdit(parent)) {}
+
+ private:
+  ChampLongElement(Element& element, QPlainTextEdit* widget) : ElementQt(element, widget), champ_(widget) {
+    Fond(widget, element);
+    widget->setReadOnly(true);
+    widget->setUndoRedoEnabled(false);
+    widget->setTabChangesFocus(true);
+    widget->setFocusPolicy(Qt::NoFocus);
+    QObject::connect(widget->verticalScrollBar(), &QScrollBar::rangeChanged, widget, [this](int, int haut) {
+      champ_->setFocusPolicy(haut > 0 ? Qt::StrongFocus : Qt::NoFocus);
+    });
+  }
+  void Contenu() override {
+    if (montre_ == element_.Text) return;
+    montre_ = element_.Text;
+    champ_->setPlainText(VersQt(montre_).remove(u'\r').trimmed());
+  }
+  void Taille(double echelle) override { champ_->setFont(PoliceQt(element_.police, echelle)); }
+
+  QPlainTextEdit* champ_;
+  Texte montre_;
+};
+
+}  // namespace
+
+std::unique_ptr<ElementQt> FabriqueChamp(Element& element, QWidget* parent, Pilote& pilote) {
+  if (element.MultiLine) return std::make_unique<ChampLongElement>(element, parent);
+  return std::make_unique<ChampElement>(element, parent, pilote);
+}
+
+}  // namespace sudoku

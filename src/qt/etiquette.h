@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QFont>
+#include <QString>
+#include <QWidget>
+
+namespace sudoku {
+
+// A label. A centred one is one line: what doesn't fit is elided, and the whole text is its tooltip. Any
+// other is wrapped at its width. A screen reader finds its text, but is not told of every change: a clock in
+// a label would never let it finish.
+class Etiquette : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+  void Montre(const QString& texte);
+  void Apparence(const QFont& police, bool centre, bool bordure);
+  const QString& Texte() const { return texte_; }
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+  void resizeEvent(QResizeEvent*) override { MetAJourBulle(); }
+
+ private:
+  QRect Dedans() const;
+  void MetAJourBulle();
+
+  QString texte_;
+  bool centre_ = false;
+  bool bordure_ = false;
+};
+
+}  // namespace sudoku

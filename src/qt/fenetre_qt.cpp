@@ -1,0 +1,361 @@
+#include "qt/fenetre_qt.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <QWindow>
+#include <algorithm>
+
+#include "qt/icone.h"
+#include "qt/mesure.h"
+#include "qt/plateau_qt.h"
+#include "qt/texte_qt.h"
+#include "qt/touches.h"
+
+namespace sudoku {
+namespace {
+
+Qt::WindowFlags Drapeaux(const Fenetre& fenetre) {
+  Qt::WindowFlags drapeaux = fenetre.Dialogue ? Qt::Dialog : Qt::Window;
+  drapeaux |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+  if (fenetre.ControlBox) drapeaux |= Qt::WindowCloseButtonHint;
+  if (fenetre.TopMost) drapeaux |= Qt::WindowStaysOnTopHint;
+  return drapeaux;
+}
+
+}  // namespace
+
+FenetreQt::FenetreQt(Fenetre& fenetre, Pilote& pilote, QWidget* proprietaire)
+    : QWidget(proprietaire, Drapeaux(fenetre)), fenetre_(fenetre), pilote_(pilote), fond_(new QWidget(this)) {
+  setObjectName(QString::fromStdString(fenetre.Name));
+  setWindowIcon(IconeDuJeu());
+  setFont(PoliceQt({}));
+  if (fenetre_.avecPlateau) {
+    plateau_ = new PlateauQt(fenetre_, pilote_, fond_);
+    setAcceptDrops(true);
+  }
+  FabriqueElements();
+  FabriqueMenus();
+  FabriqueMinuteries();
+  OrdreDeTabulation();
+}
+
+FenetreQt::~FenetreQt() = default;
+
+// ---- making
+
+void FenetreQt::FabriqueElements() {
+  for (Element& element : fenetre_.elements) {
+    QWidget* parent = fond_;
+    for (const auto& autre : elements_) {
+      if (!element.Parent.empty() && autre->LElement().Name == element.Parent) parent = autre->Widget();
+    }
+    elements_.push_back(FabriqueElement(element, parent, pilote_));
+    if (element.genre == Genre::kCadre) elements_.back()->Widget()->lower();
+  }
+  if (plateau_ != nullptr) plateau_->lower();
+  for (const auto& element : elements_) {
+    if (element->LElement().Libelle.empty()) continue;
+    const Element* libelle = fenetre_.Trouve(element->LElement().Libelle);
+    element->Widget()->setAccessibleName(VersQt(libelle->Caption));
+  }
+}
+
+void FenetreQt::FabriqueMenus() {
+  if (fenetre_.menus.empty()) return;
+  barre_ = new QMenuBar(this);
+  barre_->setNativeMenuBar(false);
+  for (Menu& menu : fenetre_.menus) {
+    QMenu* liste = barre_->addMenu(VersQt(menu.Caption));
+    liste->setObjectName(QString::fromStdString(menu.Name));
+    for (ArticleMenu& article : menu.articles) {
+      if (article.Caption == U"-") {
+        liste->addSeparator();
+        continue;
+      }
+      QAction* action = liste->addAction(VersQt(article.Caption));
+      action->setObjectName(QString::fromStdString(article.Name));
+      connect(action, &QAction::triggered, this, [this, &article] {
+        if (article.Click) pilote_.ExecuteCommande(article.Click);
+      });
+      articles_.push_back({&article, action});
+    }
+  }
+}
+
+void FenetreQt::FabriqueMinuteries() {
+  for (Minuterie& minuterie : fenetre_.minuteries) {
+    tics_.push_back({&minuterie, std::make_unique<QTimer>()});
+    tics_.back().horloge->setInterval(minuterie.Interval);
+    const std::size_t n = tics_.size() - 1;
+    connect(tics_.back().horloge.get(), &QTimer::timeout, this, [this, n] { Sonne(n); });
+  }
+}
+
+void FenetreQt::OrdreDeTabulation() {
+  std::vector<ElementQt*> ordre;
+  for (const auto& element : elements_) {
+    if (element->LElement().TabIndex >= 0) ordre.push_back(element.get());
+  }
+  std::ranges::sort(ordre, {}, [](const ElementQt* e) { return e->LElement().TabIndex; });
+  for (std::size_t n = 1; n < ordre.size(); ++n) setTabOrder(ordre[n - 1]->Widget(), ordre[n]->Widget());
+}
+
+// ---- timers
+
+void FenetreQt::Sonne(std::size_t n) {
+  Tic& tic = tics_[n];
+  if (!tic.minuterie->Enabled) return;
+  tic.attend = pilote_.Occupe();
+  if (!tic.attend && tic.minuterie->Timer) pilote_.Execute(tic.minuterie->Timer);
+}
+
+void FenetreQt::RattrapeTics() {
+  for (std::size_t n = 0; n < tics_.size(); ++n) {
+    if (tics_[n].attend) Sonne(n);
+  }
+}
+
+// ---- what the record holds
+
+void FenetreQt::Synchronise() {
+  if (titre_ != fenetre_.Caption) {
+    titre_ = fenetre_.Caption;
+    setWindowTitle(VersQt(titre_));
+  }
+  if (voulue_ != QSize(fenetre_.Width, fenetre_.Height)) Dispose();
+  for (const auto& element : elements_) element->Synchronise();
+  for (const Article& a : articles_) {
+    if (a.action->isEnabled() != a.article->Enabled) a.action->setEnabled(a.article->Enabled);
+  }
+  for (Tic& tic : tics_) {
+    if (tic.horloge->isActive() == tic.minuterie->Enabled) continue;
+    tic.minuterie->Enabled ? tic.horloge->start() : tic.horloge->stop();
+  }
+  if (plateau_ != nullptr) plateau_->Synchronise();
+  SuitPile();
+  if (isHidden() == fenetre_.Visible) setVisible(fenetre_.Visible);
+  if (fenetre_.fermee) boucle_.quit();
+}
+
+// Above the windows of other programs, or no longer: a request about the window that is there.
+void FenetreQt::SuitPile() {
+  const bool voulu = dessus_ || fenetre_.TopMost;
+  if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == voulu) return;
+  overrideWindowFlags(windowFlags().setFlag(Qt::WindowStaysOnTopHint, voulu));
+  if (QWindow* fenetre = windowHandle()) fenetre->setFlag(Qt::WindowStaysOnTopHint, voulu);
+}
+
+void FenetreQt::Modale(bool dessus) {
+  dessus_ = dessus;
+  setWindowModality(Qt::ApplicationModal);
+  fenetre_.Visible = true;
+  Synchronise();
+  activateWindow();
+  if (!fenetre_.fermee) boucle_.exec();
+}
+
+// ---- size and place
+
+void FenetreQt::SansEcran() {
+  sansEcran_ = true;
+  Dispose();
+}
+
+QSize FenetreQt::Disponible() const {
+  if (sansEcran_) return QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  QMargins bords(4, 30, 4, 4);  // of a window manager that hasn't told yet
+  if (windowHandle() != nullptr && isVisible()) bords = windowHandle()->frameMargins();
+  return screen()->availableSize().shrunkBy(bords);
+}
+
+void FenetreQt::Dispose() {
+  voulue_ = QSize(fenetre_.Width, fenetre_.Height);
+  const int menu = barre_ != nullptr ? barre_->sizeHint().height() : 0;
+  QSize taille(Pixels(fenetre_.Width), Pixels(fenetre_.Height));
+  double echelle = 1;
+  if (plateau_ != nullptr) {
+    Twips haut = 0;
+    for (const Element& element : fenetre_.elements) haut = std::max(haut, element.Top + element.Height);
+    // Small boards keep labels that can be read.
+    echelle = std::clamp(zoom_, 1.0, 2.0);
+    const int entete = Pixels(haut, echelle);
+    const QSize contenu(Pixels(fenetre_.Width, zoom_),
+                        static_cast<int>(std::lround((taille.height() - menu - Pixels(haut)) * zoom_)));
+    const QSize disponible = Disponible();
+    const int barre = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    taille = QSize(contenu.width(), menu + entete + contenu.height());
+    if (taille.height() > disponible.height()) taille.rwidth() += barre;
+    if (taille.width() > disponible.width()) taille.rheight() += barre;
+    if (barre_ != nullptr) taille.setWidth(std::max(taille.width(), barre_->sizeHint().width()));
+    taille = taille.boundedTo(disponible);
+    plateau_->setGeometry(0, entete, taille.width(), taille.height() - menu - entete);
+    plateau_->Dimensionne(zoom_, haut, contenu);
+  }
+  setFixedSize(taille);
+  if (barre_ != nullptr) barre_->setGeometry(0, 0, taille.width(), menu);
+  fond_->setGeometry(0, menu, taille.width(), taille.height() - menu);
+  for (const auto& element : elements_) element->Place(echelle, taille.width(), plateau_ != nullptr);
+  if (isVisible()) RentreDansLEcran();
+}
+
+void FenetreQt::RentreDansLEcran() {
+  if (plateau_ == nullptr || sansEcran_) return;
+  const QRect ecran = screen()->availableGeometry();
+  const QRect cadre = frameGeometry();
+  const int x = std::max(ecran.left(), std::min(cadre.left(), ecran.right() + 1 - cadre.width()));
+  const int y = std::max(ecran.top(), std::min(cadre.top(), ecran.bottom() + 1 - cadre.height()));
+  if (cadre.topLeft() != QPoint(x, y)) move(x, y);
+}
+
+void FenetreQt::CentreSurProprietaire() {
+  const QWidget* proprietaire = parentWidget();
+  if (!fenetre_.CentreSurProprietaire || proprietaire == nullptr) return;
+  const QRect ecran = screen()->availableGeometry();
+  QRect cadre(QPoint(), size());
+  cadre.moveCenter(proprietaire->frameGeometry().center());
+  cadre.moveTopLeft(
+      QPoint(std::clamp(cadre.left(), ecran.left(), std::max(ecran.left(), ecran.right() - width())),
+             std::clamp(cadre.top(), ecran.top(), std::max(ecran.top(), ecran.bottom() - height()))));
+  move(cadre.topLeft());
+}
+
+void FenetreQt::showEvent(QShowEvent* evenement) {
+  CentreSurProprietaire();
+  QWidget::showEvent(evenement);
+  if (focusWidget() != nullptr || plateau_ != nullptr) return;
+  // The first stop in the order of the Tab key.
+  QWidget* premier = nullptr;
+  int rang = 0;
+  for (const auto& element : elements_) {
+    const Element& e = element->LElement();
+    if (e.TabIndex < 0 || !e.TabStop || !e.Visible || element->Widget()->focusPolicy() == Qt::NoFocus)
+      continue;
+    if (e.genre == Genre::kCadre || (premier != nullptr && e.TabIndex > rang)) continue;
+    premier = element->Widget();
+    rang = e.TabIndex;
+  }
+  if (premier != nullptr) premier->setFocus();
+}
+
+// The real frame is known, or the window is on another screen.
+bool FenetreQt::event(QEvent* evenement) {
+  const bool resultat = QWidget::event(evenement);
+  if (evenement->type() == QEvent::ScreenChangeInternal && plateau_ != nullptr) Dispose();
+  return resultat;
+}
+
+// ---- larger and smaller
+
+void FenetreQt::ChangeZoom(int pas) {
+  constexpr int kPourcents[] = {25, 33, 50, 67, 80, 90, 100, 110, 125, 150, 175, 200, 250, 300, 350, 400};
+  constexpr int kCent = 6;
+  const int ici = static_cast<int>(std::lround(zoom_ * 100));
+  int n = static_cast<int>(std::ranges::lower_bound(kPourcents, ici) - std::begin(kPourcents));
+  n = pas == 0 ? kCent : std::clamp(n + pas, 0, static_cast<int>(std::size(kPourcents)) - 1);
+  zoom_ = kPourcents[n] / 100.0;
+  Dispose();
+  update();
+}
+
+bool FenetreQt::ToucheDeZoom(const QKeyEvent& evenement) {
+  if (plateau_ == nullptr || !(evenement.modifiers() & Qt::ControlModifier)) return false;
+  const bool maj = evenement.modifiers() & Qt::ShiftModifier;
+  switch (evenement.key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+      ChangeZoom(1);
+      return true;
+    case Qt::Key_Minus:
+    case Qt::Key_Underscore:
+      ChangeZoom(-1);
+      return true;
+    case Qt::Key_0:
+    case Qt::Key_Agrave:
+      ChangeZoom(0);
+      return true;
+    case Qt::Key_6:  // the shifted form of a French keyboard's minus
+      if (maj) ChangeZoom(-1);
+      return maj;
+    default:
+      return false;
+  }
+}
+
+void FenetreQt::wheelEvent(QWheelEvent* evenement) {
+  if (plateau_ == nullptr || !(evenement->modifiers() & Qt::ControlModifier)) return;
+  constexpr int kCran = 120;
+  roue_ += evenement->angleDelta().y();
+  const int crans = roue_ / kCran;
+  roue_ -= crans * kCran;
+  if (crans != 0) ChangeZoom(crans);
+}
+
+// ---- events
+
+bool FenetreQt::Appuie(bool Element::*role) {
+  for (const auto& element : elements_) {
+    if (element->LElement().genre != Genre::kBouton || !(element->LElement().*role)) continue;
+    static_cast<QPushButton*>(element->Widget())->click();
+    return true;
+  }
+  return false;
+}
+
+bool FenetreQt::ToucheDeBouton(const QKeyEvent& evenement) {
+  const int code = CodeTouche(evenement);
+  if (code == kToucheEchappe) return Appuie(&Element::Cancel);
+  if (code != kToucheEntree) return false;
+  // Enter presses the button that has the focus, if one has it.
+  if (auto* bouton = qobject_cast<QPushButton*>(focusWidget())) {
+    bouton->click();
+    return true;
+  }
+  return Appuie(&Element::Default);
+}
+
+void FenetreQt::keyPressEvent(QKeyEvent* evenement) {
+  if (ToucheDeZoom(*evenement) || ToucheDeBouton(*evenement)) return;
+  const int code = CodeTouche(*evenement);
+  if (plateau_ == nullptr && code != 0 && fenetre_.KeyDown) pilote_.Execute([&] { fenetre_.KeyDown(code); });
+}
+
+void FenetreQt::closeEvent(QCloseEvent* evenement) {
+  evenement->ignore();  // the record says whether the window goes
+  if (!fenetre_.ControlBox) return;
+  pilote_.Execute([&] {
+    if (fenetre_.QueryUnload && fenetre_.QueryUnload(kFermeParUtilisateur)) return;
+    fenetre_.Visible = false;
+    fenetre_.Ferme();
+  });
+}
+
+void FenetreQt::dragEnterEvent(QDragEnterEvent* evenement) {
+  const QMimeData* donnees = evenement->mimeData();
+  if (donnees->hasUrls() || donnees->hasText()) evenement->acceptProposedAction();
+}
+
+void FenetreQt::dropEvent(QDropEvent* evenement) {
+  evenement->acceptProposedAction();
+  const QMimeData* donnees = evenement->mimeData();
+  const QList<QUrl> adresses = donnees->urls();
+  if (!adresses.isEmpty()) {
+    if (!adresses.first().isLocalFile() || !fenetre_.conforts.OuvreFichier) return QApplication::beep();
+    const Texte chemin = DepuisQt(adresses.first().toLocalFile());
+    // The drop ends before boxes open: the program that it came from waits for it.
+    QTimer::singleShot(0, this, [this, chemin] {
+      if (!pilote_.Occupe()) pilote_.ExecuteCommande([&] { fenetre_.conforts.OuvreFichier(chemin); });
+    });
+    return;
+  }
+  const QString texte = donnees->text();
+  QTimer::singleShot(0, this, [this, texte] {
+    if (!pilote_.Occupe()) plateau_->DeposeTexte(texte);
+  });
+}
+
+}  // namespace sudoku

@@ -1,0 +1,99 @@
+// How the board looks.
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "qt/mesure.h"
+#include "qt/plateau_qt.h"
+#include "qt/texte_qt.h"
+
+namespace sudoku {
+namespace {
+
+const QColor kTraits(0x80, 0x80, 0x80);  // between the boxes of a block
+const QColor kCadres(0x00, 0x00, 0x00);  // around the blocks
+const QColor kAnneau(0xE0, 0x70, 0x00);  // around the box that has the focus
+const QColor kReliefSombre(0x60, 0x60, 0x60);
+const QColor kReliefClair(0xF0, 0xF0, 0xF0);
+
+void PeintContour(QPainter& p, const QRect& dehors, int epaisseur, const QColor& hautGauche,
+                  const QColor& basDroite) {
+  const QRect r = dehors;
+  p.fillRect(QRect(r.left(), r.top(), r.width(), epaisseur), hautGauche);
+  p.fillRect(QRect(r.left(), r.top(), epaisseur, r.height()), hautGauche);
+  p.fillRect(QRect(r.left(), r.bottom() - epaisseur + 1, r.width(), epaisseur), basDroite);
+  p.fillRect(QRect(r.right() - epaisseur + 1, r.top(), epaisseur, r.height()), basDroite);
+}
+
+}  // namespace
+
+void PlateauQt::paintEvent(QPaintEvent* evenement) {
+  const double dpr = devicePixelRatioF();
+  QPainter p(viewport());
+  p.scale(1 / dpr, 1 / dpr);
+  p.setFont(police_);
+  const QPoint origine = Origine();
+  p.translate(origine);
+  for (const QRect& zone : evenement->region()) {
+    const QRectF appareil(zone.x() * dpr, zone.y() * dpr, zone.width() * dpr, zone.height() * dpr);
+    PeintZone(p, appareil.toAlignedRect().translated(-origine));
+  }
+}
+
+void PlateauQt::PeintZone(QPainter& p, const QRect& zone) const {
+  p.fillRect(zone, palette().color(QPalette::Window));
+  if (fenetre_.plateau.Cases() == 0) return;
+  p.fillRect(geometrie_.Ensemble() & zone, kTraits);
+  geometrie_.PourChaque(zone, [&](int i) { PeintCase(p, i); });
+  PeintCadres(p, zone);
+  PeintRelief(p, zone);
+}
+
+void PlateauQt::PeintCase(QPainter& p, int i) const {
+  const CaseTexte& boite = fenetre_.plateau.TxtCase(i);
+  if (!boite.Visible) return;
+  const QRect place = geometrie_.Case(i);
+  p.fillRect(place, CouleurQt(boite.BackColor));
+  if (i == focus_ || boite.Text.empty()) return;  // the editor shows the text of its box
+  p.setPen(CouleurQt(boite.ForeColor));
+  const QString texte = VersQt(boite.Text);
+  if (boite.Text.size() == 1) {
+    p.drawText(place, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, texte);
+    return;
+  }
+  p.setFont(Condensee(police_, texte, place.width() - 2 * geometrie_.Trait()));
+  p.drawText(place, Qt::AlignCenter | Qt::TextSingleLine, texte);
+  p.setFont(police_);
+}
+
+void PlateauQt::PeintCadres(QPainter& p, const QRect& zone) const {
+  const int epaisseur = geometrie_.TraitDeCadre();
+  for (int b = 1; b <= fenetre_.plateau.Cadres(); ++b) {
+    const QRect cadre = geometrie_.Cadre(b);
+    if (fenetre_.plateau.Box(b).Visible && cadre.intersects(zone))
+      PeintContour(p, cadre, epaisseur, kCadres, kCadres);
+  }
+}
+
+QRect PlateauQt::Anneau(int i) const {
+  // Never thinner than two pixels of the tables, so that it is found among small boxes too.
+  const int epaisseur =
+      std::max(geometrie_.TraitDeCadre(), static_cast<int>(std::lround(2 * devicePixelRatioF())));
+  return geometrie_.Case(i).adjusted(-epaisseur, -epaisseur, epaisseur, epaisseur);
+}
+
+// The box that has the focus is sunk into the board, with a ring around it.
+void PlateauQt::PeintRelief(QPainter& p, const QRect& zone) const {
+  if (focus_ == 0 || fenetre_.plateau.TxtCase(focus_).Appearance == 0) return;
+  const QRect anneau = Anneau(focus_);
+  if (!anneau.intersects(zone)) return;
+  const QRect place = geometrie_.Case(focus_);
+  const int epaisseur = place.left() - anneau.left();
+  PeintContour(p, anneau, epaisseur, kAnneau, kAnneau);
+  PeintContour(p, place, geometrie_.Trait(), kReliefSombre, kReliefClair);
+}
+
+void PlateauQt::Repeint(int i) {
+  viewport()->update(EnPixels(Anneau(i).translated(Origine())) & viewport()->rect());
+}
+
+}  // namespace sudoku

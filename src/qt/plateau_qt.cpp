@@ -1,0 +1,318 @@
+#include "qt/plateau_qt.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+
+#include "qt/editeur_case.h"
+#include "qt/lecture_plateau.h"
+#include "qt/mesure.h"
+#include "qt/palette_symboles.h"
+#include "qt/texte_qt.h"
+#include "qt/touches.h"
+
+namespace sudoku {
+
+PlateauQt::PlateauQt(Fenetre& fenetre, Pilote& pilote, QWidget* parent)
+    : QAbstractScrollArea(parent),
+      fenetre_(fenetre),
+      pilote_(pilote),
+      saisies_(fenetre, pilote),
+      geometrie_(fenetre.plateau),
+      editeur_(new EditeurCase(viewport())) {
+  setObjectName(QStringLiteral("TxtCase"));
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::StrongFocus);
+  viewport()->setAutoFillBackground(false);
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  editeur_->setObjectName(QStringLiteral("TxtCase.editeur"));
+  editeur_->hide();
+  BrancheEditeur();
+}
+
+void PlateauQt::BrancheEditeur() {
+  editeur_->Saisi = [this](const QString& texte) { saisies_.Tape(focus_, DepuisQt(texte)); };
+  editeur_->Touche = [this](QKeyEvent& evenement) { return Touche(evenement); };
+  editeur_->Tabulation = [this](bool avant) { return Tabulation(avant); };
+  editeur_->Clic = [this] { Focalise(focus_); };
+  editeur_->Menu = [this] { OuvrePalette(); };
+}
+
+// ---- what the records hold
+
+void PlateauQt::Synchronise() {
+  SuitConstructions();
+  SuitFocus();
+  SuitChangements();
+  SuitEditeur();
+}
+
+void PlateauQt::SuitConstructions() {
+  const Plateau& plateau = fenetre_.plateau;
+  if (constructions_ == plateau.Constructions()) return;
+  constructions_ = plateau.Constructions();
+  geometrie_.Relit();
+  OublieLecture(this);
+  focus_ = 0;
+  editeur_->hide();
+  horizontalScrollBar()->setValue(0);
+  verticalScrollBar()->setValue(0);
+  viewport()->update();
+  if (plateau.Focus() == 0) setFocus();
+}
+
+void PlateauQt::SuitFocus() {
+  const int voulu = fenetre_.plateau.Focus();
+  if (focus_ == voulu) return;
+  if (focus_ != 0) Repeint(focus_);
+  focus_ = voulu;
+  if (voulu == 0) {
+    editeur_->hide();
+    setFocus();
+    return;
+  }
+  Repeint(voulu);
+  PlaceEditeur();
+  MontreFocus();
+  editeur_->setText(VersQt(fenetre_.plateau.TxtCase(voulu).Text));
+  editeur_->show();
+  editeur_->setFocus();
+  redessins_ = fenetre_.plateau.Redessins() - 1;  // the selection is to be written
+  AnnonceFocus();
+}
+
+void PlateauQt::SuitEditeur() {
+  if (focus_ == 0 || editeur_->Compose()) return;
+  const Plateau& plateau = fenetre_.plateau;
+  const CaseTexte& boite = plateau.TxtCase(focus_);
+  const QString texte = VersQt(boite.Text);
+  if (editeur_->isReadOnly() != boite.Locked) editeur_->setReadOnly(boite.Locked);
+  const QColor encre = CouleurQt(boite.ForeColor);
+  if (editeur_->palette().color(QPalette::Text) != encre) {
+    QPalette palette = editeur_->palette();
+    palette.setColor(QPalette::Base, Qt::transparent);
+    palette.setColor(QPalette::Text, encre);
+    editeur_->setPalette(palette);
+  }
+  const bool autre = editeur_->text() != texte;
+  if (autre) editeur_->setText(texte);
+  if (!autre && redessins_ == plateau.Redessins()) return;
+  redessins_ = plateau.Redessins();
+  const int debut = PositionQt(boite.Text, boite.SelStart);
+  editeur_->setSelection(debut, PositionQt(boite.Text, boite.SelStart + boite.SelLength) - debut);
+}
+
+void PlateauQt::SuitChangements() {
+  constexpr std::size_t kBeaucoup = 200;
+  const std::vector<std::int32_t>& changees = fenetre_.plateau.Changees();
+  if (changees.size() > kBeaucoup) {
+    viewport()->update();
+  } else {
+    for (const std::int32_t i : changees) {
+      if (i > 0 && i <= fenetre_.plateau.Cases()) Repeint(i);
+    }
+  }
+  fenetre_.plateau.OublieChangees();
+}
+
+// ---- the focus
+
+void PlateauQt::Focalise(int i) {
+  if (i == 0) return;
+  const bool meme = i == fenetre_.plateau.Focus();
+  pilote_.Execute([&] { fenetre_.plateau.SetFocus(i); });
+  if (!meme || focus_ != i) return;
+  redessins_ = fenetre_.plateau.Redessins() - 1;
+  SuitEditeur();
+  editeur_->setFocus();
+}
+
+bool PlateauQt::Tabulation(bool avant) {
+  const Plateau& plateau = fenetre_.plateau;
+  const int n = plateau.Cases();
+  int i = plateau.Focus();
+  if (i == 0 && !avant) i = n + 1;
+  for (int pas = 0; pas < n; ++pas) {
+    i += avant ? 1 : -1;
+    if (i > n) i = 1;
+    if (i < 1) i = n;
+    if (plateau.TxtCase(i).TabStop) {
+      Focalise(i);
+      break;
+    }
+  }
+  return true;
+}
+
+void PlateauQt::AnnonceFocus() {
+  if (!QAccessible::isActive() || focus_ == 0) return;
+  QAccessibleEvent annonce(this, QAccessible::Focus);
+  annonce.setChild(focus_ - 1);
+  QAccessible::updateAccessibility(&annonce);
+}
+
+// ---- keys and mouse
+
+bool PlateauQt::Touche(QKeyEvent& evenement) {
+  if (ToucheDeConfort(evenement)) return true;
+  const int code = CodeTouche(evenement);
+  const int avant = fenetre_.plateau.Focus();
+  if (code != 0 && fenetre_.KeyDown) pilote_.Execute([&] { fenetre_.KeyDown(code); });
+  return fenetre_.plateau.Focus() != avant;
+}
+
+bool PlateauQt::ToucheDeConfort(const QKeyEvent& evenement) {
+  if (!(evenement.modifiers() & Qt::ControlModifier)) return false;
+  const bool maj = evenement.modifiers() & Qt::ShiftModifier;
+  switch (evenement.key()) {
+    case Qt::Key_Z:
+      maj ? saisies_.Retablit() : saisies_.Annule();
+      return true;
+    case Qt::Key_V:
+      if (maj) DeposeTexte(QApplication::clipboard()->text());
+      return maj;
+    case Qt::Key_C:
+      if (maj) CopieGrille();
+      return maj;
+    case Qt::Key_Space:
+      OuvrePalette();
+      return true;
+    default:
+      return false;
+  }
+}
+
+void PlateauQt::keyPressEvent(QKeyEvent* evenement) {
+  if (Touche(*evenement)) return;
+  if (evenement->key() == Qt::Key_PageUp || evenement->key() == Qt::Key_PageDown) {
+    QAbstractScrollArea::keyPressEvent(evenement);
+  } else {
+    evenement->ignore();
+  }
+}
+
+void PlateauQt::wheelEvent(QWheelEvent* evenement) {
+  if (evenement->modifiers() & Qt::ControlModifier) {
+    evenement->ignore();  // the window makes the board larger or smaller
+  } else {
+    QAbstractScrollArea::wheelEvent(evenement);
+  }
+}
+
+void PlateauQt::mousePressEvent(QMouseEvent* evenement) {
+  Focalise(CaseSous(evenement->position().toPoint()));
+}
+
+void PlateauQt::contextMenuEvent(QContextMenuEvent*) {
+  OuvrePalette();
+}
+
+// ---- comforts
+
+void PlateauQt::OuvrePalette() {
+  if (focus_ == 0 || !fenetre_.conforts.Symboles) return;
+  auto* palette = new PaletteSymboles(fenetre_.conforts.Symboles(), *editeur_, this);
+  palette->Choisi = [this](const Texte& symbole) { saisies_.Tape(focus_, symbole); };
+  palette->Montre(
+      QRect(viewport()->mapToGlobal(RectangleCase(focus_).topLeft()), RectangleCase(focus_).size()));
+}
+
+void PlateauQt::DeposeTexte(const QString& texte) {
+  if (!saisies_.TapeGrille(DepuisQt(texte))) QApplication::beep();
+}
+
+void PlateauQt::CopieGrille() {
+  if (fenetre_.plateau.Cases() == 0 || !fenetre_.conforts.EcritGrille) return;
+  QApplication::clipboard()->setText(VersQt(fenetre_.conforts.EcritGrille()));
+}
+
+// ---- size and place
+
+void PlateauQt::Dimensionne(double zoom, Twips haut, QSize contenu) {
+  zoom_ = zoom;
+  haut_ = haut;
+  contenu_ = contenu;
+  Redimensionne();
+}
+
+void PlateauQt::Redimensionne() {
+  const double dpr = devicePixelRatioF();
+  geometrie_.Echelle(zoom_ * dpr / kTwipsParPixel, haut_);
+  police_ = PoliceQt({.Gras = true}, zoom_ * dpr);
+  editeur_->setFont(PoliceQt({.Gras = true}, zoom_));
+  const QSize vue = viewport()->size();
+  horizontalScrollBar()->setPageStep(vue.width());
+  horizontalScrollBar()->setRange(0, std::max(0, contenu_.width() - vue.width()));
+  verticalScrollBar()->setPageStep(vue.height());
+  verticalScrollBar()->setRange(0, std::max(0, contenu_.height() - vue.height()));
+  const int pas = std::max(1, Pixels(fenetre_.plateau.TxtCase(0).Width, zoom_));
+  horizontalScrollBar()->setSingleStep(pas);
+  verticalScrollBar()->setSingleStep(pas);
+  PlaceEditeur();
+  MontreFocus();
+  viewport()->update();
+}
+
+void PlateauQt::resizeEvent(QResizeEvent*) {
+  Redimensionne();
+}
+
+QPoint PlateauQt::Origine() const {
+  const int libre = std::max(0, viewport()->width() - contenu_.width());
+  const QPointF coin(libre / 2 - horizontalScrollBar()->value(), -verticalScrollBar()->value());
+  return (coin * devicePixelRatioF()).toPoint();
+}
+
+void PlateauQt::scrollContentsBy(int dx, int dy) {
+  const double dpr = devicePixelRatioF();
+  // Moving pixels is exact only where a pixel of the window is a whole number of the screen's.
+  if (dpr == std::floor(dpr)) {
+    viewport()->scroll(dx, dy);
+  } else {
+    viewport()->update();
+  }
+  PlaceEditeur();
+}
+
+QRect PlateauQt::EnPixels(const QRect& appareil) const {
+  const double dpr = devicePixelRatioF();
+  const int gauche = static_cast<int>(std::floor(appareil.left() / dpr));
+  const int haut = static_cast<int>(std::floor(appareil.top() / dpr));
+  return QRect(QPoint(gauche, haut), QPoint(static_cast<int>(std::ceil((appareil.right() + 1) / dpr)) - 1,
+                                            static_cast<int>(std::ceil((appareil.bottom() + 1) / dpr)) - 1));
+}
+
+QRect PlateauQt::RectangleCase(int i) const {
+  return EnPixels(geometrie_.Case(i).translated(Origine()));
+}
+
+int PlateauQt::CaseSous(QPoint point) const {
+  const QPoint appareil = (QPointF(point) * devicePixelRatioF()).toPoint();
+  return geometrie_.CaseSous(appareil - Origine());
+}
+
+void PlateauQt::PlaceEditeur() {
+  if (focus_ == 0) return;
+  const int bord = geometrie_.Trait();
+  const QRect dedans = geometrie_.Case(focus_).adjusted(bord, bord, -bord, -bord).translated(Origine());
+  editeur_->setGeometry(EnPixels(dedans));
+}
+
+void PlateauQt::MontreFocus() {
+  if (focus_ == 0) return;
+  const QRect boite = EnPixels(Anneau(focus_).translated(Origine()));
+  const QRect vue = viewport()->rect();
+  const auto avance = [](int debut, int fin, int taille) {
+    if (debut < 0) return debut;
+    return fin >= taille ? std::min(debut, fin - taille + 1) : 0;
+  };
+  const int dx = avance(boite.left(), boite.right(), vue.width());
+  const int dy = avance(boite.top(), boite.bottom(), vue.height());
+  if (dx != 0) horizontalScrollBar()->setValue(horizontalScrollBar()->value() + dx);
+  if (dy != 0) verticalScrollBar()->setValue(verticalScrollBar()->value() + dy);
+}
+
+}  // namespace sudoku

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QFont>
+
+#include "platform/fenetre.h"
+#include "qt/geometrie_plateau.h"
+#include "qt/saisies.h"
+
+namespace sudoku {
+
+class EditeurCase;
+
+// The board: one widget that paints, from the records, the boxes and frames that are in view, and lays one
+// real edit field over the box that has the focus. It is as large as what is seen of the board, and scrolls.
+// While no box has the focus, after a new grid, it has the keyboard itself.
+class PlateauQt : public QAbstractScrollArea {
+ public:
+  PlateauQt(Fenetre& fenetre, Pilote& pilote, QWidget* parent);
+
+  // Shows what the records hold: costs the boxes that were written.
+  void Synchronise();
+  // The board at `zoom` times the size of the tables, in all `contenu` pixels large; `haut` twips of the
+  // window above it belong to others.
+  void Dimensionne(double zoom, Twips haut, QSize contenu);
+
+  // A Tab, or a Shift+Tab: to the next box that is a stop, in a circle. Always used up.
+  bool Tabulation(bool avant);
+  // The text is typed as a grid; a beep says that it is none.
+  void DeposeTexte(const QString& texte);
+
+  const Plateau& LePlateau() const { return fenetre_.plateau; }
+  const Fenetre& LaFenetre() const { return fenetre_; }
+  EditeurCase& Editeur() { return *editeur_; }
+  // Place of a box in pixels of the viewport.
+  QRect RectangleCase(int i) const;
+  // The box at a point of the viewport, 0 for none.
+  int CaseSous(QPoint point) const;
+
+ protected:
+  void paintEvent(QPaintEvent* evenement) override;
+  void resizeEvent(QResizeEvent* evenement) override;
+  void scrollContentsBy(int dx, int dy) override;
+  void mousePressEvent(QMouseEvent* evenement) override;
+  void contextMenuEvent(QContextMenuEvent* evenement) override;
+  void keyPressEvent(QKeyEvent* evenement) override;
+  void wheelEvent(QWheelEvent* evenement) override;
+  bool focusNextPrevChild(bool avant) override { return Tabulation(avant); }
+
+ private:
+  bool Touche(QKeyEvent& evenement);
+  bool ToucheDeConfort(const QKeyEvent& evenement);
+  void BrancheEditeur();
+  void OuvrePalette();
+  void CopieGrille();
+
+  void SuitConstructions();
+  void SuitFocus();
+  void SuitEditeur();
+  void SuitChangements();
+  void Focalise(int i);
+  void MontreFocus();
+  void PlaceEditeur();
+  void AnnonceFocus();
+
+  void Redimensionne();
+  QPoint Origine() const;  // of the board in the viewport, device pixels
+  QRect EnPixels(const QRect& appareil) const;
+  QRect Anneau(int i) const;
+  void Repeint(int i);
+  void PeintZone(QPainter& p, const QRect& zone) const;
+  void PeintCase(QPainter& p, int i) const;
+  void PeintCadres(QPainter& p, const QRect& zone) const;
+  void PeintRelief(QPainter& p, const QRect& zone) const;
+
+  Fenetre& fenetre_;
+  Pilote& pilote_;
+  Saisies saisies_;
+  GeometriePlateau geometrie_;
+  EditeurCase* editeur_;
+
+  double zoom_ = 1;
+  Twips haut_ = 0;
+  QSize contenu_;
+  QFont police_;  // of the boxes, in device pixels
+
+  std::uint32_t constructions_ = 0;
+  std::uint32_t redessins_ = 0;
+  int focus_ = 0;  // the box that the editor lies over
+};
+
+}  // namespace sudoku

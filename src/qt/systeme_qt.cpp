@@ -1,0 +1,179 @@
+#include "qt/systeme_qt.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QProcess>
+#include <QTimer>
+#include <cstdio>
+#include <cstdlib>
+
+#include "qt/fenetre_qt.h"
+#include "qt/texte_qt.h"
+
+namespace sudoku {
+namespace {
+
+// The pointer that says "wait" goes while a box is open, and comes back after it.
+class SansAttente {
+ public:
+  SansAttente() : attente_(QApplication::overrideCursor() != nullptr) {
+    if (attente_) QApplication::restoreOverrideCursor();
+  }
+  ~SansAttente() {
+    if (attente_) QApplication::setOverrideCursor(Qt::WaitCursor);
+  }
+  SansAttente(const SansAttente&) = delete;
+  SansAttente& operator=(const SansAttente&) = delete;
+
+ private:
+  bool attente_;
+};
+
+}  // namespace
+
+SystemeQt::SystemeQt() = default;
+SystemeQt::~SystemeQt() = default;
+
+// ---- handlers
+
+void SystemeQt::Execute(const std::function<void()>& acte) {
+  ++profondeur_;
+  acte();
+  --profondeur_;
+  SynchroniseTout();
+  FinDeHandler();
+}
+
+void SystemeQt::ExecuteCommande(const std::function<void()>& acte) {
+  const bool attente = QApplication::overrideCursor() == nullptr;
+  if (attente) QApplication::setOverrideCursor(Qt::WaitCursor);
+  Execute(acte);
+  if (attente) QApplication::restoreOverrideCursor();
+}
+
+void SystemeQt::FinDeHandler() {
+  if (Occupe()) return;
+  for (const Connue& connue : fenetres_) {
+    if (connue.qt) connue.qt->RattrapeTics();
+  }
+  if (!fermetureDemandee_) return;
+  fermetureDemandee_ = false;
+  QTimer::singleShot(0, qApp, [this] { DemandeFermeture(); });
+}
+
+void SystemeQt::SynchroniseTout() {
+  for (Connue& connue : fenetres_) {
+    if (!connue.qt && connue.fenetre->Visible) {
+      // The later windows belong to the first and come up without taking the focus.
+      QWidget* premiere = connue.fenetre == fenetres_.front().fenetre ? nullptr : fenetres_.front().qt.get();
+      connue.qt = std::make_unique<FenetreQt>(*connue.fenetre, *this, premiere);
+      connue.qt->setAttribute(Qt::WA_ShowWithoutActivating, premiere != nullptr);
+    }
+    if (connue.qt) connue.qt->Synchronise();
+  }
+  for (FenetreQt* modale : modales_) modale->Synchronise();
+}
+
+void SystemeQt::DemandeFermeture() {
+  if (Occupe()) {
+    fermetureDemandee_ = true;
+  } else if (!fenetres_.empty() && fenetres_.front().qt) {
+    fenetres_.front().qt->close();
+  }
+}
+
+FenetreQt* SystemeQt::FenetreDe(const Fenetre& fenetre) {
+  for (const Connue& connue : fenetres_) {
+    if (connue.fenetre == &fenetre) return connue.qt.get();
+  }
+  for (FenetreQt* modale : modales_) {
+    if (&modale->LaFenetre() == &fenetre) return modale;
+  }
+  return nullptr;
+}
+
+// ---- boxes
+
+QWidget* SystemeQt::Devant() const {
+  if (!modales_.empty()) return modales_.back();
+  return fenetres_.empty() ? nullptr : fenetres_.front().qt.get();
+}
+
+bool SystemeQt::Dessus() const {
+  for (const Connue& connue : fenetres_) {
+    if (connue.fenetre->Visible && connue.fenetre->TopMost) return true;
+  }
+  return false;
+}
+
+PlaceDeBoite SystemeQt::Place(TexteVue titre) {
+  SynchroniseTout();
+  // A box without a title of its own bears the program's.
+  if (titre.empty() && !fenetres_.empty()) titre = fenetres_.front().fenetre->Caption;
+  return {Devant(), Dessus(), VersQt(titre)};
+}
+
+void SystemeQt::Message(TexteVue texte, TexteVue titre) {
+  const SansAttente sans;
+  MontreMessage(Place(titre), VersQt(texte));
+}
+
+bool SystemeQt::Question(TexteVue texte) {
+  const SansAttente sans;
+  return PoseQuestion(Place({}), VersQt(texte));
+}
+
+Texte SystemeQt::Saisie(TexteVue texte, TexteVue titre, TexteVue defaut) {
+  const SansAttente sans;
+  return SansControles(DepuisQt(DemandeTexte(Place(titre), VersQt(texte), VersQt(defaut))));
+}
+
+void SystemeQt::Fichier(DemandeFichier& demande) {
+  const SansAttente sans;
+  Repond(demande, DepuisQt(DemandeChemin(Place({}), demande)));
+}
+
+void SystemeQt::MontreModale(Fenetre& fenetre) {
+  const SansAttente sans;
+  SynchroniseTout();
+  QWidget* proprietaire = fenetre.proprietaire != nullptr ? FenetreDe(*fenetre.proprietaire) : nullptr;
+  FenetreQt modale(fenetre, *this, proprietaire != nullptr ? proprietaire : Devant());
+  modales_.push_back(&modale);
+  modale.Modale(Dessus());
+  modales_.pop_back();
+}
+
+void SystemeQt::Ajoute(Fenetre& fenetre) {
+  fenetres_.push_back({&fenetre, nullptr});
+}
+
+// ---- machine
+
+void SystemeQt::DoEvents() {
+  SynchroniseTout();
+  QApplication::processEvents();
+}
+
+void SystemeQt::Fin() {
+  for (const Connue& connue : fenetres_) {
+    if (connue.qt) connue.qt->hide();
+  }
+  // Handlers and boxes are on the stack, and none of them may go on: nothing is unwound.
+  std::fflush(nullptr);
+  std::_Exit(0);
+}
+
+std::int64_t SystemeQt::Maintenant() {
+  const QDateTime ici = QDateTime::currentDateTime();
+  return ici.toMSecsSinceEpoch() + std::int64_t{1000} * ici.offsetFromUtc();
+}
+
+std::optional<ValeurRegistre> SystemeQt::Registre(std::uint32_t, TexteVue, TexteVue) {
+  return std::nullopt;
+}
+
+bool SystemeQt::Lance(TexteVue chemin) {
+  return QProcess::startDetached(VersQt(chemin), {});
+}
+
+}  // namespace sudoku
