@@ -10,10 +10,10 @@ Texte NomDeCopie(TexteVue VmNom) {
 
 SafeSave::SafeSave(Fichiers& fichiers, TexteVue VmNom)
     : fichiers_(fichiers), fichier_(fichiers.Ouvre(VmNom)) {
-  if (fichier_->Neuf()) return;
-  const Texte premiere = NomDeCopie(VmNom);
-  copie_ = premiere;
-  for (int k = 2; !fichiers_.Copie(VmNom, copie_); ++k) copie_ = premiere + Decimal(k);
+  if (!fichier_->Neuf()) copie_ = NomDeCopie(VmNom);
+  for (int k = 2; !copie_.empty() && !fichiers_.Copie(VmNom, copie_); ++k) {
+    copie_ = NomDeCopie(VmNom) + Decimal(k);
+  }
   fichier_->Tronque();
 }
 

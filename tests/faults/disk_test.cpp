@@ -1,0 +1,241 @@
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+
+#include "faults/joueur.h"
+#include "platform/erreur.h"
+#include "storage/safe_save.h"
+
+// Files that the disk itself makes difficult: no room, no rights, folders, links, pipes.
+
+namespace sudoku {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::string_literals;
+
+class Disque : public testing::Test {
+ protected:
+  Disque() {
+    dossier_ = NouveauDossier();
+    fs::permissions(dossier_, fs::perms::all);
+  }
+  ~Disque() override { fs::remove_all(dossier_); }
+
+  std::string Chemin(const std::string& nom) const { return dossier_ + "/" + nom; }
+  std::size_t NombreDeFichiers() const {
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(dossier_), fs::directory_iterator()));
+  }
+
+  std::string dossier_;
+};
+
+// The number of the failure, 0 for none.
+template <class Corps>
+int Numero(Corps corps) {
+  try {
+    corps();
+    return 0;
+  } catch (const Erreur& erreur) {
+    return erreur.Numero();
+  }
+}
+
+int NumeroDeLecture(const std::string& chemin) {
+  return Numero([&] { FichiersDisque().Lit(DepuisUtf8(chemin)); });
+}
+
+int NumeroDeSauvegarde(const std::string& chemin, const std::string& octets) {
+  return Numero([&] {
+    FichiersDisque disque;
+    SafeSave(disque, DepuisUtf8(chemin)).Termine(octets);
+  });
+}
+
+// Runs `corps` in a process of its own and gives its result, so that limits and rights can be taken away.
+template <class Corps>
+int DansUnEnfant(Corps corps) {
+  const pid_t enfant = fork();
+  if (enfant == 0) _exit(corps());
+  int etat = 0;
+  waitpid(enfant, &etat, 0);
+  return WIFEXITED(etat) ? WEXITSTATUS(etat) : -1;
+}
+
+// Rights bind root no more than the file's owner: tests as root become nobody.
+bool SansPrivileges() {
+  return geteuid() != 0 || (setgid(65534) == 0 && setuid(65534) == 0);
+}
+
+TEST_F(Disque, LectureParSorteDeChemin) {
+  EcritOctets(Chemin("fichier"), "octets");
+  fs::create_directory(Chemin("dossier"));
+  fs::create_symlink("nulle part", Chemin("lien mort"));
+  fs::create_symlink("boucle", Chemin("boucle"));
+  fs::create_symlink("fichier", Chemin("lien"));
+  ASSERT_EQ(mkfifo(Chemin("tube").c_str(), 0666), 0);
+  EcritOctets(Chemin("énorme"), "");
+  fs::resize_file(Chemin("énorme"), std::uintmax_t{3} << 30);
+  const struct {
+    std::string chemin;
+    int numero;
+  } cas[] = {{Chemin("fichier"), 0},
+             {Chemin("lien"), 0},
+             {"", kFichierIntrouvable},
+             {Chemin("absent"), kFichierIntrouvable},
+             {Chemin("absent/fichier"), kFichierIntrouvable},
+             {Chemin("fichier/fichier"), kFichierIntrouvable},
+             {Chemin("fichier\0suite"s), kFichierIntrouvable},
+             {Chemin("lien mort"), kFichierIntrouvable},
+             {Chemin("dossier"), kAccesFichier},
+             {Chemin("boucle"), kAccesFichier},
+             {Chemin("tube"), kAccesFichier},
+             {Chemin("énorme"), kAccesFichier},
+             {Chemin(std::string(300, 'x')), kAccesFichier},
+             {"/dev/zero", kAccesFichier}};
+  for (const auto& c : cas) EXPECT_EQ(NumeroDeLecture(c.chemin), c.numero) << c.chemin;
+}
+
+TEST_F(Disque, SauvegardeRefuseeSansRienLaisser) {
+  fs::create_directory(Chemin("dossier"));
+  ASSERT_EQ(mkfifo(Chemin("tube").c_str(), 0666), 0);
+  EcritOctets(Chemin("fichier"), "ancien");
+  const std::string long255(255, 'x');  // no name is left for its copy
+  EcritOctets(Chemin(long255), "ancien");
+  for (const std::string& nom : {"dossier"s, "tube"s, "absent/fichier"s, "fichier/fichier"s,
+                                 "fichier\0suite"s, long255, std::string(300, 'x'), ""s}) {
+    EXPECT_EQ(NumeroDeSauvegarde(Chemin(nom), "nouveau"), kAccesFichier) << nom;
+  }
+  EXPECT_EQ(LitOctets(Chemin("fichier")), "ancien");
+  EXPECT_EQ(LitOctets(Chemin(long255)), "ancien");
+  EXPECT_EQ(NombreDeFichiers(), 4U);
+}
+
+TEST_F(Disque, DroitsProprietaireEtLiensRestent) {
+  EcritOctets(Chemin("cible"), "ancien et plus long");
+  fs::permissions(Chemin("cible"), fs::perms(0640));
+  if (geteuid() == 0) {
+    ASSERT_EQ(chown(Chemin("cible").c_str(), 1234, 4321), 0);
+  }
+  fs::create_hard_link(Chemin("cible"), Chemin("autre nom"));
+  fs::create_symlink("cible", Chemin("lien.sud"));
+  struct stat avant = {};
+  struct stat apres = {};
+  ASSERT_EQ(stat(Chemin("cible").c_str(), &avant), 0);
+
+  ASSERT_EQ(NumeroDeSauvegarde(Chemin("lien.sud"), "nouveau"), 0);
+  ASSERT_EQ(stat(Chemin("cible").c_str(), &apres), 0);
+  EXPECT_TRUE(fs::is_symlink(Chemin("lien.sud")));
+  EXPECT_EQ(LitOctets(Chemin("autre nom")), "nouveau");
+  EXPECT_EQ(apres.st_ino, avant.st_ino);
+  EXPECT_EQ(apres.st_mode, avant.st_mode);
+  EXPECT_EQ(apres.st_uid, avant.st_uid);
+  EXPECT_EQ(apres.st_gid, avant.st_gid);
+  EXPECT_EQ(NombreDeFichiers(), 3U);
+}
+
+TEST_F(Disque, CopieNAjoutePasDeDroits) {
+  EcritOctets(Chemin("jeu"), "ancien");
+  fs::permissions(Chemin("jeu"), fs::perms(0600));
+  FichiersDisque disque;
+  const SafeSave enCours(disque, DepuisUtf8(Chemin("jeu")));
+  EXPECT_EQ(fs::status(Chemin("jeu~")).permissions(), fs::perms(0600));
+  EXPECT_EQ(LitOctets(Chemin("jeu~")), "ancien");
+  EXPECT_EQ(LitOctets(Chemin("jeu")), "");
+}
+
+TEST_F(Disque, UnLecteurNEmpecheRien) {
+  EcritOctets(Chemin("jeu"), "ancien");
+  const int lecteur = open(Chemin("jeu").c_str(), O_RDONLY);
+  ASSERT_GE(lecteur, 0);
+  EXPECT_EQ(NumeroDeSauvegarde(Chemin("jeu"), "nouveau"), 0);
+  close(lecteur);
+  EXPECT_EQ(LitOctets(Chemin("jeu")), "nouveau");
+}
+
+TEST_F(Disque, SansDroitsRienNEstTouche) {
+  EcritOctets(Chemin("interdit"), "ancien");
+  fs::permissions(Chemin("interdit"), fs::perms(0200));
+  EcritOctets(Chemin("en lecture"), "ancien");
+  fs::permissions(Chemin("en lecture"), fs::perms(0444));
+  fs::create_directory(Chemin("fermé"));
+  EcritOctets(Chemin("fermé/jeu"), "ancien");
+  fs::permissions(Chemin("fermé/jeu"), fs::perms(0666));
+  fs::permissions(Chemin("fermé"), fs::perms(0555));
+  if (geteuid() != 0) GTEST_SKIP() << "the files must belong to someone else";
+  const int manquements = DansUnEnfant([this] {
+    if (!SansPrivileges()) return 64;
+    int n = 0;
+    n += NumeroDeLecture(Chemin("interdit")) != kAccesFichier;
+    for (const char* nom : {"interdit", "en lecture", "fermé/jeu", "fermé/neuf"}) {
+      n += NumeroDeSauvegarde(Chemin(nom), "nouveau") != kAccesFichier;
+    }
+    return n;
+  });
+  EXPECT_EQ(manquements, 0);
+  for (const char* nom : {"interdit", "en lecture", "fermé/jeu"})
+    EXPECT_EQ(LitOctets(Chemin(nom)), "ancien") << nom;
+  EXPECT_EQ(NombreDeFichiers(), 3U) << "no copy left";
+  EXPECT_FALSE(fs::exists(Chemin("fermé/jeu~")));
+}
+
+// The kernel itself refuses a file longer than the limit, in the middle of the copy or of the new text.
+TEST_F(Disque, FichierTropLongPourLaLimite) {
+  const struct {
+    rlim_t limite;
+    std::size_t ancien, nouveau;
+    bool touche;
+  } cas[] = {{100, 200, 50, false}, {100, 50, 200, true}};
+  for (const auto& c : cas) {
+    const std::string ancien(c.ancien, 'a');
+    EcritOctets(Chemin("jeu"), ancien);
+    const int numero = DansUnEnfant([&] {
+      signal(SIGXFSZ, SIG_IGN);
+      const rlimit limite = {c.limite, c.limite};
+      if (setrlimit(RLIMIT_FSIZE, &limite) != 0) return -1;
+      return NumeroDeSauvegarde(Chemin("jeu"), std::string(c.nouveau, 'n'));
+    });
+    EXPECT_EQ(numero, kAccesFichier) << c.limite;
+    EXPECT_EQ(LitOctets(Chemin(c.touche ? "jeu~" : "jeu")), ancien) << c.limite;
+    EXPECT_EQ(fs::exists(Chemin("jeu~")), c.touche) << "a copy that could not be made whole goes";
+    EXPECT_EQ(NumeroDeSauvegarde(Chemin("jeu"), "second"), 0);
+    EXPECT_EQ(LitOctets(Chemin("jeu")), "second");
+  }
+}
+
+// A disk of four pages, all taken but one: no room for the copy, then room for it but not for the new text.
+TEST_F(Disque, DisquePlein) {
+  constexpr int kSansMontage = 77;
+  const int manquements = DansUnEnfant([this] {
+    const bool monte = unshare(CLONE_NEWNS) == 0 &&
+                       mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                       mount("none", dossier_.c_str(), "tmpfs", 0, "size=16k") == 0;
+    if (!monte) return kSansMontage;
+    const std::string ancien(6000, 'a');
+    EcritOctets(Chemin("jeu"), ancien);
+    EcritOctets(Chemin("autre"), std::string(4096, 'x'));
+    int n = 0;
+    n += NumeroDeSauvegarde(Chemin("jeu"), "nouveau") != kAccesFichier;
+    n += LitOctets(Chemin("jeu")) != ancien || NombreDeFichiers() != 2;
+    fs::remove(Chemin("autre"));
+    n += NumeroDeSauvegarde(Chemin("jeu"), std::string(9000, 'n')) != kAccesFichier;
+    n += LitOctets(Chemin("jeu~")) != ancien;
+    fs::remove(Chemin("jeu~"));
+    n += NumeroDeSauvegarde(Chemin("jeu"), "second") != 0 || LitOctets(Chemin("jeu")) != "second";
+    return n;
+  });
+  if (manquements == kSansMontage) GTEST_SKIP() << "no right to mount a small disk";
+  EXPECT_EQ(manquements, 0);
+}
+
+}  // namespace
+}  // namespace sudoku
