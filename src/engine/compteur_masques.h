@@ -5,7 +5,7 @@
 
 #include "engine/masque.h"
 
-namespace sudoku {
+namespace sudoku::SUDOKU_MOTEUR {
 
 // Counts how often each mask of a short list occurs: a table of open addresses, emptied in one step.
 template <int W>
@@ -44,4 +44,4 @@ class CompteurMasques {
   std::uint64_t tour_ = 0;
 };
 
-}  // namespace sudoku
+}  // namespace sudoku::SUDOKU_MOTEUR

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 
+#include "engine/moteur.h"
 #include "grid/game_state.h"
 
 namespace sudoku {
@@ -13,7 +15,6 @@ namespace sudoku {
 class Evaluateur {
  public:
   explicit Evaluateur(GameState& jeu);
-  ~Evaluateur();
 
   // Recomputes candidates, solutions and explanations of every cell of VpGrille and judges the player's
   // entries anew. VpPasses 2: the first pass sees givens and proved cells, the second one, run only if the
@@ -25,9 +26,9 @@ class Evaluateur {
   std::int16_t Evaluation(Grille& VpGrille, int VpPasses, bool premiereConnue = false);
 
  private:
-  class Travail;
   GameState& jeu_;
-  std::unique_ptr<Travail> travail_;
+  std::array<std::unique_ptr<Moteur>, 3> moteurs_;  // by words a cell, less 1
+  Levees levees_;
 };
 
 }  // namespace sudoku

@@ -4,7 +4,7 @@
 
 #include "engine/tableau.h"
 
-namespace sudoku {
+namespace sudoku::SUDOKU_MOTEUR {
 
 // The N by N figures: k units of one kind that hold a symbol only in the same set of units of another kind.
 // The symbol goes from those other units outside the figure. All figures are found on the candidates as they
@@ -45,4 +45,4 @@ class Figures {
   bool resultat_ = false;
 };
 
-}  // namespace sudoku
+}  // namespace sudoku::SUDOKU_MOTEUR

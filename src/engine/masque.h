@@ -2,9 +2,12 @@
 
 #include <array>
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 
-namespace sudoku {
+namespace sudoku::SUDOKU_MOTEUR {
+
+inline std::size_t At(int i) { return static_cast<std::size_t>(i); }
 
 // A set of small numbers (symbols of the grid, places in a unit, units of a kind), W words of 64.
 template <int W>
@@ -62,7 +65,11 @@ struct Masque {
   // Those of this set that `b` lacks.
   Masque Sauf(const Masque& b) const { return Combine(b, [](auto x, auto y) { return x & ~y; }); }
   Masque& operator|=(const Masque& b) { return *this = *this | b; }
-  bool operator==(const Masque& b) const = default;
+  bool operator==(const Masque& b) const {
+    std::uint64_t difference = 0;
+    for (int i = 0; i < W; ++i) difference |= (*this)[i] ^ b[i];
+    return difference == 0;
+  }
 
   // Calls f with each number, ascending.
   template <class F>
@@ -87,4 +94,4 @@ struct Masque {
   }
 };
 
-}  // namespace sudoku
+}  // namespace sudoku::SUDOKU_MOTEUR

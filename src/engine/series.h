@@ -4,7 +4,7 @@
 
 #include "engine/tableau.h"
 
-namespace sudoku {
+namespace sudoku::SUDOKU_MOTEUR {
 
 // The deductions within one unit, always in this order: hidden singles and locked candidates in one sweep over
 // the symbols, then hidden sets, then naked sets, of every size.
@@ -52,4 +52,4 @@ class Series {
   std::vector<char> nus_;  // by place: the naked set that begins here has as many cells as symbols
 };
 
-}  // namespace sudoku
+}  // namespace sudoku::SUDOKU_MOTEUR

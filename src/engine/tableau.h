@@ -8,7 +8,7 @@
 #include "engine/masque.h"
 #include "grid/game_state.h"
 
-namespace sudoku {
+namespace sudoku::SUDOKU_MOTEUR {
 
 // The working state of the engine over one grid: candidates a cell (in the grid's own block), and the same
 // turned round, places a symbol in each unit, kept in step. A symbol stands here for all positions of VmValeurs
@@ -51,8 +51,6 @@ struct Tableau {
   bool enregistre = true;       // facts are written to the journal
 
   CompteurMasques<W> compteur;
-
-  static std::size_t At(int i) { return static_cast<std::size_t>(i); }
 
   // Makes the tables for the grid's alphabet and size, unless they are made already.
   void Adopte(GameState& jeuDeLaGrille, Grille& grille);
@@ -99,4 +97,4 @@ struct Tableau {
 template <int W>
 Masque<W> SansTexte(const Alphabet& alphabet, Masque<W> positions, TexteVue texte);
 
-}  // namespace sudoku
+}  // namespace sudoku::SUDOKU_MOTEUR

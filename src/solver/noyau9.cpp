@@ -7,7 +7,7 @@ namespace sudoku {
 namespace noyau_base {
 void JeuSolve(Cases9& cases, Mode9 mode, Passe9& passe);
 }
-#if defined(SUDOKU_NOYAUX_X86)
+#if defined(SUDOKU_VERSIONS_X86)
 namespace noyau_avx2 {
 void JeuSolve(Cases9& cases, Mode9 mode, Passe9& passe);
 }
@@ -37,7 +37,7 @@ void Cases9::Pose(int cellule, int symbole) {
 }
 
 JeuSolve9 ChoisitJeuSolve9() {
-#if defined(SUDOKU_NOYAUX_X86)
+#if defined(SUDOKU_VERSIONS_X86)
   if (__builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vl") &&
       __builtin_cpu_supports("avx512bitalg") && __builtin_cpu_supports("bmi2")) {
     return noyau_avx512::JeuSolve;

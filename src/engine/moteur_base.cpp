@@ -1,0 +1,2 @@
+#define SUDOKU_MOTEUR moteur_base
+#include "engine/moteur.inc"
