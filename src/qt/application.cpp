@@ -11,13 +11,22 @@
 #include <QStyleFactory>
 #include <QTranslator>
 #include <csignal>
+#include <cstdio>
+#include <cstdlib>
 
 #include "qt/lecture_plateau.h"
 #include "qt/mesure.h"
 #include "qt/systeme_qt.h"
 
+// The resources of a library are linked in only where they are named, outside any namespace.
+static void ChargeIcones() {
+  Q_INIT_RESOURCE(icones);
+}
+
 namespace sudoku {
 namespace {
+
+bool avecEcran = true;
 
 int tubeDeSignal[2] = {-1, -1};
 
@@ -44,7 +53,21 @@ void EcouteSignaux(SystemeQt& systeme) {
 
 }  // namespace
 
+void PrepareAffichage(bool ecran) {
+  avecEcran = ecran;
+  if (!ecran) qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& texte) {
+    // Without a screen the toolkit complains about what it can't do, which nobody wanted.
+    if (avecEcran || type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(texte));
+    // The toolkit would abort, with a core dump: there is nothing in it for whoever has no display.
+    if (type != QtFatalMsg) return;
+    std::fputs("Sudoku : l'affichage n'est pas accessible, le programme s'arrête.\n", stderr);
+    std::_Exit(1);
+  });
+}
+
 void PrepareApplication(QApplication& application) {
+  ChargeIcones();
   QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
   auto* francais = new QTranslator(&application);
   if (francais->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
@@ -62,7 +85,7 @@ void EcouteLesFins(SystemeQt& systeme) {
   QObject::connect(
       qApp, &QGuiApplication::commitDataRequest, qApp,
       [&systeme](QSessionManager& session) {
-        systeme.DemandeFermeture();
+        if (session.allowsInteraction()) systeme.DemandeFermeture();
         session.cancel();  // still here: the user wants to stay
       },
       Qt::DirectConnection);

@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QToolButton>
 #include <cmath>
@@ -15,10 +16,30 @@ namespace {
 
 constexpr int kCote = 26;
 
+// A flat button that is marked while it would be the choice: the mouse brings it the focus.
+class BoutonPalette : public QToolButton {
+ public:
+  using QToolButton::QToolButton;
+
+ protected:
+  void enterEvent(QEnterEvent*) override {
+    if (isEnabled()) setFocus();
+  }
+  void paintEvent(QPaintEvent*) override {
+    QPainter p(this);
+    const QPalette::ColorGroup groupe = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    p.fillRect(rect(), palette().color(groupe, hasFocus() ? QPalette::Highlight : QPalette::Base));
+    p.setPen(palette().color(QPalette::Mid));
+    p.drawRect(rect().adjusted(0, 0, -1, -1));
+    p.setPen(palette().color(groupe, hasFocus() ? QPalette::HighlightedText : QPalette::Text));
+    p.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+  }
+};
+
 QToolButton* Bouton(const QString& texte, QWidget* parent) {
-  auto* bouton = new QToolButton(parent);
+  auto* bouton = new BoutonPalette(parent);
   bouton->setText(texte);
-  bouton->setAutoRaise(true);
+  bouton->setFocusPolicy(Qt::StrongFocus);
   return bouton;
 }
 
@@ -30,7 +51,7 @@ PaletteSymboles::PaletteSymboles(const Texte& symboles, EditeurCase& editeur, QW
   setAttribute(Qt::WA_DeleteOnClose);
   setFont(PoliceQt({}));
   auto* pile = new QVBoxLayout(this);
-  pile->setContentsMargins(4, 4, 4, 4);
+  pile->setContentsMargins(5, 5, 5, 5);
   pile->setSpacing(4);
   auto* grille = new QGridLayout;
   grille->setSpacing(0);
@@ -50,7 +71,7 @@ void PaletteSymboles::AjouteSymboles(QGridLayout* grille, const Texte& symboles)
   colonnes_ = std::max(1, static_cast<int>(std::lround(std::sqrt(static_cast<double>(symboles.size())))));
   for (const char32_t symbole : symboles) {
     const Texte texte(1, symbole);
-    QToolButton* bouton = Bouton(SansTouche(texte), this);
+    QToolButton* bouton = Bouton(VersQt(texte), this);
     bouton->setFont(PoliceQt({.Gras = true}));
     bouton->setFixedSize(kCote, kCote);
     bouton->setEnabled(!editeur_.isReadOnly());
@@ -69,6 +90,7 @@ void PaletteSymboles::AjouteCommande(QLayout* rangee, const QString& texte, bool
                                      const std::function<void()>& acte) {
   QToolButton* bouton = Bouton(texte, this);
   bouton->setEnabled(permise);
+  bouton->setFixedSize(bouton->fontMetrics().horizontalAdvance(texte) + 14, kCote);
   connect(bouton, &QToolButton::clicked, this, [this, acte] {
     const auto aFaire = acte;
     close();
@@ -76,6 +98,12 @@ void PaletteSymboles::AjouteCommande(QLayout* rangee, const QString& texte, bool
   });
   rangee->addWidget(bouton);
   boutons_.push_back(bouton);
+}
+
+void PaletteSymboles::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  p.setPen(palette().color(QPalette::Dark));
+  p.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void PaletteSymboles::Montre(const QRect& boite) {

@@ -24,6 +24,7 @@ class PaletteSymboles : public QWidget {
   void Montre(const QRect& boite);
 
  protected:
+  void paintEvent(QPaintEvent* evenement) override;
   void keyPressEvent(QKeyEvent* evenement) override;
 
  private:

@@ -6,6 +6,7 @@
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QStyle>
 
 #include "qt/editeur_case.h"
 #include "qt/lecture_plateau.h"
@@ -243,6 +244,7 @@ void PlateauQt::Redimensionne() {
   geometrie_.Echelle(zoom_ * dpr / kTwipsParPixel, haut_);
   police_ = PoliceQt({.Gras = true}, zoom_ * dpr);
   editeur_->setFont(PoliceQt({.Gras = true}, zoom_));
+  MontreBarres();
   const QSize vue = viewport()->size();
   horizontalScrollBar()->setPageStep(vue.width());
   horizontalScrollBar()->setRange(0, std::max(0, contenu_.width() - vue.width()));
@@ -254,6 +256,16 @@ void PlateauQt::Redimensionne() {
   PlaceEditeur();
   MontreFocus();
   viewport()->update();
+}
+
+// At once: left to itself the toolkit lays the bars out later, when the size of the view was needed before.
+void PlateauQt::MontreBarres() {
+  const int barre = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  bool verticale = contenu_.height() > height();
+  const bool horizontale = contenu_.width() > width() - (verticale ? barre : 0);
+  verticale = contenu_.height() > height() - (horizontale ? barre : 0);
+  setVerticalScrollBarPolicy(verticale ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+  setHorizontalScrollBarPolicy(horizontale ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
 }
 
 void PlateauQt::resizeEvent(QResizeEvent*) {

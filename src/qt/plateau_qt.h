@@ -64,6 +64,7 @@ class PlateauQt : public QAbstractScrollArea {
   void AnnonceFocus();
 
   void Redimensionne();
+  void MontreBarres();
   QPoint Origine() const;  // of the board in the viewport, device pixels
   QRect EnPixels(const QRect& appareil) const;
   QRect Anneau(int i) const;
