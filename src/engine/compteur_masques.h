@@ -7,41 +7,46 @@
 
 namespace sudoku::SUDOKU_MOTEUR {
 
-// Counts how often each mask of a short list occurs: a table of open addresses, emptied in one step.
+// Counts how often each mask of a short list occurs. A table of open addresses that holds the places of the masks
+// in the caller's own list, so that it stays small, and is emptied in one step.
 template <int W>
 class CompteurMasques {
  public:
   // For lists of up to n masks.
   void Dimensionne(int n) {
     std::size_t taille = 4;
-    while (taille < 2 * static_cast<std::size_t>(n)) taille *= 2;
+    while (taille < 2 * At(n)) taille *= 2;
     entrees_.assign(taille, Entree{});
     tour_ = 0;
   }
-  void Vide() { ++tour_; }
-  // Counts `masque` (with a second number that must be equal too) once more and gives the count.
-  int Ajoute(const Masque<W>& masque, int second = 0) {
+  void Vide() {
+    if (++tour_ != 0) return;
+    entrees_.assign(entrees_.size(), Entree{});
+    tour_ = 1;
+  }
+  // Counts the mask at place `rang` of the list once more and gives the count; `egal(autre)` tells whether the
+  // one at the place `autre`, counted before, is equal to it.
+  template <class F>
+  int Ajoute(int rang, const Masque<W>& masque, F egal) {
     const std::size_t fin = entrees_.size() - 1;
-    std::size_t i = static_cast<std::size_t>(masque.Hache()) & fin;
-    for (;; i = (i + 1) & fin) {
+    for (std::size_t i = static_cast<std::size_t>(masque.Hache()) & fin;; i = (i + 1) & fin) {
       Entree& e = entrees_[i];
       if (e.tour != tour_) {
-        e = {masque, tour_, second, 1};
+        e = {tour_, static_cast<std::int16_t>(rang), 1};
         return 1;
       }
-      if (e.masque == masque && e.second == second) return ++e.compte;
+      if (egal(static_cast<int>(e.rang))) return ++e.compte;
     }
   }
 
  private:
   struct Entree {
-    Masque<W> masque;
-    std::uint64_t tour = 0;
-    int second = 0;
-    int compte = 0;
+    std::uint32_t tour = 0;
+    std::int16_t rang = 0;
+    std::int16_t compte = 0;
   };
   std::vector<Entree> entrees_;
-  std::uint64_t tour_ = 0;
+  std::uint32_t tour_ = 0;
 };
 
 }  // namespace sudoku::SUDOKU_MOTEUR

@@ -30,7 +30,10 @@ class Figures {
     M cle;
   };
 
-  void Cherche(int symbole, int type, int type2);
+  void ChercheLignes(int symbole, int type, int type2);
+  void ChercheCarres(int symbole, int type, int type2);
+  void FigureEnCarres(int symbole, int type, int type2, int u, int fin, int pas);
+  static Figure Commence(int symbole, int type, int unite, int type2, const M& cle);
   // Numbers - 1 of the units of kind type2 in which the places of unit (type, unite) lie.
   M Cle(int type, int unite, int type2, const M& places) const;
   // Places of unit (type2, unite2) that lie in the units `unites` of kind `type`.
@@ -40,8 +43,6 @@ class Figures {
 
   Tableau<W>& t_;
   std::vector<Figure> figures_;
-  std::vector<M> cles_;
-  std::vector<std::int16_t> comptes_;
   bool resultat_ = false;
 };
 

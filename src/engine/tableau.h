@@ -41,6 +41,7 @@ struct Tableau {
   M* candidats = nullptr;       // by cell
   std::vector<char> ouverte;    // by cell
   std::vector<M> valeurs[3];    // by type and unit - 1: symbols that count there, all equal positions
+  std::vector<M> ouvertes[3];   // by type and unit - 1: places of open cells
   std::vector<M> sures[3];      // by type and unit - 1: places with a SolutionSure that isn't the content
   std::vector<M> places[3];     // by type, (unit - 1) * N + symbol
   std::vector<char> sale[3];    // by type and unit - 1: some field of a cell changed since its last run
@@ -87,6 +88,9 @@ struct Tableau {
 
  private:
   void AmorceCases();
+  void PlacesDesContenus(int s, const M (&unites)[3]);
+  void PlacesDesCandidats();
+  M Etend(const std::vector<M>& parties, const M& unites, int premiere, int pas) const;
   void ListePossibles();
   M ListeAvecTextes(int cellule) const;
   M RetireTous(M liste, int type, int unite, int cellule) const;
