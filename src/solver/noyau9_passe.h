@@ -168,7 +168,8 @@ void Passe::Retourne() {
     const V16 c = Lit(candidats_[u]);
     Range(places_[u], V16{});
     for (int s = 0; s < 9; ++s) {
-      places_[u][s] = static_cast<std::uint16_t>(Bits(NonNul(c & static_cast<std::uint16_t>(1 << s))));
+      const auto symbole = static_cast<std::uint16_t>(1U << s);
+      places_[u][s] = static_cast<std::uint16_t>(Bits(NonNul(c & symbole)));
     }
   }
 }
