@@ -27,7 +27,7 @@ class Fichiers {
  public:
   virtual ~Fichiers() = default;
   // The whole content. Throws Erreur 53 where the file or its folder is missing, 75 for anything else: no
-  // rights, a folder, a pipe, more than a gigabyte …
+  // rights, a folder, a pipe, more than 256 MiB …
   virtual std::string Lit(TexteVue chemin) = 0;
   // Opens a file for writing from its start, its content as it was; makes it where there is none. Rights,
   // links and owner of a file that was there stay. Throws 75.

@@ -19,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // No game comes near it; a disk image opened by mistake must not eat the machine's memory.
-constexpr off_t kTailleMax = off_t{1} << 30;
+constexpr off_t kTailleMax = off_t{1} << 28;
 
 // A NUL can't be part of a path: cutting it there would name another file.
 bool Nommable(TexteVue chemin) {

@@ -40,6 +40,7 @@ bool Partage(TexteVue entree, Texte& nom, TexteVue& contenu) {
 }
 
 std::optional<NumeroErreur> LitPartie(TexteVue ligne, std::vector<ClsPartie>& VgParties) {
+  if (VgParties.size() > kEntreesMax) return kIndiceHorsSelection;
   ClsPartie& partie = VgParties.emplace_back();
   TexteVue grille;
   if (!Partage(ligne, partie.Nom, grille)) return kIndiceHorsSelection;
@@ -56,12 +57,14 @@ std::optional<NumeroErreur> LitScore(TexteVue entree, TypScore& score) {
   return std::nullopt;
 }
 
-std::optional<NumeroErreur> LitScores(TexteVue ligne, std::vector<TypScore>& VgScores) {
+std::optional<NumeroErreur> LitScores(TexteVue ligne, std::optional<std::vector<TypScore>>& VgScores) {
   TexteVue reste = ligne.substr(1);
-  // A score that its NUL doesn't close doesn't count. Slot 0 comes on top.
-  VgScores.assign(static_cast<std::size_t>(std::ranges::count(reste, kSepareScores)) + 1, TypScore());
-  for (std::size_t i = 1; i < VgScores.size(); ++i) {
-    if (const auto erreur = LitScore(Detache(reste, kSepareScores), VgScores[i])) return erreur;
+  // A score that its NUL doesn't close doesn't count.
+  const auto nombre = static_cast<std::size_t>(std::ranges::count(reste, kSepareScores));
+  if (nombre > kEntreesMax) return kIndiceHorsSelection;
+  VgScores.emplace(nombre + 1);
+  for (std::size_t i = 1; i <= nombre; ++i) {
+    if (const auto erreur = LitScore(Detache(reste, kSepareScores), (*VgScores)[i])) return erreur;
   }
   return std::nullopt;
 }
@@ -98,7 +101,7 @@ LectureSud LitSud(std::string_view octets) {
   while (!lignes.Fin() && !lu.erreur) {
     const Texte ligne = lignes.Suivante();
     const bool scores = !ligne.empty() && ligne.front() == kSepareScores;
-    lu.erreur = scores ? LitScores(ligne, lu.VgScores.emplace()) : LitPartie(ligne, lu.VgParties);
+    lu.erreur = scores ? LitScores(ligne, lu.VgScores) : LitPartie(ligne, lu.VgParties);
   }
   return lu;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,6 +26,9 @@ namespace sudoku {
 std::string EcritSud(TexteVue VmValeurs, TexteVue initiale, const std::vector<ClsPartie>& VgParties,
                      const std::vector<TypScore>& VgScores);
 
+// More games or scores than this are no game file, and would fill the memory.
+inline constexpr std::size_t kEntreesMax = 1'000'000;
+
 // What could be read of a file's bytes.
 struct LectureSud {
   std::optional<Texte> VmValeurs;  // line 1
@@ -32,8 +36,8 @@ struct LectureSud {
   std::vector<ClsPartie> VgParties = std::vector<ClsPartie>(1);
   std::optional<std::vector<TypScore>> VgScores;  // nothing where no score line was reached
   // Why the reading stopped. 62: fewer than two lines. 9: a game or score without "-"; it is the last one
-  // read, with its name alone. 13: a time that is none; its score has the name alone. Scores behind it are
-  // empty.
+  // read, with its name alone. 9 also: more than kEntreesMax of either; they aren't read. 13: a time that is
+  // none; its score has the name alone. Scores behind a failure are empty.
   std::optional<NumeroErreur> erreur;
 };
 LectureSud LitSud(std::string_view octets);

@@ -10,7 +10,7 @@
 #include <csignal>
 #include <filesystem>
 
-#include "faults/joueur.h"
+#include "joueur.h"
 #include "platform/erreur.h"
 #include "storage/safe_save.h"
 

@@ -8,7 +8,7 @@
 #include <filesystem>
 
 #include "faults/appels.h"
-#include "faults/joueur.h"
+#include "joueur.h"
 
 // A save goes wrong at every system call in turn: the call fails, or the process dies there. Whatever
 // happens, the player has the old file or the new one, whole.

@@ -107,21 +107,23 @@ TEST(EcritSud, ExempleALOctet) {
   EXPECT_EQ(EcritSud(U"1", U" 0", {{}}, {{}}), "1\r\n 0\r\n\0"s);
 }
 
-// Any file at all: cut at every byte, and with every byte replaced by those that mean something.
-TEST(LitSud, FichierAbimeNEmporteRien) {
-  const std::string octets =
-      "12\r\n10 0\r\nE\x1F"
-      "t-1021\r\n\0Ma-00:03:17\0"s;
-  for (std::size_t i = 0; i <= octets.size(); ++i) {
-    const LectureSud coupe = LitSud(octets.substr(0, i));
-    EXPECT_EQ(coupe.erreur == kFinDeFichier, !coupe.grille) << i;
-    for (const char c : "\0\r\n-\x1F\xEF"s) {
-      std::string abime = octets;
-      if (i < octets.size()) abime[i] = c;
-      const LectureSud lu = LitSud(abime);
-      EXPECT_LE(lu.VgParties.size(), 4U) << i;
-    }
-  }
+std::string Repete(const std::string& morceau, std::size_t fois) {
+  std::string texte;
+  for (std::size_t i = 0; i < fois; ++i) texte += morceau;
+  return texte;
+}
+
+TEST(LitSud, PlusDEntreesQuAucunJeu) {
+  const std::string debut = "1\n 0\n";
+  const LectureSud plein = LitSud(debut + Repete("-\n", kEntreesMax));
+  EXPECT_EQ(plein.erreur, std::nullopt);
+  EXPECT_EQ(plein.VgParties.size(), kEntreesMax + 1);
+  const LectureSud parties = LitSud(debut + Repete("-\n", kEntreesMax + 1));
+  EXPECT_EQ(parties.erreur, kIndiceHorsSelection);
+  EXPECT_EQ(parties.VgParties.size(), kEntreesMax + 1);
+  const LectureSud scores = LitSud(debut + "\0"s + Repete("-0:00:00\0"s, kEntreesMax + 1));
+  EXPECT_EQ(scores.erreur, kIndiceHorsSelection);
+  EXPECT_FALSE(scores.VgScores);
 }
 
 TEST(ChaineEtats, EcritEtChargeLesCases) {

@@ -1,0 +1,120 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "joueur.h"
+
+// Files that no program wrote, opened by the whole game: it must go on, with a board that fits its records.
+
+namespace sudoku {
+namespace {
+
+using namespace std::string_literals;
+
+class FichierDeJeu : public testing::Test {
+ protected:
+  FichierDeJeu() : dossier_(NouveauDossier()) {}
+  ~FichierDeJeu() override { std::filesystem::remove_all(dossier_); }
+  std::string Chemin(const std::string& nom) const { return dossier_ + "/" + nom; }
+
+  // Loads the file over a game that is running, answering library windows with `position`.
+  void Charge(Joueur& joueur, const std::string& octets, int position) {
+    EcritOctets(Chemin("bon.sud"), "1234\r\n10 0 0 0 0 020 0 030 0 0 0 0 040\r\n\0"s);
+    joueur.Demarre(Chemin("bon.sud"));
+    EcritOctets(Chemin("essai.sud"), octets);
+    joueur.reponses = {[position](Boite& boite) {
+      const auto derniere = static_cast<int>(boite.fenetre->Trouve("LstLoad")->items.size()) - 1;
+      ChoisitPartie(boite, std::min(position, derniere));
+    }};
+    joueur.Charge(Chemin("essai.sud"));
+  }
+
+ private:
+  std::string dossier_;
+};
+
+// What is on the board is what the records say.
+testing::AssertionResult Tient(Joueur& joueur) {
+  const GameState& jeu = joueur.Jeu();
+  const Plateau& plateau = joueur.LePlateau();
+  const int N = jeu.VmTaille;
+  if (jeu.VgEtat != kSaisieGrille && jeu.VgEtat != kJeu) return testing::AssertionFailure() << "mode";
+  if (jeu.VmGrille.Borne() != N * N || jeu.VmGrille.N() != N) return testing::AssertionFailure() << "grid";
+  if (plateau.Cases() != N * N || plateau.Cadres() != N) return testing::AssertionFailure() << "board";
+  if (jeu.VmPartie >= static_cast<int>(jeu.VgParties.size()))
+    return testing::AssertionFailure() << "VmPartie";
+  for (int i = 1; jeu.VgEtat == kJeu && i <= N * N; ++i) {
+    if (plateau.TxtCase(i).Text != jeu.VmGrille(i).ValeurSaisie()) {
+      return testing::AssertionFailure() << "cell " << i;
+    }
+  }
+  return testing::AssertionSuccess();
+}
+
+const std::string kEntier =
+    "1234\r\n10 0 0 0 0 020 0 030 0 0 0 0 040\r\nE\x1Fi-102242 0 0 020 0 030 0 0 0 0 040\r\n\0Ma-00:03:17\0"s;
+
+TEST_F(FichierDeJeu, CoupeOuAbimeAChaqueOctet) {
+  for (std::size_t i = 0; i <= kEntier.size(); ++i) {
+    std::vector<std::string> variantes = {kEntier.substr(0, i), "\xEF\xBB\xBF" + kEntier.substr(0, i)};
+    for (const char c : "\0\r\n- 4x\x1F\xE9"s) {
+      if (i < kEntier.size()) variantes.push_back(std::string(kEntier).replace(i, 1, 1, c));
+      variantes.push_back(std::string(kEntier).insert(i, 1, c));
+    }
+    for (const std::string& octets : variantes) {
+      for (const int position : {0, 1}) {
+        Joueur joueur;
+        Charge(joueur, octets, position);
+        ASSERT_TRUE(Tient(joueur)) << testing::PrintToString(octets) << joueur.Sortie();
+        joueur.Tape(3, U"3");
+        joueur.Clique("MnuSave");
+        ASSERT_TRUE(Tient(joueur)) << testing::PrintToString(octets) << joueur.Sortie();
+      }
+    }
+  }
+}
+
+TEST_F(FichierDeJeu, SymbolesQuAucuneGrilleNAccepte) {
+  for (const std::string& symboles : {"12345"s, std::string(200, 'x'), std::string(196, 'x'), "12\xEF"s}) {
+    Joueur joueur;
+    Charge(joueur, symboles + "\r\n" + std::string(80'000, '0') + "\r\n\0"s, 0);
+    EXPECT_TRUE(joueur.AVu("message \"Choix incorrect\"")) << symboles;
+    EXPECT_TRUE(Tient(joueur)) << symboles;
+    EXPECT_EQ(joueur.Jeu().VmValeurs, U"1234") << symboles;
+    EXPECT_EQ(joueur.Jeu().VmTaille, 4) << symboles;
+  }
+}
+
+TEST_F(FichierDeJeu, OctetsAuHasard) {
+  std::mt19937 hasard(20261124);
+  const std::string octets = "\0\0\r\n\n-  0011223349xé\x1F\xEF\xBB\xBF:"s;
+  for (int essai = 0; essai < 400; ++essai) {
+    std::string contenu = essai % 2 == 0 ? "1234\r\n" : "";
+    for (auto n = hasard() % 200; n > 0; --n) contenu += octets[hasard() % octets.size()];
+    Joueur joueur;
+    Charge(joueur, contenu, 1);
+    ASSERT_TRUE(Tient(joueur)) << testing::PrintToString(contenu) << joueur.Sortie();
+  }
+}
+
+TEST_F(FichierDeJeu, DesMilliersDeParties) {
+  std::string octets = "1234\r\n10 0 0 0 0 020 0 030 0 0 0 0 040\r\n";
+  for (int i = 1; i <= 40'000; ++i)
+    octets += "p" + std::to_string(i) + "-10 0 0 0 0 020 0 030 0 0 0 0 040\r\n";
+  const struct {
+    int position, VmPartie;
+    bool refusee;
+  } cas[] = {{32'767, 32'767, false}, {32'768, 0, true}};
+  for (const auto& c : cas) {
+    Joueur joueur;
+    Charge(joueur, octets, c.position);
+    EXPECT_TRUE(Tient(joueur)) << c.position;
+    EXPECT_EQ(joueur.Jeu().VgParties.size(), 40'001U);
+    EXPECT_EQ(joueur.Jeu().VmPartie, c.VmPartie);
+    EXPECT_EQ(joueur.AVu("message \"FRMParties.Valide : 9 - L'indice n'appartient pas à la sélection\""),
+              c.refusee);
+  }
+}
+
+}  // namespace
+}  // namespace sudoku
