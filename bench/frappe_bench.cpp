@@ -1,0 +1,50 @@
+#include <benchmark/benchmark.h>
+
+#include <sstream>
+#include <string>
+
+#include "headless/systeme_sans_ecran.h"
+#include "plateau_alea.h"
+#include "platform/fichiers_disque.h"
+#include "series_bench.h"
+#include "shell/programme.h"
+
+namespace sudoku::bench {
+namespace {
+
+// The player types one of the unproved entries of the board Evaluation/N/50dixieme, and erases it again.
+void Mesure(benchmark::State& state, int N) {
+  std::ostringstream sortie;
+  FichiersDisque fichiers;
+  SystemeSansEcran systeme(sortie, fichiers, [] { return false; });
+  Programme programme(systeme);
+  programme.Demarre(U"");
+  FRMSudoku& frm = programme.Principale();
+  Texte symboles = SymbolesPour(N);
+  frm.JeuVierge(symboles);
+  GameState& jeu = frm.Jeu();
+  Charge(PlateauDeuxPasses(N), jeu.VmGrille);
+  jeu.VgEtat = kJeu;
+  frm.Moteur().Evaluation(jeu.VmGrille, 2);
+  frm.Affiche();
+  int cellule = 1;
+  while (jeu.VmGrille(cellule).Etat() != kPossible) ++cellule;
+  const Texte saisie = jeu.VmGrille(cellule).ValeurSaisie();
+  Plateau& plateau = frm.LaFenetre().plateau;
+  for (auto _ : state) {
+    plateau.Text(cellule, plateau.TxtCase(cellule).Text.empty() ? saisie : Texte());
+    plateau.OublieChangees();
+  }
+}
+
+}  // namespace
+
+void InscritFrappe() {
+  for (const int N : {9, 16, 25, 36, 49, 64, 81, 100, 121, 144, 169}) {
+    benchmark::RegisterBenchmark(("Frappe/" + std::to_string(N)).c_str(), [=](benchmark::State& state) {
+      Mesure(state, N);
+    })->Unit(benchmark::kMicrosecond);
+  }
+}
+
+}  // namespace sudoku::bench
