@@ -18,34 +18,37 @@ constexpr int kEspace = 32;
 // An element that commands name, the commands that know it, and the windows that have one of this name.
 struct Nomme {
   TexteVue nom;
-  TexteVue commandes;
+  std::array<TexteVue, 3> commandes;
   std::array<TexteVue, 2> fenetres;
 };
 
 constexpr Nomme kNommes[] = {
-    {U"BtOK", U"click", {U"FRMParties", U"FRMNRVAbout"}},
-    {U"BtDel", U"click", {U"FRMParties"}},
-    {U"BtSysInfo", U"click", {U"FRMNRVAbout"}},
-    {U"BtViewSolution", U"click press release", {U"FRMHelp"}},
-    {U"ChkLightSur", U"click", {U"FRMHelp"}},
-    {U"ChkLightPoss", U"click", {U"FRMHelp"}},
-    {U"ChkForeBlue", U"click", {U"FRMHelp"}},
-    {U"ChkForeRed", U"click", {U"FRMHelp"}},
-    {U"ChkListPoss", U"click", {U"FRMHelp"}},
-    {U"ChkRep", U"click", {U"FRMHelp"}},
-    {U"ChkTips", U"click", {U"FRMHelp"}},
-    {U"LstLoad", U"select dblclick", {U"FRMParties"}},
-    {U"LstSave", U"select dblclick edit", {U"FRMParties"}},
-    {U"FRMSudoku", U"close", {U"FRMSudoku"}},
-    {U"FRMHelp", U"close", {U"FRMHelp"}},
-    {U"FRMParties", U"close", {U"FRMParties"}},
-    {U"FRMNRVAbout", U"close", {U"FRMNRVAbout"}},
+    {U"BtOK", {U"click"}, {U"FRMParties", U"FRMNRVAbout"}},
+    {U"BtDel", {U"click"}, {U"FRMParties"}},
+    {U"BtSysInfo", {U"click"}, {U"FRMNRVAbout"}},
+    {U"BtViewSolution", {U"click", U"press", U"release"}, {U"FRMHelp"}},
+    {U"ChkLightSur", {U"click"}, {U"FRMHelp"}},
+    {U"ChkLightPoss", {U"click"}, {U"FRMHelp"}},
+    {U"ChkForeBlue", {U"click"}, {U"FRMHelp"}},
+    {U"ChkForeRed", {U"click"}, {U"FRMHelp"}},
+    {U"ChkListPoss", {U"click"}, {U"FRMHelp"}},
+    {U"ChkRep", {U"click"}, {U"FRMHelp"}},
+    {U"ChkTips", {U"click"}, {U"FRMHelp"}},
+    {U"LstLoad", {U"select", U"dblclick"}, {U"FRMParties"}},
+    {U"LstSave", {U"select", U"dblclick", U"edit"}, {U"FRMParties"}},
+    {U"FRMSudoku", {U"close"}, {U"FRMSudoku"}},
+    {U"FRMHelp", {U"close"}, {U"FRMHelp"}},
+    {U"FRMParties", {U"close"}, {U"FRMParties"}},
+    {U"FRMNRVAbout", {U"close"}, {U"FRMNRVAbout"}},
 };
 
+bool Connait(const Nomme& nomme, TexteVue commande) {
+  return std::find(nomme.commandes.begin(), nomme.commandes.end(), commande) != nomme.commandes.end();
+}
+
 const Nomme* Connu(TexteVue commande, TexteVue nom) {
-  const auto place = std::find_if(std::begin(kNommes), std::end(kNommes), [&](const Nomme& n) {
-    return n.nom == nom && n.commandes.find(commande) != TexteVue::npos;
-  });
+  const auto place = std::find_if(std::begin(kNommes), std::end(kNommes),
+                                  [&](const Nomme& n) { return n.nom == nom && Connait(n, commande); });
   return place == std::end(kNommes) ? nullptr : place;
 }
 
