@@ -2,12 +2,17 @@
 
 #include <QDialog>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QHBoxLayout>
+#include <QHeaderView>
+#include <QIdentityProxyModel>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QTreeView>
 #include <QVBoxLayout>
 
 #include "qt/icone.h"
@@ -63,6 +68,15 @@ class Boite : public QDialog {
     return champ;
   }
 
+  // As on other desktops the letter alone is enough where there is no field to type it into.
+  void keyPressEvent(QKeyEvent* evenement) override {
+    for (QPushButton* bouton : findChildren<QPushButton*>()) {
+      const QKeySequence touche = QKeySequence::mnemonic(bouton->text());
+      if (!touche.isEmpty() && touche[0].key() == evenement->key()) return bouton->click();
+    }
+    QDialog::keyPressEvent(evenement);
+  }
+
   int Repond() {
     boutons_->insertStretch(0);
     boutons_->addStretch();
@@ -74,6 +88,7 @@ class Boite : public QDialog {
   void AjouteTexte() {
     constexpr int kLargeur = 480;
     auto* texte = new QLabel(texte_, this);
+    texte->setMinimumWidth(200);  // room for the title
     texte->setTextFormat(Qt::PlainText);
     texte->setTextInteractionFlags(Qt::TextSelectableByMouse);
     if (texte->sizeHint().width() > kLargeur) {
@@ -98,6 +113,31 @@ class Boite : public QDialog {
   QVBoxLayout* pile_;
   QHBoxLayout* boutons_;
 };
+
+// The file dialog takes dates and sizes from the desktop's language, and has no word of its own for a folder.
+class ModeleFrancais : public QIdentityProxyModel {
+ public:
+  using QIdentityProxyModel::QIdentityProxyModel;
+
+  QVariant data(const QModelIndex& place, int role) const override {
+    enum Colonne { kTaille = 1, kType = 2, kDate = 3 };
+    const auto* modele = qobject_cast<const QFileSystemModel*>(sourceModel());
+    if (role != Qt::DisplayRole || modele == nullptr) return QIdentityProxyModel::data(place, role);
+    const QFileInfo fichier = modele->fileInfo(mapToSource(place));
+    if (place.column() == kDate) return QLocale().toString(fichier.lastModified(), QLocale::ShortFormat);
+    if (place.column() == kTaille && fichier.isFile()) return QLocale().formattedDataSize(fichier.size());
+    if (place.column() == kType && fichier.isDir()) return QStringLiteral("Dossier");
+    return QIdentityProxyModel::data(place, role);
+  }
+};
+
+void ElargitColonnes(QFileDialog& boite) {
+  constexpr int kLargeurs[] = {220, 70, 110, 110};
+  boite.resize(680, 420);
+  const auto* arbre = boite.findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (arbre == nullptr) return;
+  for (int n = 0; n < 4; ++n) arbre->header()->resizeSection(n, kLargeurs[n]);
+}
 
 // "Sudoku Files (*.sud)" of the pairs of description and pattern of a request.
 QStringList Filtres(const Texte& liste) {
@@ -143,6 +183,8 @@ QString DemandeChemin(const PlaceDeBoite& place, const DemandeFichier& demande) 
   if (!demande.lpstrTitle.empty()) ici.titre = VersQt(demande.lpstrTitle);
   Installe(boite, ici, "fichier");
   boite.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
+  boite.setProxyModel(new ModeleFrancais(&boite));
+  ElargitColonnes(boite);
   boite.setFileMode(QFileDialog::AnyFile);
   boite.setAcceptMode(QFileDialog::AcceptOpen);
   boite.setLabelText(QFileDialog::Accept, QStringLiteral("OK"));

@@ -97,7 +97,7 @@ class CaseACocherElement : public ElementQt {
     if (case_->isChecked() != (element_.Value != 0)) case_->setChecked(element_.Value != 0);
   }
   void Taille(double echelle) override {
-    constexpr int kMarque = 20;  // the box itself and the gap behind it
+    constexpr int kMarque = 24;  // the box itself and the gap behind it
     case_->setFont(
         Condensee(PoliceQt(element_.police, echelle), case_->text(), Rectangle(echelle).width() - kMarque));
   }

@@ -19,8 +19,8 @@
 namespace sudoku {
 namespace {
 
-Qt::WindowFlags Drapeaux(const Fenetre& fenetre) {
-  Qt::WindowFlags drapeaux = fenetre.Dialogue ? Qt::Dialog : Qt::Window;
+Qt::WindowFlags Drapeaux(const Fenetre& fenetre, bool modale) {
+  Qt::WindowFlags drapeaux = fenetre.Dialogue || modale ? Qt::Dialog : Qt::Window;
   drapeaux |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
   if (fenetre.ControlBox) drapeaux |= Qt::WindowCloseButtonHint;
   if (fenetre.TopMost) drapeaux |= Qt::WindowStaysOnTopHint;
@@ -29,8 +29,13 @@ Qt::WindowFlags Drapeaux(const Fenetre& fenetre) {
 
 }  // namespace
 
-FenetreQt::FenetreQt(Fenetre& fenetre, Pilote& pilote, QWidget* proprietaire)
-    : QWidget(proprietaire, Drapeaux(fenetre)), fenetre_(fenetre), pilote_(pilote), fond_(new QWidget(this)) {
+FenetreQt::FenetreQt(Fenetre& fenetre, Pilote& pilote, QWidget* proprietaire, Maniere maniere)
+    : QWidget(proprietaire, Drapeaux(fenetre, maniere.modale)),
+      fenetre_(fenetre),
+      pilote_(pilote),
+      fond_(new QWidget(this)),
+      dessus_(maniere.dessus) {
+  if (maniere.modale) setWindowModality(Qt::ApplicationModal);
   setObjectName(QString::fromStdString(fenetre.Name));
   setWindowIcon(IconeDuJeu());
   setFont(PoliceQt({}));
@@ -138,7 +143,10 @@ void FenetreQt::Synchronise() {
   }
   if (plateau_ != nullptr) plateau_->Synchronise();
   SuitPile();
-  if (isHidden() == fenetre_.Visible) setVisible(fenetre_.Visible);
+  if (isHidden() == fenetre_.Visible) {
+    TientAuProprietaire();
+    setVisible(fenetre_.Visible);
+  }
   if (fenetre_.fermee) boucle_.quit();
 }
 
@@ -150,9 +158,14 @@ void FenetreQt::SuitPile() {
   if (QWindow* fenetre = windowHandle()) fenetre->setFlag(Qt::WindowStaysOnTopHint, voulu);
 }
 
-void FenetreQt::Modale(bool dessus) {
-  dessus_ = dessus;
-  setWindowModality(Qt::ApplicationModal);
+// The window manager keeps it above its owner.
+void FenetreQt::TientAuProprietaire() {
+  if (parentWidget() == nullptr || windowHandle() != nullptr) return;
+  winId();
+  windowHandle()->setTransientParent(parentWidget()->windowHandle());
+}
+
+void FenetreQt::Modale() {
   fenetre_.Visible = true;
   Synchronise();
   activateWindow();
@@ -168,9 +181,11 @@ void FenetreQt::SansEcran() {
 
 QSize FenetreQt::Disponible() const {
   if (sansEcran_) return QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-  QMargins bords(4, 30, 4, 4);  // of a window manager that hasn't told yet
-  if (windowHandle() != nullptr && isVisible()) bords = windowHandle()->frameMargins();
-  return screen()->availableSize().shrunkBy(bords);
+  // A window manager tells how thick its frame is only once the window is there, and some never do.
+  QSize bords(8, 34);
+  if (windowHandle() != nullptr)
+    bords = bords.expandedTo(QSize(0, 0).grownBy(windowHandle()->frameMargins()));
+  return screen()->availableSize() - bords;
 }
 
 void FenetreQt::Dispose() {

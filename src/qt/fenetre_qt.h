@@ -23,15 +23,19 @@ class PlateauQt;
 // board can be made smaller or larger (Ctrl with +, - and 0, or with the wheel).
 class FenetreQt : public QWidget {
  public:
-  FenetreQt(Fenetre& fenetre, Pilote& pilote, QWidget* proprietaire);
+  struct Maniere {
+    bool modale = false;
+    bool dessus = false;  // above windows that stay on top, whatever the record says
+  };
+  FenetreQt(Fenetre& fenetre, Pilote& pilote, QWidget* proprietaire, Maniere maniere);
   ~FenetreQt() override;
 
   // Shows what the record holds.
   void Synchronise();
   // Ticks that came while a handler ran.
   void RattrapeTics();
-  // Runs the window until the record says that it is closed; `dessus`: above windows that stay on top.
-  void Modale(bool dessus);
+  // Runs the window until the record says that it is closed.
+  void Modale();
   // As large as the record says, whatever the screen: for a picture.
   void SansEcran();
 
@@ -65,6 +69,7 @@ class FenetreQt : public QWidget {
   void Sonne(std::size_t n);
 
   void SuitPile();
+  void TientAuProprietaire();
   void Dispose();
   QSize Disponible() const;
   void RentreDansLEcran();
@@ -87,7 +92,7 @@ class FenetreQt : public QWidget {
   double zoom_ = 1;
   int roue_ = 0;  // parts of a wheel's notch
   bool sansEcran_ = false;
-  bool dessus_ = false;  // whatever the record says
+  bool dessus_;
   Texte titre_;
   QSize voulue_;  // Width, Height of the record when it was last laid out
 };

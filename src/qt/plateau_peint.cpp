@@ -74,11 +74,17 @@ void PlateauQt::PeintCadres(QPainter& p, const QRect& zone) const {
   }
 }
 
+int PlateauQt::TraitDAnneau() const {
+  return std::max(geometrie_.TraitDeCadre(), static_cast<int>(std::lround(2 * devicePixelRatioF())));
+}
+
+// Around the box, but never so small that it is lost among thousands of small boxes.
 QRect PlateauQt::Anneau(int i) const {
-  // Never thinner than two pixels of the tables, so that it is found among small boxes too.
-  const int epaisseur =
-      std::max(geometrie_.TraitDeCadre(), static_cast<int>(std::lround(2 * devicePixelRatioF())));
-  return geometrie_.Case(i).adjusted(-epaisseur, -epaisseur, epaisseur, epaisseur);
+  const int moindre = static_cast<int>(std::lround(26 * devicePixelRatioF()));
+  const QRect place = geometrie_.Case(i);
+  const int ecart =
+      std::max({0, (moindre - place.width()) / 2, (moindre - place.height()) / 2}) + TraitDAnneau();
+  return place.adjusted(-ecart, -ecart, ecart, ecart);
 }
 
 // The box that has the focus is sunk into the board, with a ring around it.
@@ -86,10 +92,8 @@ void PlateauQt::PeintRelief(QPainter& p, const QRect& zone) const {
   if (focus_ == 0 || fenetre_.plateau.TxtCase(focus_).Appearance == 0) return;
   const QRect anneau = Anneau(focus_);
   if (!anneau.intersects(zone)) return;
-  const QRect place = geometrie_.Case(focus_);
-  const int epaisseur = place.left() - anneau.left();
-  PeintContour(p, anneau, epaisseur, kAnneau, kAnneau);
-  PeintContour(p, place, geometrie_.Trait(), kReliefSombre, kReliefClair);
+  PeintContour(p, anneau, TraitDAnneau(), kAnneau, kAnneau);
+  PeintContour(p, geometrie_.Case(focus_), geometrie_.Trait(), kReliefSombre, kReliefClair);
 }
 
 void PlateauQt::Repeint(int i) {

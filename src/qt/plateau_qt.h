@@ -68,6 +68,7 @@ class PlateauQt : public QAbstractScrollArea {
   QPoint Origine() const;  // of the board in the viewport, device pixels
   QRect EnPixels(const QRect& appareil) const;
   QRect Anneau(int i) const;
+  int TraitDAnneau() const;
   void Repeint(int i);
   void PeintZone(QPainter& p, const QRect& zone) const;
   void PeintCase(QPainter& p, int i) const;

@@ -66,7 +66,7 @@ void SystemeQt::SynchroniseTout() {
     if (!connue.qt && connue.fenetre->Visible) {
       // The later windows belong to the first and come up without taking the focus.
       QWidget* premiere = connue.fenetre == fenetres_.front().fenetre ? nullptr : fenetres_.front().qt.get();
-      connue.qt = std::make_unique<FenetreQt>(*connue.fenetre, *this, premiere);
+      connue.qt = std::make_unique<FenetreQt>(*connue.fenetre, *this, premiere, FenetreQt::Maniere{});
       connue.qt->setAttribute(Qt::WA_ShowWithoutActivating, premiere != nullptr);
     }
     if (connue.qt) connue.qt->Synchronise();
@@ -137,9 +137,10 @@ void SystemeQt::MontreModale(Fenetre& fenetre) {
   const SansAttente sans;
   SynchroniseTout();
   QWidget* proprietaire = fenetre.proprietaire != nullptr ? FenetreDe(*fenetre.proprietaire) : nullptr;
-  FenetreQt modale(fenetre, *this, proprietaire != nullptr ? proprietaire : Devant());
+  FenetreQt modale(fenetre, *this, proprietaire != nullptr ? proprietaire : Devant(),
+                   {.modale = true, .dessus = Dessus()});
   modales_.push_back(&modale);
-  modale.Modale(Dessus());
+  modale.Modale();
   modales_.pop_back();
 }
 
