@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <cmath>
 #include <cstdio>
 
 #include "apps/lot_sortie.h"
@@ -20,7 +21,7 @@ std::string Groupe(std::int64_t nombre) {
 }
 
 std::string Duree(double secondes) {
-  const auto s = static_cast<std::int64_t>(secondes + 0.5);
+  const std::int64_t s = std::llround(secondes);
   char texte[48];
   std::snprintf(texte, sizeof texte, "%lld:%02d:%02d", static_cast<long long>(s / 3600),
                 static_cast<int>(s / 60 % 60), static_cast<int>(s % 60));
