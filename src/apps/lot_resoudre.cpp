@@ -81,7 +81,7 @@ class Resoudre : public Ouvrier {
   GameState jeu_;
   Evaluateur moteur_{jeu_};
   Repondeur repondeur_;
-  AutoDriver driver_{jeu_, moteur_, repondeur_};
+  AutoDriver driver_{jeu_, moteur_, repondeur_, Lecture::kContenus};
   LecteurGrille lecteur_;
   SymbolesUtf8 symboles_;
 };

@@ -40,15 +40,14 @@ void Travail9::Commence(const Grille& grille) {
 
 Grille Travail9::Rend(bool contenus) {
   Grille rendue = grille_;
+  if (detachee_ && !contenus) {
+    Montre();
+    GrilleCopy(grille_, copie_);
+    rendue = copie_;
+  }
   if (auGeneral_) {
-    if (!contenus) Montre();
     rendue = general_.Rend();
   } else {
-    if (detachee_) {
-      if (!contenus) Montre();
-      GrilleCopy(grille_, copie_);
-      rendue = copie_;
-    }
     Ecrit(rendue);
     if (!contenus) moteur_.Evaluation(rendue, 2);
   }
