@@ -5,15 +5,9 @@
 namespace sudoku {
 namespace {
 
-Texte DeuxChiffres(std::int64_t nombre) {
-  return {static_cast<char32_t>(U'0' + nombre / 10), static_cast<char32_t>(U'0' + nombre % 10)};
-}
-
 // A span of milliseconds as a time of day: whole seconds, from 00:00:00 again after a day.
 Texte HeureDuJour(std::int64_t duree) {
-  const std::int64_t secondes = duree < 0 ? 0 : duree / 1000 % 86400;
-  return DeuxChiffres(secondes / 3600) + U":" + DeuxChiffres(secondes / 60 % 60) + U":" +
-         DeuxChiffres(secondes % 60);
+  return HeuresMinutesSecondes(duree < 0 ? 0 : duree / 1000 % 86400);
 }
 
 bool GrilleFraiche(const Grille& grille) {

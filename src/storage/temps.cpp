@@ -12,11 +12,6 @@ bool EstChiffre(char32_t c) {
   return c >= U'0' && c <= U'9';
 }
 
-Texte DeuxChiffres(std::int64_t nombre) {
-  Texte chiffres = Decimal(nombre);
-  return chiffres.size() < 2 ? U"0" + chiffres : chiffres;
-}
-
 // ":", then 00 to 59; -1 for anything else.
 int LitSoixantieme(TexteVue texte) {
   if (texte[0] != U':' || texte[1] < U'0' || texte[1] > U'5' || !EstChiffre(texte[2])) return -1;
@@ -29,9 +24,7 @@ Texte TempsEnTexte(double jours) {
   // By way of milliseconds, which the days hold exactly enough: a half second must not be lost to the
   // division.
   const auto millisecondes = std::max<std::int64_t>(0, std::llround(jours * 86'400'000.0));
-  const std::int64_t secondes = (millisecondes + 500) / 1000;
-  return DeuxChiffres(secondes / 3600) + U":" + DeuxChiffres(secondes / 60 % 60) + U":" +
-         DeuxChiffres(secondes % 60);
+  return HeuresMinutesSecondes((millisecondes + 500) / 1000);
 }
 
 std::optional<double> TexteEnTemps(TexteVue texte) {

@@ -30,7 +30,9 @@ char32_t Minuscule(char32_t c) {
   return static_cast<char32_t>(utf8proc_tolower(static_cast<utf8proc_int32_t>(c)));
 }
 
-bool Egal(char32_t a, char32_t b) { return a == b || Minuscule(a) == Minuscule(b); }
+bool Egal(char32_t a, char32_t b) {
+  return a == b || Minuscule(a) == Minuscule(b);
+}
 
 bool Egal(TexteVue a, TexteVue b) {
   return std::ranges::equal(a, b, [](char32_t x, char32_t y) { return Egal(x, y); });
@@ -43,7 +45,9 @@ std::size_t Cherche(TexteVue texte, TexteVue cherche, std::size_t debut) {
   return TexteVue::npos;
 }
 
-bool Contient(TexteVue texte, TexteVue cherche) { return Cherche(texte, cherche) != TexteVue::npos; }
+bool Contient(TexteVue texte, TexteVue cherche) {
+  return Cherche(texte, cherche) != TexteVue::npos;
+}
 
 Texte Sans(TexteVue texte, TexteVue retire) {
   if (retire.empty()) return Texte(texte);
@@ -68,6 +72,12 @@ Texte AvecTirets(TexteVue texte) {
 Texte Decimal(std::int64_t nombre) {
   const std::string chiffres = std::to_string(nombre);
   return Texte(chiffres.begin(), chiffres.end());
+}
+
+Texte HeuresMinutesSecondes(std::int64_t secondes) {
+  const auto deuxChiffres = [](std::int64_t nombre) { return (nombre < 10 ? U"0" : U"") + Decimal(nombre); };
+  return deuxChiffres(secondes / 3600) + U":" + deuxChiffres(secondes / 60 % 60) + U":" +
+         deuxChiffres(secondes % 60);
 }
 
 Texte DepuisUtf8(std::string_view octets) {

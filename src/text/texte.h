@@ -36,6 +36,9 @@ Texte AvecTirets(TexteVue texte);
 // A whole number in plain decimal.
 Texte Decimal(std::int64_t nombre);
 
+// Seconds, none negative, as "00:03:17": hours of two digits or more, minutes, seconds.
+Texte HeuresMinutesSecondes(std::int64_t secondes);
+
 // UTF-8 to text and back. Ill-formed bytes read as U+FFFD each; a code point that UTF-8 can't hold (a
 // surrogate, above U+10FFFF) is written as U+FFFD.
 Texte DepuisUtf8(std::string_view octets);
