@@ -11,10 +11,6 @@ namespace {
 
 const Texte kModale = U"fenêtre modale ouverte";
 
-constexpr int kEntree = 13;
-constexpr int kEchappement = 27;
-constexpr int kEspace = 32;
-
 // An element that commands name, the commands that know it, and the windows that have one of this name.
 struct Nomme {
   TexteVue nom;
@@ -80,16 +76,16 @@ int Entier(const Mot& mot) {
 
 }  // namespace
 
-Session::Session(std::istream& entree, std::ostream& sortie, Fichiers& fichiers)
+Session::Session(std::istream& entree, std::ostream& sortie, Fichiers& fichiers, const FabriqueScene& scene)
     : entree_(entree),
       sortie_(sortie),
       systeme_(sortie, fichiers, [this] { return Avance(); }),
-      programme_(systeme_) {}
+      scene_(scene(systeme_)),
+      programme_(scene_->LeSysteme()) {}
 
 void Session::Joue() {
   try {
-    while (Avance()) {
-    }
+    scene_->Joue([this] { return Avance(); });
   } catch (const FinDuProgramme&) {
     // The last line is printed.
   }
@@ -207,7 +203,7 @@ Session::Cible Session::ViseListe(TexteVue commande, TexteVue nom, Element*& lis
 Session::Refus Session::Start(const Arguments& a) {
   if (partie_) return U"déjà démarré";
   partie_ = true;
-  programme_.Demarre(a.empty() ? Texte() : a[0].texte);
+  scene_->Demarre([&] { programme_.Demarre(a.empty() ? Texte() : a[0].texte); });
   return {};
 }
 
@@ -226,41 +222,30 @@ Session::Refus Session::Registre(const Arguments& a) {
 Session::Refus Session::Type(const Arguments& a) {
   int Index = 0;
   if (const Refus refus = CaseDuPlateau(a[0], Index)) return refus;
-  Plateau& plateau = Principale().plateau;
-  if (plateau.TxtCase(Index).Locked) return U"verrouillé";
-  plateau.Saisit(Index, a[1].texte);
+  if (Principale().plateau.TxtCase(Index).Locked) return U"verrouillé";
+  scene_->Saisit(Principale(), Index, a[1].texte);
   return {};
 }
 
 Session::Refus Session::Focus(const Arguments& a) {
   int Index = 0;
   if (const Refus refus = CaseDuPlateau(a[0], Index)) return refus;
-  Principale().plateau.SetFocus(Index);
+  scene_->Focus(Principale(), Index);
   return {};
 }
 
 Session::Refus Session::Key(const Arguments& a) {
-  const int code = Entier(a[0]);
   const Boite* dessus = systeme_.Dessus();
-  if (dessus == nullptr) {
-    Principale().KeyDown(code);
-    return {};
-  }
-  if (dessus->fenetre == nullptr) return kModale;
-  for (Element& element : dessus->fenetre->elements) {
-    if ((code == kEntree && element.Default) || (code == kEchappement && element.Cancel)) {
-      element.Clique();
-      break;
-    }
-  }
+  if (dessus != nullptr && dessus->fenetre == nullptr) return kModale;
+  scene_->Touche(dessus == nullptr ? Principale() : *dessus->fenetre, Entier(a[0]));
   return {};
 }
 
 Session::Refus Session::Tick(const Arguments&) {
   if (const Refus refus = SansModale()) return refus;
-  const Minuterie& Tmr = *Principale().TrouveMinuterie("Tmr");
+  Minuterie& Tmr = *Principale().TrouveMinuterie("Tmr");
   if (!Tmr.Enabled) return U"Tmr désactivé";
-  Tmr.Timer();
+  scene_->Sonne(Tmr);
   return {};
 }
 
@@ -268,11 +253,11 @@ Session::Refus Session::Click(const Arguments& a) {
   const Cible cible = Vise(U"click", a[0].texte);
   if (cible.refus) return cible.refus;
   const std::string nom = VersUtf8(a[0].texte);
-  if (const ArticleMenu* article = cible.fenetre->TrouveArticle(nom)) {
+  if (ArticleMenu* article = cible.fenetre->TrouveArticle(nom)) {
     if (!article->Enabled) return U"désactivé";
-    article->Click();
+    scene_->Choisit(*cible.fenetre, *article);
   } else {
-    cible.fenetre->Trouve(nom)->Clique();
+    scene_->Clique(*cible.fenetre, *cible.fenetre->Trouve(nom));
   }
   return {};
 }
@@ -280,24 +265,14 @@ Session::Refus Session::Click(const Arguments& a) {
 Session::Refus Session::Press(const Arguments& a) {
   const Cible cible = Vise(U"press", a[0].texte);
   if (cible.refus) return cible.refus;
-  const Element& bouton = *cible.fenetre->Trouve(VersUtf8(a[0].texte));
-  if (a[1].texte == U"souris") {
-    bouton.MouseDown();
-  } else {
-    bouton.KeyDown(kEspace);
-  }
+  scene_->Presse(*cible.fenetre, *cible.fenetre->Trouve(VersUtf8(a[0].texte)), a[1].texte == U"souris");
   return {};
 }
 
 Session::Refus Session::Release(const Arguments& a) {
   const Cible cible = Vise(U"release", a[0].texte);
   if (cible.refus) return cible.refus;
-  const Element& bouton = *cible.fenetre->Trouve(VersUtf8(a[0].texte));
-  if (a[1].texte == U"souris") {
-    bouton.MouseUp();
-  } else {
-    bouton.KeyUp(kEspace);
-  }
+  scene_->Relache(*cible.fenetre, *cible.fenetre->Trouve(VersUtf8(a[0].texte)), a[1].texte == U"souris");
   return {};
 }
 
@@ -305,8 +280,7 @@ Session::Refus Session::Close(const Arguments& a) {
   const Cible cible = Vise(U"close", a[0].texte);
   if (cible.refus) return cible.refus;
   if (!cible.fenetre->ControlBox) return U"désactivé";
-  const bool reste = cible.fenetre->QueryUnload && cible.fenetre->QueryUnload(kFermeParUtilisateur);
-  if (!reste) cible.fenetre->Ferme();
+  scene_->Ferme(*cible.fenetre);
   return {};
 }
 
@@ -318,7 +292,7 @@ Session::Refus Session::Select(const Arguments& a) {
   if (p < -1 || p >= static_cast<int>(liste->items.size())) {
     return U"pas de position " + LitNombre(a[1].texte)->texte;
   }
-  liste->Selectionne(p);
+  scene_->Selectionne(*cible.fenetre, *liste, p);
   return {};
 }
 
@@ -326,7 +300,7 @@ Session::Refus Session::Edit(const Arguments& a) {
   Element* liste = nullptr;
   const Cible cible = ViseListe(U"edit", a[0].texte, liste);
   if (cible.refus) return cible.refus;
-  liste->Edite(a[1].texte);
+  scene_->Edite(*cible.fenetre, *liste, a[1].texte);
   return {};
 }
 
@@ -334,7 +308,7 @@ Session::Refus Session::DblClick(const Arguments& a) {
   Element* liste = nullptr;
   const Cible cible = ViseListe(U"dblclick", a[0].texte, liste);
   if (cible.refus) return cible.refus;
-  liste->DoubleClique();
+  scene_->DoubleClique(*cible.fenetre, *liste);
   return {};
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "headless/ecriture.h"
+#include "headless/scene.h"
 #include "headless/systeme_sans_ecran.h"
 #include "platform/fichiers.h"
 #include "shell/programme.h"
@@ -18,7 +19,8 @@ namespace sudoku {
 // window is open, the lines go on inside it.
 class Session {
  public:
-  Session(std::istream& entree, std::ostream& sortie, Fichiers& fichiers);
+  Session(std::istream& entree, std::ostream& sortie, Fichiers& fichiers,
+          const FabriqueScene& scene = SceneSurPapier);
 
   // To the last line, or to the end of the program.
   void Joue();
@@ -73,6 +75,7 @@ class Session {
   std::istream& entree_;
   std::ostream& sortie_;
   SystemeSansEcran systeme_;
+  std::unique_ptr<Scene> scene_;
   Programme programme_;
   bool partie_ = false;  // `start` has run
 };

@@ -50,11 +50,16 @@ void SystemeSansEcran::Attend(Boite& boite) {
   };
   boites_.push_back(&boite);
   const Garde garde{boites_};
+  if (attente_) return attente_(boite);
   while (!boite.close && !(boite.fenetre != nullptr && boite.fenetre->fermee)) {
     if (avance_()) continue;
-    Ecrit(U"! fin du scénario dans " + Texte(NomDe(boite.genre)));
+    EcritFinDans(boite);
     break;
   }
+}
+
+void SystemeSansEcran::EcritFinDans(const Boite& boite) {
+  Ecrit(U"! fin du scénario dans " + Texte(NomDe(boite.genre)));
 }
 
 void SystemeSansEcran::Message(TexteVue texte, TexteVue titre) {

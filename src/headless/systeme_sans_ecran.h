@@ -45,6 +45,11 @@ class SystemeSansEcran : public Systeme {
   bool Lance(TexteVue chemin) override;
 
   // For the script.
+  // From now on `attente` is called when a box opens, and comes back when it is answered: a box may be shown
+  // to somebody instead.
+  void AttendPar(std::function<void(Boite&)> attente) { attente_ = std::move(attente); }
+  // Says that the session ends inside this box.
+  void EcritFinDans(const Boite& boite);
   // The innermost open box; null if there is none.
   Boite* Dessus() { return boites_.empty() ? nullptr : boites_.back(); }
   // The innermost modal window, also when a box lies over it; null if there is none.
@@ -64,6 +69,7 @@ class SystemeSansEcran : public Systeme {
   std::ostream& sortie_;
   Fichiers& fichiers_;
   std::function<bool()> avance_;
+  std::function<void(Boite&)> attente_;
   std::vector<Boite*> boites_;
   std::vector<Fenetre*> fenetres_;
   std::map<Cle, Texte> registre_;
