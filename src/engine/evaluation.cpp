@@ -11,12 +11,11 @@ Evaluateur::Evaluateur(GameState& jeu) : jeu_(jeu) {}
 // allows each cell N lifts.
 std::int16_t Evaluateur::Evaluation(Grille& VpGrille, int VpPasses, bool premiereConnue) {
   const Bloc& bloc = VpGrille.Donnees();
-  auto& moteur = moteurs_[static_cast<std::size_t>(bloc.mots - 1)];
-  if (!moteur) moteur = ChoisitMoteur(bloc.mots);
+  if (cote_ != VpGrille.N()) moteur_ = ChoisitMoteur(cote_ = VpGrille.N());
   levees_.clear();
   for (int passes = VpPasses;; passes = 2) {
     const bool seconde = premiereConnue && passes == 2 && std::ranges::find(bloc.etat, kPossible) != bloc.etat.end();
-    moteur->Passes(jeu_, VpGrille, passes, seconde);
+    moteur_->Passes(jeu_, VpGrille, passes, seconde);
     const std::int32_t verdict = GrilleCheck(VpGrille, levees_);
     if (passes == 2) jeu_.VgEtat = kJeu;
     if (verdict != kReevaluer) return static_cast<std::int16_t>(verdict);

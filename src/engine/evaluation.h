@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <memory>
 
@@ -27,7 +26,8 @@ class Evaluateur {
 
  private:
   GameState& jeu_;
-  std::array<std::unique_ptr<Moteur>, 3> moteurs_;  // by words a cell, less 1
+  std::unique_ptr<Moteur> moteur_;  // for grids of side cote_
+  int cote_ = 0;
   Levees levees_;
 };
 

@@ -79,6 +79,19 @@ struct Masque {
     }
   }
 
+  // Calls f with each number from `depuis` on, descending.
+  template <class F>
+  void ChaqueEnDescendant(int depuis, F f) const {
+    for (int i = W; i-- > 0;) {
+      for (std::uint64_t mot = (*this)[i]; mot != 0;) {
+        const int n = 64 * i + 63 - std::countl_zero(mot);
+        if (n < depuis) return;
+        f(n);
+        mot &= ~(std::uint64_t{1} << (n & 63));
+      }
+    }
+  }
+
   std::uint64_t Hache() const {
     std::uint64_t h = 0;
     for (const auto mot : mots) h = (h ^ mot) * 0x9E3779B97F4A7C15U;

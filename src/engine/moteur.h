@@ -6,7 +6,7 @@
 
 namespace sudoku {
 
-// The deductions of one evaluation, without GrilleCheck; for grids whose sets take a given number of words. It
+// The deductions of one evaluation, without GrilleCheck, for grids of one side N. It
 // keeps its working memory, and the tables of the last grid's alphabet and size, between calls.
 class Moteur {
  public:
@@ -15,7 +15,7 @@ class Moteur {
   virtual void Passes(GameState& jeu, Grille& grille, int VpPasses, bool seconde) = 0;
 };
 
-// A Moteur for grids of this many 64-bit words a cell: the fastest that this machine runs; all give the same.
-std::unique_ptr<Moteur> ChoisitMoteur(int mots);
+// A Moteur for grids of side N: the fastest that this machine runs; all give the same.
+std::unique_ptr<Moteur> ChoisitMoteur(int N);
 
 }  // namespace sudoku

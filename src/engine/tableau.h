@@ -17,9 +17,14 @@ namespace sudoku::SUDOKU_MOTEUR {
 // A cell is "open" when its content doesn't count (it is empty, or the mode hides it). Only open cells have
 // candidates and places; the Possible of the others is their content, in Bloc::possibleTexte. Contents of
 // several symbols that count (`longs`) are the rare case that is done with texts.
-template <int W>
+template <int W, int Cote>
 struct Tableau {
   using M = Masque<W>;
+  static constexpr int kRacine = [] {
+    int s = 0;
+    while ((s + 1) * (s + 1) <= Cote) ++s;
+    return s;
+  }();
 
   GameState* jeu = nullptr;
   Bloc* bloc = nullptr;
@@ -27,9 +32,11 @@ struct Tableau {
   const Alphabet* alphabet = nullptr;
   std::shared_ptr<const Geometrie> geometrieTenue;
   std::shared_ptr<const Alphabet> alphabetTenu;
-  int N = 0;
-  int S = 0;
   int cases = 0;
+
+  // Side of the grid and of its blocks: Cote where that isn't 0, so that loops and divisions know it.
+  int N() const { return Cote != 0 ? Cote : geo->N(); }
+  int S() const { return Cote != 0 ? kRacine : geo->S(); }
 
   M plein;                      // all positions
   M premieres;                  // first of equal positions
@@ -56,7 +63,7 @@ struct Tableau {
   // Makes the tables for the grid's alphabet and size, unless they are made already.
   void Adopte(GameState& jeuDeLaGrille, Grille& grille);
 
-  M& Places(int type, int unite, int symbole) { return places[type][At((unite - 1) * N + symbole)]; }
+  M& Places(int type, int unite, int symbole) { return places[type][At((unite - 1) * N() + symbole)]; }
 
   // Step 2 of a pass: candidates from nothing but the contents. True if some cell has Etat 2.
   bool Amorce();
