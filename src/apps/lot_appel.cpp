@@ -17,6 +17,7 @@ constexpr std::string_view kAide =
     "\n"
     "  sudoku-lot resoudre  [--symboles S] [--deduction] [--processus J] [FICHIER…]\n"
     "  sudoku-lot expliquer [--symboles S] [--passes 1|2] [--texte] [FICHIER…]\n"
+    "  sudoku-lot verifier  [--symboles S] [--processus J] [FICHIER…]\n"
     "\n"
     "Une grille par ligne : un caractère par case (« . », « 0 » ou une espace pour une case vide), ou deux, "
     "la\n"
@@ -26,6 +27,10 @@ constexpr std::string_view kAide =
     "\n"
     "resoudre   la grille, le résultat, les suppositions, celles réfutées, les retours arrière, le message\n"
     "expliquer  tout ce qui est déduit de chaque case et pourquoi, en JSON\n"
+    "verifier   compte les solutions à sa manière et, s'il n'y en a qu'une, lui confronte tout ce qui est "
+    "déduit :\n"
+    "           la grille, les solutions (2 : plusieurs), les évaluations, les retraits vérifiés, les "
+    "contradictions\n"
     "\n"
     "  --symboles S   les symboles de la grille, un par valeur (123456789)\n"
     "  --deduction    ne rien supposer\n"
@@ -34,7 +39,8 @@ constexpr std::string_view kAide =
     "  --texte        expliquer en texte au lieu de JSON\n"
     "  --aide         cette aide\n"
     "\n"
-    "Statut : 0 tout a été lu, 1 une ligne ou un fichier n'a pas pu l'être, 2 l'appel est incorrect.\n";
+    "Statut : 0 tout a été lu, 1 une ligne ou un fichier n'a pas pu l'être, 2 l'appel est incorrect,\n"
+    "3 verifier a trouvé une contradiction.\n";
 
 // Why the call is wrong, in French.
 struct AppelIncorrect {
@@ -105,6 +111,8 @@ Appel Lis(std::vector<std::string> mots) {
   } else if (appel.commande == "expliquer") {
     option("--passes", passes);
     app.add_flag("--texte", appel.texte);
+  } else if (appel.commande == "verifier") {
+    option("--processus", processus);
   } else {
     throw AppelIncorrect{"commande inconnue : " + appel.commande};
   }

@@ -9,6 +9,10 @@
 namespace sudoku::lot {
 namespace {
 
+// Exit statuses, the graver the higher.
+constexpr int kIllisible = 1;
+constexpr int kAlerte = 3;
+
 class Deroulement {
  public:
   explicit Deroulement(const Appel& appel) : appel_(appel), progres_(TailleDesFichiers(appel.fichiers)) {}
@@ -26,7 +30,7 @@ class Deroulement {
     Equipe equipe(appel_.processus, atelier, [this](const Poste& poste) { Livre(poste); });
     Parcours([&]() -> Poste& { return equipe.Prochain(); }, [&] { equipe.Confie(); });
   }
-  int Statut() const { return statut_; }
+  int Statut() const { return alerte_ ? kAlerte : illisible_ ? kIllisible : 0; }
 
  private:
   // Fills the place that `prochain` gives with each line and hands it over to `confie`.
@@ -48,30 +52,35 @@ class Deroulement {
         confie();
       }
       if (!erreur) erreur = lignes.Erreur();
-      if (erreur) Signale(fichier + ": " + *erreur);
+      if (erreur) Signale(fichier + ": " + *erreur, kIllisible);
     }
   }
 
   // Called for one line at a time, in their order.
   void Livre(const Poste& poste) {
     progres_.Avance(poste.lus);
+    const auto signale = [&](const std::string& texte, int statut) {
+      Signale(*poste.fichier + ":" + std::to_string(poste.numero) + ": " + texte, statut);
+    };
     if (!poste.reponse.erreur.empty()) {
-      Signale(*poste.fichier + ":" + std::to_string(poste.numero) + ": " + poste.reponse.erreur);
+      signale(poste.reponse.erreur, kIllisible);
       return;
     }
+    if (!poste.reponse.alerte.empty()) signale(poste.reponse.alerte, kAlerte);
     sortie_.Ecris(poste.reponse.sortie);
     if (lecteurAttend_) sortie_.Pousse();
   }
 
   // Where both streams go to one place, messages stand among the results.
-  void Signale(const std::string& texte) {
-    statut_ = 1;
+  void Signale(const std::string& texte, int statut) {
+    (statut == kAlerte ? alerte_ : illisible_) = true;
     sortie_.Pousse();
     progres_.Message(texte + "\n");
   }
 
   const Appel& appel_;
-  std::atomic<int> statut_{0};
+  std::atomic<bool> illisible_{false};
+  std::atomic<bool> alerte_{false};
   std::atomic<bool> lecteurAttend_{false};  // for more to read: who finishes a grid shows it at once
   Progres progres_;
   Sortie sortie_;

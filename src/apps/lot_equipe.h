@@ -13,14 +13,17 @@
 
 namespace sudoku::lot {
 
-// What a worker makes of one line: text for standard output, or what is wrong with the line.
+// What a worker makes of one line: text for standard output, or what is wrong with the line. An alert is
+// something that a check of the line found, said beside its output.
 struct Reponse {
   std::string sortie;
   std::string erreur;
+  std::string alerte;
 
   void Vide() {
     sortie.clear();
     erreur.clear();
+    alerte.clear();
   }
 };
 

@@ -4,12 +4,16 @@
 #include "apps/lot_deroule.h"
 #include "apps/lot_expliquer.h"
 #include "apps/lot_resoudre.h"
+#include "apps/lot_verifier.h"
 
 int main(int argc, char** argv) {
   using namespace sudoku::lot;
   int statut = 0;
   const std::optional<Appel> appel = LisAppel(argc, argv, statut);
   if (!appel) return statut;
-  const bool resoudre = appel->commande == "resoudre";
-  return Deroule(*appel, [&] { return resoudre ? FaisResoudre(*appel) : FaisExpliquer(*appel); });
+  using Fais = std::unique_ptr<Ouvrier> (*)(const Appel&);
+  const Fais fais = appel->commande == "resoudre"    ? FaisResoudre
+                    : appel->commande == "expliquer" ? FaisExpliquer
+                                                     : FaisVerifier;
+  return Deroule(*appel, [&] { return fais(*appel); });
 }

@@ -1,0 +1,142 @@
+#include "apps/lot_verifier.h"
+
+#include "apps/lot_grille.h"
+#include "apps/lot_solutions.h"
+#include "apps/lot_temoin.h"
+#include "solver/auto_driver.h"
+
+namespace sudoku::lot {
+namespace {
+
+std::size_t At(int i) {
+  return static_cast<std::size_t>(i);
+}
+
+class SansPlateau : public PlateauAuto {
+ public:
+  void Affiche() override {}
+  void Message(TexteVue) override {}
+};
+
+class Verifier : public Ouvrier {
+ public:
+  explicit Verifier(const Appel& appel) : lecteur_(jeu_, appel.symboles) {}
+
+  void Traite(std::string_view champ, Reponse& reponse) override;
+
+ private:
+  int Compte();
+  int PositionSaisie(int cellule) const;
+  int Rejoue(Temoin& temoin);
+  bool Remplis();
+  bool ResoutJuste();
+  bool SaisiesJustes() const;
+
+  GameState jeu_;
+  Evaluateur moteur_{jeu_};
+  SansPlateau plateau_;
+  AutoDriver driver_{jeu_, moteur_, plateau_};
+  LecteurGrille lecteur_;
+  CompteurSolutions compteur_;
+};
+
+void Verifier::Traite(std::string_view champ, Reponse& reponse) {
+  if (auto erreur = lecteur_.Lis(champ)) {
+    reponse.erreur = std::move(*erreur);
+    return;
+  }
+  const int solutions = Compte();
+  int evaluations = 0;
+  std::int64_t retraits = 0;
+  std::int64_t contradictions = 0;
+  if (solutions == 1) {
+    Temoin temoin(compteur_.Solution(), SaisiesJustes());
+    const bool justes = SaisiesJustes();
+    evaluations = Rejoue(temoin);
+    lecteur_.Lis(champ);
+    const bool resolue = !justes || ResoutJuste();
+    retraits = temoin.Retraits();
+    contradictions = temoin.Contradictions() + (resolue ? 0 : 1);
+    if (contradictions > 0)
+      reponse.alerte = resolue ? temoin.Premiere() : "le résultat n'est pas la solution";
+  }
+  reponse.sortie += champ;
+  for (const std::int64_t n :
+       {std::int64_t{solutions}, std::int64_t{evaluations}, retraits, contradictions}) {
+    (reponse.sortie += '\t') += std::to_string(n);
+  }
+  reponse.sortie += '\n';
+}
+
+// Solutions of what is given or proved. Symbols that equal each other can't fill a unit.
+int Verifier::Compte() {
+  const Bloc& bloc = jeu_.VmGrille.Donnees();
+  for (int p = 0; p < bloc.alphabet->Taille(); ++p) {
+    if (bloc.alphabet->Premiere(p) != p) return 0;
+  }
+  std::vector<int> donnees(At(jeu_.VmGrille.Borne() + 1), -1);
+  for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
+    if (bloc.etat[At(i)] == kDonnee || bloc.etat[At(i)] == kProuvee) donnees[At(i)] = PositionSaisie(i);
+  }
+  return compteur_.Compte(*bloc.geometrie, donnees);
+}
+
+int Verifier::PositionSaisie(int cellule) const {
+  const Bloc& bloc = jeu_.VmGrille.Donnees();
+  return bloc.alphabet->Position(bloc.saisie[At(cellule)]);
+}
+
+bool Verifier::SaisiesJustes() const {
+  for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
+    const bool saisie = jeu_.VmGrille(i).Etat() == kPossible;
+    if (saisie && PositionSaisie(i) != compteur_.Solution()[At(i)]) return false;
+  }
+  return true;
+}
+
+// Deduction as far as it goes, each evaluation examined. Result: their number.
+int Verifier::Rejoue(Temoin& temoin) {
+  jeu_.VgEtat = kJeu;
+  for (int evaluations = 1;; ++evaluations) {
+    const int verdict = moteur_.Evaluation(jeu_.VmGrille, 2);
+    temoin.Examine(jeu_.VmGrille, verdict);
+    if (verdict < 0 || !Remplis()) return evaluations;
+  }
+}
+
+// Writes what is found into the cells, as the solver does: what is proved over anything, what rests on
+// unproved entries into empty cells. False if there was nothing to write.
+bool Verifier::Remplis() {
+  const Bloc& bloc = jeu_.VmGrille.Donnees();
+  bool ecrit = false;
+  for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
+    const ClsPos cellule = jeu_.VmGrille(i);
+    if (!cellule.SolutionSure().empty() && !bloc.alphabet->Egaux(bloc.saisie[At(i)], bloc.sure[At(i)])) {
+      jeu_.VmGrille(i).Valeur(Texte(cellule.SolutionSure()));
+    } else if (cellule.ValeurSaisie().empty() && !cellule.SolutionPoss().empty()) {
+      jeu_.VmGrille(i).Valeur(Texte(cellule.SolutionPoss()));
+    } else {
+      continue;
+    }
+    ecrit = true;
+  }
+  return ecrit;
+}
+
+// The solver, suppositions and all, comes to the solution.
+bool Verifier::ResoutJuste() {
+  jeu_.VgEtat = kJeu;
+  driver_.JeuAuto(true, true);
+  for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
+    if (PositionSaisie(i) != compteur_.Solution()[At(i)]) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+std::unique_ptr<Ouvrier> FaisVerifier(const Appel& appel) {
+  return std::make_unique<Verifier>(appel);
+}
+
+}  // namespace sudoku::lot

@@ -1,0 +1,159 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <random>
+#include <vector>
+
+#include "apps/lot_grille.h"
+#include "apps/lot_solutions.h"
+#include "apps/lot_temoin.h"
+#include "engine/evaluation.h"
+
+namespace sudoku::lot {
+namespace {
+
+using Grille4 = std::array<int, 17>;  // by cell; element 0 unused
+
+// All full grids of side 4, by trying everything.
+void Remplis(Grille4& grille, std::size_t cellule, std::vector<Grille4>& toutes) {
+  if (cellule == grille.size()) {
+    toutes.push_back(grille);
+    return;
+  }
+  const auto carre = [](std::size_t i) { return (i - 1) / 8 * 2 + (i - 1) % 4 / 2; };
+  for (int s = 0; s < 4; ++s) {
+    bool libre = true;
+    for (std::size_t i = 1; i < cellule; ++i) {
+      const bool voisine =
+          (i - 1) / 4 == (cellule - 1) / 4 || (i - 1) % 4 == (cellule - 1) % 4 || carre(i) == carre(cellule);
+      libre = libre && !(voisine && grille[i] == s);
+    }
+    if (!libre) continue;
+    grille[cellule] = s;
+    Remplis(grille, cellule + 1, toutes);
+  }
+}
+
+TEST(CompteurSolutions, CommeLEnumeration) {
+  Grille4 grille{};
+  std::vector<Grille4> toutes;
+  Remplis(grille, 1, toutes);
+  ASSERT_EQ(toutes.size(), 288U);
+  const Geometrie geometrie(4);
+  CompteurSolutions compteur;
+  std::mt19937 alea(4);
+  std::array<int, 3> vus{};
+  for (int essai = 0; essai < 3000; ++essai) {
+    // Cells of a right grid, and sometimes a symbol changed in one.
+    Grille4 donnees = toutes[alea() % toutes.size()];
+    if (essai % 2 == 0) donnees[1 + alea() % 16] = static_cast<int>(alea() % 4);
+    for (std::size_t i = 1; i < donnees.size(); ++i) {
+      if (alea() % 10 < 6) donnees[i] = -1;
+    }
+    const auto tient = [&](const Grille4& pleine) {
+      for (std::size_t i = 1; i < donnees.size(); ++i) {
+        if (donnees[i] >= 0 && donnees[i] != pleine[i]) return false;
+      }
+      return true;
+    };
+    const auto attendues = std::min<std::ptrdiff_t>(2, std::ranges::count_if(toutes, tient));
+    ASSERT_EQ(compteur.Compte(geometrie, donnees), attendues) << "try " << essai;
+    ++vus[static_cast<std::size_t>(attendues)];
+    if (attendues == 0) continue;
+    Grille4 trouvee{};
+    std::copy_n(compteur.Solution().begin() + 1, 16, trouvee.begin() + 1);
+    EXPECT_TRUE(tient(trouvee)) << "try " << essai;
+  }
+  EXPECT_GT(*std::ranges::min_element(vus), 300) << "each count is met often";
+}
+
+TEST(CompteurSolutions, UneSeuleCase) {
+  CompteurSolutions compteur;
+  EXPECT_EQ(compteur.Compte(Geometrie(1), std::array{0, -1}), 1);
+  EXPECT_EQ(compteur.Solution()[1], 0);
+}
+
+// A grid with one solution, evaluated, and a witness to hold it against. Locked candidates, hidden and naked
+// sets and figures take part, and no cell can be filled.
+class TemoinTest : public testing::Test {
+ protected:
+  TemoinTest() {
+    EXPECT_FALSE(
+        lecteur_.Lis("..1.8..37...7.3...473.9.8.539781..5..459371.818.....7..6.3..79.7.96.85..5...79.86"));
+    std::vector<int> positions;
+    for (const Code code : B().saisie) positions.push_back(B().alphabet->Position(code));
+    EXPECT_EQ(compteur_.Compte(*B().geometrie, positions), 1);
+    jeu_.VgEtat = kJeu;
+    EXPECT_EQ(Evaluateur(jeu_).Evaluation(jeu_.VmGrille, 2), 39);
+  }
+  Bloc& B() { return jeu_.VmGrille.Donnees(); }
+  std::int64_t Contradictions(int verdict = 39) {
+    Temoin temoin(compteur_.Solution(), true);
+    temoin.Examine(jeu_.VmGrille, verdict);
+    return temoin.Contradictions();
+  }
+  int Ouverte() {
+    int cellule = 1;
+    while (B().saisie[static_cast<std::size_t>(cellule)] != kVide) ++cellule;
+    return cellule;
+  }
+
+  GameState jeu_;
+  LecteurGrille lecteur_{jeu_, U"123456789"};
+  CompteurSolutions compteur_;
+};
+
+TEST_F(TemoinTest, RienAContredire) {
+  EXPECT_EQ(Contradictions(), 0);
+}
+
+TEST_F(TemoinTest, Verdict) {
+  EXPECT_EQ(Contradictions(-1), 1);
+}
+
+TEST_F(TemoinTest, SolutionsEtCandidats) {
+  const auto cellule = static_cast<std::size_t>(Ouverte());
+  const int juste = compteur_.Solution()[cellule];
+  const Code fausse = (juste + 1) % 9;
+  B().sure[cellule] = fausse;
+  EXPECT_EQ(Contradictions(), 1);
+  B().sure[cellule] = juste;
+  B().poss[cellule] = fausse;
+  EXPECT_EQ(Contradictions(), 1);
+  B().poss[cellule] = juste;
+  EXPECT_EQ(Contradictions(), 0);
+  B().candidats[cellule] &= ~(std::uint64_t{1} << juste);
+  EXPECT_EQ(Contradictions(), 1);
+}
+
+// A sentence that speaks of other places, or takes the solution from its cell, is caught whatever its kind.
+TEST_F(TemoinTest, Phrases) {
+  using Genre = Argument::Genre;
+  std::vector<Genre> genres;
+  for (Fait& fait : B().journal.faits) {
+    Argument& a = B().journal.arguments[fait.argument];
+    const Argument sauve = a;
+    std::uint64_t& lieux = B().journal.mots[a.genre == Genre::kInference ? a.masques : a.masques + 1];
+    lieux ^= 0x1FF;
+    EXPECT_GT(Contradictions(), 0) << "other places, kind " << static_cast<int>(a.genre);
+    lieux ^= 0x1FF;
+    const int solution = compteur_.Solution()[static_cast<std::size_t>(fait.cellule)];
+    if (a.genre == Genre::kInference || a.genre == Genre::kFigure) a.symbole = solution;
+    const std::size_t exclus = a.genre == Genre::kCachee ? static_cast<std::size_t>(fait.exclus) : a.masques;
+    const std::uint64_t mot = B().journal.mots[exclus];
+    if (a.genre == Genre::kCachee || a.genre == Genre::kNue)
+      B().journal.mots[exclus] |= std::uint64_t{1} << solution;
+    EXPECT_GT(Contradictions(), 0) << "loses its solution, kind " << static_cast<int>(a.genre);
+    B().journal.mots[exclus] = mot;
+    a = sauve;
+    genres.push_back(a.genre);
+  }
+  EXPECT_EQ(Contradictions(), 0) << "put back";
+  for (const Genre genre : {Genre::kInference, Genre::kCachee, Genre::kNue, Genre::kFigure}) {
+    EXPECT_GT(std::ranges::count(genres, genre), 0) << "kind " << static_cast<int>(genre);
+  }
+}
+
+}  // namespace
+}  // namespace sudoku::lot
