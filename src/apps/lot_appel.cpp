@@ -18,6 +18,8 @@ constexpr std::string_view kAide =
     "  sudoku-lot resoudre  [--symboles S] [--deduction] [--processus J] [FICHIER…]\n"
     "  sudoku-lot expliquer [--symboles S] [--passes 1|2] [--texte] [FICHIER…]\n"
     "  sudoku-lot verifier  [--symboles S] [--processus J] [FICHIER…]\n"
+    "  sudoku-lot importer  [--symboles S] [FICHIER] > PARTIE.sud\n"
+    "  sudoku-lot exporter  PARTIE.sud\n"
     "\n"
     "Une grille par ligne : un caractère par case (« . », « 0 » ou une espace pour une case vide), ou deux, "
     "la\n"
@@ -31,6 +33,9 @@ constexpr std::string_view kAide =
     "déduit :\n"
     "           la grille, les solutions (2 : plusieurs), les évaluations, les retraits vérifiés, les "
     "contradictions\n"
+    "importer   fait un fichier de jeu d'une grille écrite de toute manière usuelle, cadres compris\n"
+    "exporter   écrit la grille d'un fichier de jeu et ses parties, chacune avec son nom, comme lignes à "
+    "lire ici\n"
     "\n"
     "  --symboles S   les symboles de la grille, un par valeur (123456789)\n"
     "  --deduction    ne rien supposer\n"
@@ -93,7 +98,20 @@ std::vector<std::string> Fichiers(const std::vector<std::string>& restes) {
   return fichiers;
 }
 
+void ExigeCommande(const std::string& mot) {
+  for (const char* const connue : {"resoudre", "expliquer", "verifier", "importer", "exporter"}) {
+    if (mot == connue) return;
+  }
+  throw AppelIncorrect{"commande inconnue : " + mot};
+}
+
+// Game files are whole files, one at a time.
+void ExigeUnFichier(const Appel& appel) {
+  if (appel.fichiers.size() > 1) throw AppelIncorrect{"un seul fichier à la fois"};
+}
+
 Appel Lis(std::vector<std::string> mots) {
+  ExigeCommande(mots.front());
   constexpr int kProcessusMax = 1024;
   Appel appel;
   std::string symboles;
@@ -104,17 +122,14 @@ Appel Lis(std::vector<std::string> mots) {
   const auto option = [&app](const char* nom, std::string& valeur) {
     return app.add_option(nom, valeur)->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
   };
-  const CLI::Option* const donnes = option("--symboles", symboles);
-  if (appel.commande = mots.front(); appel.commande == "resoudre") {
-    option("--processus", processus);
-    app.add_flag("--deduction", appel.deduction);
-  } else if (appel.commande == "expliquer") {
+  appel.commande = mots.front();
+  const std::string_view commande = appel.commande;
+  const CLI::Option* const donnes = commande != "exporter" ? option("--symboles", symboles) : nullptr;
+  if (commande == "resoudre" || commande == "verifier") option("--processus", processus);
+  if (commande == "resoudre") app.add_flag("--deduction", appel.deduction);
+  if (commande == "expliquer") {
     option("--passes", passes);
     app.add_flag("--texte", appel.texte);
-  } else if (appel.commande == "verifier") {
-    option("--processus", processus);
-  } else {
-    throw AppelIncorrect{"commande inconnue : " + appel.commande};
   }
   app.allow_extras();
   try {
@@ -125,7 +140,8 @@ Appel Lis(std::vector<std::string> mots) {
     throw AppelIncorrect{Raison(erreur)};
   }
   appel.fichiers = Fichiers(app.remaining());
-  if (donnes->count() > 0) appel.symboles = Symboles(symboles);
+  if (commande == "importer" || commande == "exporter") ExigeUnFichier(appel);
+  if (donnes != nullptr && donnes->count() > 0) appel.symboles = Symboles(symboles);
   if (!passes.empty()) appel.passes = Entier(passes, "--passes", 1, 2);
   if (!processus.empty()) appel.processus = Entier(processus, "--processus", 0, kProcessusMax);
   if (appel.processus == 0)

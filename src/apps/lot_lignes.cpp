@@ -16,6 +16,29 @@ namespace {
 constexpr std::size_t kTampon = std::size_t{1} << 18;
 static_assert(kTampon > Lignes::kChampMax, "a full buffer holds more than the longest field");
 
+constexpr std::size_t kFichierMax = std::size_t{1} << 26;  // read at once: far beyond any game file
+
+// Reads what is there, waiting for it if need be. Less than 0 where it fails; errno says why.
+ssize_t Lis(int fd, char* tampon, std::size_t taille) {
+  for (;;) {
+    const ssize_t lus = read(fd, tampon, taille);
+    if (lus >= 0 || (errno != EINTR && errno != EAGAIN)) return lus;
+    pollfd attente{fd, POLLIN, 0};
+    if (errno == EAGAIN) poll(&attente, 1, -1);
+  }
+}
+
+// A descriptor to read from; otherwise the reason why there is none, and less than 0 for it unless it is to
+// be closed.
+std::optional<std::string> OuvreFichier(const std::string& chemin, int& fd) {
+  fd = chemin == "-" ? STDIN_FILENO : open(chemin.c_str(), O_RDONLY | O_CLOEXEC);
+  if (fd < 0) return RaisonSysteme(errno);
+  struct stat etat {};
+  if (fstat(fd, &etat) != 0) return RaisonSysteme(errno);
+  if (S_ISDIR(etat.st_mode)) return RaisonSysteme(EISDIR);
+  return std::nullopt;
+}
+
 }  // namespace
 
 std::string RaisonSysteme(int erreur) {
@@ -56,12 +79,7 @@ std::optional<std::string> Lignes::Ouvre(const std::string& chemin) {
   numero_ = 0;
   epuise_ = false;
   erreur_.reset();
-  fd_ = chemin == "-" ? STDIN_FILENO : open(chemin.c_str(), O_RDONLY | O_CLOEXEC);
-  if (fd_ < 0) return RaisonSysteme(errno);
-  struct stat etat {};
-  if (fstat(fd_, &etat) != 0) return RaisonSysteme(errno);
-  if (S_ISDIR(etat.st_mode)) return RaisonSysteme(EISDIR);
-  return std::nullopt;
+  return OuvreFichier(chemin, fd_);
 }
 
 std::optional<Lignes::Ligne> Lignes::Suivante() {
@@ -112,11 +130,7 @@ bool Lignes::Remplis() {
   debut_ = 0;
   pollfd attente{fd_, POLLIN, 0};
   if (poll(&attente, 1, 0) == 0) avantAttente_();
-  ssize_t lus = 0;
-  do {
-    lus = read(fd_, tampon_.data() + fin_, tampon_.size() - fin_);
-    if (lus < 0 && errno == EAGAIN) poll(&attente, 1, -1);
-  } while (lus < 0 && (errno == EINTR || errno == EAGAIN));
+  const ssize_t lus = Lis(fd_, tampon_.data() + fin_, tampon_.size() - fin_);
   if (lus < 0) erreur_ = RaisonSysteme(errno);
   epuise_ = lus <= 0;
   fin_ += static_cast<std::size_t>(std::max<ssize_t>(lus, 0));
@@ -143,6 +157,20 @@ std::optional<std::int64_t> TailleDesFichiers(const std::vector<std::string>& ch
     somme += etat.st_size - (entree ? lseek(STDIN_FILENO, 0, SEEK_CUR) : 0);
   }
   return somme;
+}
+
+std::optional<std::string> LisTout(const std::string& chemin, std::string& octets) {
+  int fd = -1;
+  std::optional<std::string> raison = OuvreFichier(chemin, fd);
+  std::vector<char> tampon(kTampon);
+  for (ssize_t lus = 1; !raison && lus > 0;) {
+    lus = Lis(fd, tampon.data(), tampon.size());
+    if (lus < 0) raison = RaisonSysteme(errno);
+    octets.append(tampon.data(), static_cast<std::size_t>(std::max<ssize_t>(lus, 0)));
+    if (octets.size() > kFichierMax) raison = "trop grand pour une partie";
+  }
+  if (fd > STDIN_FILENO) close(fd);
+  return raison;
 }
 
 }  // namespace sudoku::lot

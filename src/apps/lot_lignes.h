@@ -55,6 +55,9 @@ class Lignes {
   std::optional<std::string> erreur_;
 };
 
+// Reads a whole file, "-" for standard input. Otherwise a French reason why it can't be.
+std::optional<std::string> LisTout(const std::string& chemin, std::string& octets);
+
 // What the system says of a failed call, in French.
 std::string RaisonSysteme(int erreur);
 

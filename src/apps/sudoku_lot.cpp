@@ -4,6 +4,7 @@
 #include "apps/lot_deroule.h"
 #include "apps/lot_expliquer.h"
 #include "apps/lot_resoudre.h"
+#include "apps/lot_sud.h"
 #include "apps/lot_verifier.h"
 
 int main(int argc, char** argv) {
@@ -11,8 +12,9 @@ int main(int argc, char** argv) {
   int statut = 0;
   const std::optional<Appel> appel = LisAppel(argc, argv, statut);
   if (!appel) return statut;
-  using Fais = std::unique_ptr<Ouvrier> (*)(const Appel&);
-  const Fais fais = appel->commande == "resoudre"    ? FaisResoudre
+  if (appel->commande == "importer") return Importe(*appel);
+  if (appel->commande == "exporter") return Exporte(*appel);
+  const auto fais = appel->commande == "resoudre"    ? FaisResoudre
                     : appel->commande == "expliquer" ? FaisExpliquer
                                                      : FaisVerifier;
   return Deroule(*appel, [&] { return fais(*appel); });

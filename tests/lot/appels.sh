@@ -37,6 +37,8 @@ essai 2 'pas un nombre de 1 à 2' expliquer --passes 1x
 essai 2 'pas un nombre de 0 à' resoudre --processus -1
 essai 2 'pas un nombre de 0 à' resoudre --processus 99999999999
 essai 2 'options incorrectes' resoudre --deduction=peut-être
+essai 2 'un seul fichier' importer a b
+essai 2 'option inconnue : --symboles' exporter --symboles 1234 f.sud
 essai 2 'Choix incorrect' resoudre --symboles ''
 essai 2 'Choix incorrect' resoudre --symboles 12345
 essai 2 'Choix incorrect' resoudre --symboles $'\xff234'
