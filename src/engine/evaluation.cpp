@@ -11,7 +11,7 @@ Evaluateur::Evaluateur(GameState& jeu) : jeu_(jeu) {}
 // allows each cell N lifts.
 std::int16_t Evaluateur::Evaluation(Grille& VpGrille, int VpPasses, bool premiereConnue) {
   const Bloc& bloc = VpGrille.Donnees();
-  if (cote_ != VpGrille.N()) moteur_ = ChoisitMoteur(cote_ = VpGrille.N());
+  if (cote_ != VpGrille.N()) moteur_ = VersionsMoteur().front()(cote_ = VpGrille.N());
   levees_.clear();
   for (int passes = VpPasses;; passes = 2) {
     const bool seconde = premiereConnue && passes == 2 && std::ranges::find(bloc.etat, kPossible) != bloc.etat.end();

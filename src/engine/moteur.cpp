@@ -11,13 +11,16 @@ std::unique_ptr<Moteur> Fabrique(int N);
 }
 #endif
 
-std::unique_ptr<Moteur> ChoisitMoteur(int N) {
+std::vector<FaitMoteur> VersionsMoteur() {
+  std::vector<FaitMoteur> versions;
 #if defined(SUDOKU_VERSIONS_X86)
-  if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi2") && __builtin_cpu_supports("popcnt")) {
-    return moteur_avx2::Fabrique(N);
+  if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2") &&
+      __builtin_cpu_supports("popcnt") && __builtin_cpu_supports("lzcnt")) {
+    versions.push_back(moteur_avx2::Fabrique);
   }
 #endif
-  return moteur_base::Fabrique(N);
+  versions.push_back(moteur_base::Fabrique);
+  return versions;
 }
 
 }  // namespace sudoku

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "grid/game_state.h"
 
@@ -15,7 +16,8 @@ class Moteur {
   virtual void Passes(GameState& jeu, Grille& grille, int VpPasses, bool seconde) = 0;
 };
 
-// A Moteur for grids of side N: the fastest that this machine runs; all give the same.
-std::unique_ptr<Moteur> ChoisitMoteur(int N);
+// The versions of a Moteur for grids of side N that this machine runs, the fastest first; all give the same.
+using FaitMoteur = std::unique_ptr<Moteur> (*)(int N);
+std::vector<FaitMoteur> VersionsMoteur();
 
 }  // namespace sudoku

@@ -6,6 +6,10 @@ namespace {
 constexpr std::int16_t kInsoluble = -1;
 constexpr std::int16_t kNonResolu = 1;  // any positive verdict
 
+void Ajoute(Texte& texte, std::uint64_t nombre) {
+  for (const char chiffre : std::to_string(nombre)) texte += static_cast<char32_t>(chiffre);
+}
+
 }  // namespace
 
 AutoDriver::AutoDriver(GameState& jeu, Evaluateur& moteur, PlateauAuto& plateau, Lecture lecture)
@@ -106,12 +110,16 @@ void AutoDriver::Rejoue(Travail& travail) {
   rejouee_ = true;
 }
 
-Texte AutoDriver::MessageFinal(std::int16_t VlVerdict) const {
+TexteVue AutoDriver::MessageFinal(std::int16_t VlVerdict) {
   if (VlVerdict == kInsoluble) return U"Insoluble (état initial incorrect)";
   if (VlVerdict != 0) return U"Non résolu";
   if (VlSupp_.Faites() == 0) return U"Résolu sans supposition";
-  return U"Résolu avec " + Decimal(static_cast<std::int64_t>(VlSupp_.Faites())) + U" supposition(s), dont " +
-         Decimal(static_cast<std::int64_t>(VlSupp_.Refutees())) + U" erreur(s)";
+  message_ = U"Résolu avec ";
+  Ajoute(message_, VlSupp_.Faites());
+  message_ += U" supposition(s), dont ";
+  Ajoute(message_, VlSupp_.Refutees());
+  message_ += U" erreur(s)";
+  return message_;
 }
 
 }  // namespace sudoku

@@ -36,15 +36,12 @@ class AutoDriver {
   // message). VpGuess: suppose symbols where deduction stops.
   void JeuAuto(bool VpReset, bool VpGuess);
 
-  // Suppositions of the last run: made, and refuted.
-  const Suppositions& VlSupp() const { return VlSupp_; }
-
  private:
   std::int16_t Cherche(Travail& travail, bool VpGuess);
   bool GuessResult(std::int16_t VpResultat, Travail& travail);
   bool Guess(Travail& travail);
   void Rejoue(Travail& travail);
-  Texte MessageFinal(std::int16_t VlVerdict) const;
+  TexteVue MessageFinal(std::int16_t VlVerdict);
 
   GameState& jeu_;
   PlateauAuto& plateau_;
@@ -53,6 +50,7 @@ class AutoDriver {
   Travail9 neuf_;
   Suppositions VlSupp_;
   Essai Possible_;
+  Texte message_;
   bool rejouee_ = true;  // the last solve pass began on nothing but the base and the live suppositions
 };
 

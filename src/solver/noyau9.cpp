@@ -36,15 +36,19 @@ void Cases9::Pose(int cellule, int symbole) {
   ++remplies;
 }
 
-JeuSolve9 ChoisitJeuSolve9() {
+std::vector<JeuSolve9> VersionsJeuSolve9() {
+  std::vector<JeuSolve9> versions;
 #if defined(SUDOKU_VERSIONS_X86)
-  if (__builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vl") &&
-      __builtin_cpu_supports("avx512bitalg") && __builtin_cpu_supports("bmi2")) {
-    return noyau_avx512::JeuSolve;
-  }
-  if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi2")) return noyau_avx2::JeuSolve;
+  const bool avx2 = __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") &&
+                    __builtin_cpu_supports("bmi2") && __builtin_cpu_supports("popcnt") &&
+                    __builtin_cpu_supports("lzcnt");
+  const bool avx512 = avx2 && __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vl") &&
+                      __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bitalg");
+  if (avx512) versions.push_back(noyau_avx512::JeuSolve);
+  if (avx2) versions.push_back(noyau_avx2::JeuSolve);
 #endif
-  return noyau_base::JeuSolve;
+  versions.push_back(noyau_base::JeuSolve);
+  return versions;
 }
 
 }  // namespace sudoku

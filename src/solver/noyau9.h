@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 namespace sudoku {
 
@@ -45,7 +46,7 @@ enum class Mode9 { kSur, kPossible };
 
 using JeuSolve9 = void (*)(Cases9& cases, Mode9 mode, Passe9& passe);
 
-// The fastest version that this machine runs; all give the same.
-JeuSolve9 ChoisitJeuSolve9();
+// The versions that this machine runs, the fastest first; all give the same.
+std::vector<JeuSolve9> VersionsJeuSolve9();
 
 }  // namespace sudoku

@@ -1,0 +1,96 @@
+// The hot code is compiled for several instruction sets. Each version that this machine runs has to give what the
+// others give, on boards of every kind that a search meets.
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <random>
+
+#include "engine/explications.h"
+#include "engine/moteur.h"
+#include "solver/noyau9.h"
+
+namespace sudoku {
+namespace {
+
+// A full grid's symbol, by shifted rows.
+int Pleine(int N, int S, int cellule) { return (cellule / N % S * S + cellule / N / S + cellule % N) % N; }
+
+// A board from right to hopeless: `erreurs` in a thousand contents are wrong.
+Cases9 Alea9(std::mt19937& suite, std::uint_fast32_t remplissage, std::uint_fast32_t erreurs) {
+  Cases9 cases;
+  cases.Vide();
+  for (int i = 0; i < 81; ++i) {
+    if (suite() % 100 >= remplissage) continue;
+    const bool fausse = suite() % 1000 < erreurs;
+    cases.Pose(i, fausse ? static_cast<int>(suite() % 9) : Pleine(9, 3, i));
+  }
+  return cases;
+}
+
+TEST(Noyau9, ToutesLesVersionsDonnentLeMeme) {
+  const auto versions = VersionsJeuSolve9();
+  std::mt19937 suite(9);
+  int avances = 0;
+  for (int tour = 0; tour < 4000; ++tour) {
+    const Cases9 depart = Alea9(suite, 15 + suite() % 50, tour % 3 == 0 ? 100 : 0);
+    for (const Mode9 mode : {Mode9::kSur, Mode9::kPossible}) {
+      Cases9 attendues = depart;
+      Passe9 attendue;
+      versions.back()(attendues, mode, attendue);
+      avances += attendue.verdict > 0 ? 1 : 0;
+      for (const JeuSolve9 version : versions) {
+        Cases9 cases = depart;
+        Passe9 passe;
+        version(cases, mode, passe);
+        ASSERT_EQ(passe.erronee, attendue.erronee) << tour;
+        ASSERT_EQ(std::memcmp(cases.valeur, attendues.valeur, sizeof cases.valeur), 0) << tour;
+        if (passe.erronee) continue;
+        ASSERT_EQ(passe.verdict, attendue.verdict) << tour;
+        if (passe.verdict <= 0) continue;
+        for (int i = 0; i < 81; ++i) {
+          const bool egaux = cases.valeur[i] != 0 || passe.candidats[i] == attendue.candidats[i];
+          ASSERT_TRUE(egaux) << tour << ' ' << i;
+        }
+      }
+    }
+  }
+  EXPECT_GT(avances, 200) << "too few boards on which the deductions go to their end";
+}
+
+TEST(Moteur, ToutesLesVersionsDonnentLeMeme) {
+  const auto versions = VersionsMoteur();
+  std::mt19937 suite(4);
+  std::size_t faits = 0;
+  for (int tour = 0; tour < 400; ++tour) {
+    const int S = 2 + tour % 4;
+    const int N = S * S;
+    Texte symboles;
+    for (int p = 0; p < N; ++p) symboles += U'A' + static_cast<char32_t>(p);
+    GameState jeu;
+    Grille depart = Grille::Nouvelle(jeu, symboles);
+    for (int i = 0; i < N * N; ++i) {
+      if (suite() % 100 >= 45) continue;
+      const int s = suite() % 50 == 0 ? static_cast<int>(suite() % symboles.size()) : Pleine(N, S, i);
+      depart(i + 1).Load(TexteVue(symboles).substr(static_cast<std::size_t>(s), 1), suite() % 8 == 0 ? 2 : 0);
+    }
+    Grille attendue;
+    for (const FaitMoteur version : versions) {
+      Grille grille;
+      GrilleCopy(depart, grille);
+      version(N)->Passes(jeu, grille, 2, false);
+      if (attendue.Borne() == 0) attendue = grille;
+      const Bloc& a = attendue.Donnees();
+      const Bloc& b = grille.Donnees();
+      ASSERT_EQ(a.candidats, b.candidats) << tour;
+      ASSERT_EQ(a.sure, b.sure) << tour;
+      ASSERT_EQ(a.poss, b.poss) << tour;
+      faits += b.journal.faits.size();
+      for (int i = 1; i <= grille.Borne(); ++i) ASSERT_EQ(Phrases(attendue, i), Phrases(grille, i)) << tour;
+    }
+  }
+  EXPECT_GT(faits, 1000U) << "too few deductions to compare";
+}
+
+}  // namespace
+}  // namespace sudoku
