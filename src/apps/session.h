@@ -26,8 +26,9 @@ class Session {
   void Joue();
   // Runs the next command. False: there is none left.
   bool Avance();
-  // The game that is played.
+  // What is played, and where.
   Programme& LeProgramme() { return programme_; }
+  SystemeSansEcran& LeSysteme() { return systeme_; }
 
  private:
   using Arguments = std::vector<Mot>;

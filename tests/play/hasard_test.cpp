@@ -1,0 +1,300 @@
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <filesystem>
+#include <istream>
+#include <random>
+#include <sstream>
+#include <streambuf>
+
+#include "apps/session.h"
+#include "joueur.h"
+
+// A player who does anything, anywhere, for thousands of commands, on grids of side 1, 4 and 9. After each
+// command: what the board shows is what the records hold, the mode is a lasting one, no empty cell is judged,
+// and a file just saved reads back to the same game.
+
+namespace sudoku {
+namespace {
+
+constexpr TexteVue kSymboles[] = {U"5", U"1234", U"123456789", U"aBcd", U"12-4", U"12"};
+
+// The lines of a session, made one by one as the session asks for them. Before each, `verifie` runs.
+class Lignes : public std::streambuf {
+ public:
+  std::function<void()> verifie;
+  std::function<std::string()> suivante;
+  int restantes = 0;
+  std::deque<std::string> dernieres;
+
+ protected:
+  int_type underflow() override {
+    verifie();
+    if (restantes-- == 0) return traits_type::eof();
+    ligne_ = suivante() + "\n";
+    dernieres.push_back(ligne_);
+    if (dernieres.size() > 25) dernieres.pop_front();
+    setg(ligne_.data(), ligne_.data(), ligne_.data() + ligne_.size());
+    return traits_type::to_int_type(ligne_.front());
+  }
+
+ private:
+  std::string ligne_;
+};
+
+class Joueuse {
+ public:
+  Joueuse(unsigned graine, int commandes)
+      : dossier_(NouveauDossier()), hasard_(graine), graine_(graine), entree_(&lignes_) {
+    lignes_.restantes = commandes;
+    lignes_.verifie = [this] { Verifie(); };
+    lignes_.suivante = [this] {
+      const bool libre = session_.LeSysteme().Dessus() == nullptr;
+      const std::string commande = Commande();
+      if (libre) commande_ = commande;
+      return commande;
+    };
+  }
+  ~Joueuse() { std::filesystem::remove_all(dossier_); }
+
+  void Joue() { session_.Joue(); }
+  int Fins() const { return fins_; }
+  int Relectures() const { return relectures_; }
+  int Modales() const { return modales_; }
+
+ private:
+  GameState& Jeu() { return session_.LeProgramme().Principale().Jeu(); }
+  Fenetre& Principale() { return session_.LeProgramme().Principale().LaFenetre(); }
+  Fenetre& Aide() { return session_.LeProgramme().Principale().LAssistant().LaFenetre(); }
+  int Tire(int n) { return std::uniform_int_distribution<int>(0, n - 1)(hasard_); }
+  std::string Un(std::initializer_list<const char*> mots) { return mots.begin()[Tire(int(mots.size()))]; }
+  std::string Fichier() { return dossier_ + Un({"/a", "/b.sud", "/c.SUD", "/rien.sud"}); }
+  static std::string Guillemets(TexteVue texte) { return VersUtf8(Cite(texte)); }
+
+  // What is done next, some of it impossible.
+  std::string Commande() {
+    if (!demarree_) {
+      demarree_ = true;
+      return "start";
+    }
+    if (Boite* boite = session_.LeSysteme().Dessus(); boite != nullptr && Tire(12) != 0)
+      return Reponse(*boite);
+    switch (Tire(30)) {
+      case 0:
+        return "tick";
+      case 1:
+        return "now \"2026-11-24 10:" + std::to_string(10 + Tire(50)) + ":" + std::to_string(10 + Tire(50)) +
+               "\"";
+      case 2:
+        return "focus " + std::to_string(Tire(83));
+      case 3:
+        return "key " + std::to_string(36 + Tire(6));
+      case 4:
+      case 5:
+        return "click " + Un({"ChkLightSur", "ChkLightPoss", "ChkForeBlue", "ChkForeRed", "ChkListPoss",
+                              "ChkRep", "ChkTips", "BtViewSolution"});
+      case 6:
+        return Un({"press", "release", "release"}) + " BtViewSolution " + Un({"souris", "espace"});
+      case 7:
+        return "close FRMHelp";
+      case 8:
+      case 9:
+        return "click " + Un({"MnuStart", "MnuSave", "MnuLoad", "MnuPartie", "MnuScores", "MnuAssist"});
+      case 10:
+        return "click " + Un({"MnuRestart", "MnuReinit", "MnuSolver", "MnuAbout", "MnuSave", Suppose()});
+      case 11:
+        return Tire(5) == 0 || Jeu().VgEtat == kSansGrille ? "click MnuInit" : "click MnuStart";
+      default:
+        return Tape();
+    }
+  }
+
+  // Suppositions on a side of 9 that holds contradictory entries can take for ever.
+  const char* Suppose() { return Jeu().VmTaille <= 4 ? "MnuSolveur2" : "MnuSolver"; }
+
+  // Half of the entries go towards the solution, where one is known, so that games come to their end.
+  std::string Tape() {
+    const GameState& jeu = Jeu();
+    const int cases = jeu.VmGrille.Borne();
+    if (cases == 0) return "click MnuInit";
+    const bool resolue = jeu.VsResolu && jeu.VmGrilleEtat.Borne() == cases;
+    if (resolue && Tire(2) == 0) {
+      for (int k = 1; k <= cases; ++k) {
+        const Texte& juste = jeu.VmGrilleEtat(k).ValeurSaisie();
+        if (jeu.VmGrille(k).ValeurSaisie() != juste)
+          return "type " + std::to_string(k) + " " + Guillemets(juste);
+      }
+    }
+    const int i = 1 + Tire(cases);
+    Texte texte(1,
+                jeu.VmValeurs.empty() ? U'1' : jeu.VmValeurs[std::size_t(Tire(int(jeu.VmValeurs.size())))]);
+    const Texte possible = jeu.VmGrille(i).Possible();
+    if (Tire(3) != 0 && !possible.empty())
+      texte = Texte(1, possible[std::size_t(Tire(int(possible.size())))]);
+    if (Tire(12) == 0) texte.clear();
+    if (Tire(20) == 0) texte = Texte(possible.substr(0, 2));
+    if (Tire(20) == 0)
+      texte = Minuscule(texte.empty() ? U'D' : texte[0]) + Texte(U"x").substr(std::size_t(Tire(2)));
+    return "type " + std::to_string(i) + " " + Guillemets(texte);
+  }
+
+  std::string Reponse(const Boite& boite) {
+    switch (boite.genre) {
+      case GenreBoite::kMessage:
+        return "answer ok";
+      case GenreBoite::kQuestion:
+        return Tire(4) == 0 ? "answer non" : "answer oui";
+      case GenreBoite::kSaisie:
+        return Tire(8) == 0 ? "answer annuler"
+                            : "answer " + Guillemets(kSymboles[Tire(int(std::size(kSymboles)))]);
+      case GenreBoite::kFichier:
+        return Tire(6) == 0 ? "answer annuler" : "answer \"" + Fichier() + "\"";
+      case GenreBoite::kFenetre:
+        break;
+    }
+    ++modales_;
+    switch (Tire(7)) {
+      case 0:
+        return "edit LstSave " + Guillemets(Tire(2) == 0 ? U"une-partie" : U"Échec ★");
+      case 1:
+        return "select LstSave " + std::to_string(Tire(4) - 1);
+      case 2:
+        return "select LstLoad " + std::to_string(Tire(4) - 1);
+      case 3:
+        return "click BtDel";
+      case 4:
+        return "dblclick LstLoad";
+      default:
+        return "key " + Un({"13", "27"});
+    }
+  }
+
+  void Verifie() {
+    if (testing::Test::HasFailure()) {
+      lignes_.restantes = 0;
+      return;
+    }
+    if (session_.LeSysteme().Dessus() != nullptr) return;
+    VerifieEtat();
+    VerifiePlateau();
+    VerifieFichier();
+    if (Jeu().VgEtat == kTermine && etatAvant_ != kTermine) ++fins_;
+    etatAvant_ = Jeu().VgEtat;
+    if (!testing::Test::HasFailure()) return;
+    std::string dernieres;
+    for (const std::string& ligne : lignes_.dernieres) dernieres += ligne;
+    ADD_FAILURE() << "graine " << graine_ << ", dernières commandes :\n" << dernieres;
+  }
+
+  void VerifieEtat() {
+    const std::int32_t etat = Jeu().VgEtat;
+    EXPECT_TRUE(etat == kSansGrille || etat == kSaisieGrille || etat == kJeu || etat == kTermine) << etat;
+    const Grille& grille = Jeu().VmGrille;
+    for (int i = 1; i <= grille.Borne(); ++i) {
+      EXPECT_TRUE(grille(i).Etat() < kPossible || !grille(i).ValeurSaisie().empty()) << "case " << i;
+    }
+  }
+
+  void VerifiePlateau() {
+    const Plateau& plateau = Principale().plateau;
+    const Grille& grille = Jeu().VgSilence ? Jeu().VmGrilleEtat : Jeu().VmGrille;
+    ASSERT_EQ(plateau.Cases(), Jeu().VmGrille.Borne());
+    ASSERT_LE(Jeu().VmCase, plateau.Cases());
+    if (plateau.Constructions() != construction_) redessin_ = plateau.Redessins();
+    construction_ = plateau.Constructions();
+    // A grid just made is not painted: its boxes are new.
+    const bool peint = plateau.Redessins() != redessin_;
+    for (int i = 1; i <= grille.Borne(); ++i) {
+      const CaseTexte& boite = plateau.TxtCase(i);
+      ASSERT_EQ(VersUtf8(boite.Text), VersUtf8(grille(i).ValeurSaisie())) << "case " << i;
+      if (peint) VerifieCouleurs(boite, grille, i);
+    }
+  }
+
+  void VerifieCouleurs(const CaseTexte& boite, const Grille& grille, int i) {
+    const ClsPos cellule = grille(i);
+    const Assistant& aide = session_.LeProgramme().Principale().LAssistant();
+    const bool vide = cellule.ValeurSaisie().empty();
+    const bool donnee = !vide && cellule.Etat() == kDonnee;
+    const bool visible = Aide().Visible;
+    Couleur fond = donnee ? kGris : kBlanc;
+    Couleur encre = kNoir;
+    if (visible && vide && !cellule.SolutionSure().empty()) {
+      if (aide.ChkLightSur()) fond = kVert;
+    } else if (visible && vide && !cellule.SolutionPoss().empty() && aide.ChkLightPoss()) {
+      fond = kCyan;
+    }
+    if (visible && !vide && cellule.Etat() == kPossible && aide.ChkForeBlue()) encre = kBleu;
+    if (visible && !vide && cellule.Etat() == kErronee && aide.ChkForeRed()) encre = kRouge;
+    if (visible && i == Jeu().VmCase && !donnee) std::swap(fond, encre);
+    ASSERT_EQ(boite.BackColor, fond) << "case " << i;
+    ASSERT_EQ(boite.ForeColor, encre) << "case " << i;
+    ASSERT_EQ(boite.Appearance, i == Principale().plateau.Focus() ? 1 : 0) << "case " << i;
+    // A given that the solver has overwritten leaves its box locked.
+    if (donnee) {
+      ASSERT_EQ(boite.Locked, Jeu().VgEtat != kSaisieGrille) << "case " << i;
+    }
+    ASSERT_EQ(boite.TabStop, !boite.Locked) << "case " << i;
+  }
+
+  // After a save that went through, another program loads the file, taking the grid without a game.
+  void VerifieFichier() {
+    const bool sauve = std::exchange(commande_, "") == "click MnuSave" && Jeu().VgEtat != kSansGrille;
+    if (!sauve || Jeu().VmNom.empty()) return;
+    ++relectures_;
+    Joueur relu;
+    relu.Demarre(VersUtf8(Jeu().VmNom));
+    const GameState& jeu = relu.Jeu();
+    ASSERT_EQ(VersUtf8(jeu.VmValeurs), VersUtf8(Jeu().VmValeurs));
+    ASSERT_EQ(jeu.VgParties.size(), Jeu().VgParties.size());
+    for (std::size_t i = 1; i < jeu.VgParties.size(); ++i) {
+      EXPECT_EQ(VersUtf8(jeu.VgParties[i].Nom), VersUtf8(Jeu().VgParties[i].Nom));
+      EXPECT_EQ(VersUtf8(jeu.VgParties[i].Grille), VersUtf8(Jeu().VgParties[i].Grille));
+    }
+    ASSERT_EQ(jeu.VgScores.size(), Jeu().VgScores.size());
+    for (std::size_t i = 1; i < jeu.VgScores.size(); ++i) {
+      EXPECT_EQ(VersUtf8(jeu.VgScores[i].Nom), VersUtf8(Jeu().VgScores[i].Nom));
+      EXPECT_NEAR(jeu.VgScores[i].Temps, std::max(Jeu().VgScores[i].Temps, 0.0), 0.5 / 86400);
+    }
+    ASSERT_EQ(jeu.VmGrille.Borne(), Jeu().VmGrille.Borne());
+    for (int i = 1; i <= jeu.VmGrille.Borne(); ++i) {
+      const ClsPos cellule = Jeu().VmGrille(i);
+      const Texte donnee = cellule.Etat() == kDonnee ? cellule.ValeurSaisie().substr(0, 1) : Texte();
+      ASSERT_EQ(VersUtf8(jeu.VmGrille(i).ValeurSaisie()), VersUtf8(donnee)) << "case " << i;
+      ASSERT_EQ(jeu.VmGrille(i).Etat(), kDonnee) << "case " << i;
+    }
+  }
+
+  std::string dossier_;
+  std::mt19937 hasard_;
+  unsigned graine_;
+  Lignes lignes_;
+  std::istream entree_;
+  std::ostringstream sortie_;
+  FichiersDisque fichiers_;
+  Session session_{entree_, sortie_, fichiers_};
+  bool demarree_ = false;
+  std::string commande_;  // the last one given with no box open
+  std::int32_t etatAvant_ = kSansGrille;
+  std::uint32_t construction_ = 0;
+  std::uint32_t redessin_ = 0;
+  int fins_ = 0;
+  int relectures_ = 0;
+  int modales_ = 0;
+};
+
+class Hasard : public testing::TestWithParam<unsigned> {};
+
+TEST_P(Hasard, LePlateauMontreToujoursLesFiches) {
+  Joueuse joueuse(GetParam(), 12000);
+  joueuse.Joue();
+  // A run that never got anywhere would prove nothing.
+  EXPECT_GT(joueuse.Fins(), 10);
+  EXPECT_GT(joueuse.Relectures(), 20);
+  EXPECT_GT(joueuse.Modales(), 50);
+}
+
+INSTANTIATE_TEST_SUITE_P(Graines, Hasard, testing::Values(1U, 2U, 3U, 4U));
+
+}  // namespace
+}  // namespace sudoku
