@@ -71,7 +71,8 @@ class Images {
         {"menu", [&] { Principale().TrouveArticle(mot)->Click(); }},
         {"coche", [&] { systeme_->Assistant()->Trouve(mot)->Clique(); }},
         {"case", [&] { Principale().plateau.SetFocus(std::stoi(mot)); }},
-        {"tape", [&] { Principale().plateau.Saisit(std::stoi(mot), DepuisQt(QString::fromStdString(symbole))); }},
+        {"tape",
+         [&] { Principale().plateau.Saisit(std::stoi(mot), DepuisQt(QString::fromStdString(symbole))); }},
         {"modale", [&] { systeme_->DessineProchaineModale(mot); }}};
     if (nom == "image") return Dessine(QString::fromStdString(mot));
     const auto commande = commandes.find(nom);
@@ -83,7 +84,9 @@ class Images {
  private:
   Fenetre& Principale() { return programme_->Principale().LaFenetre(); }
 
-  void Ouvre(const std::string& fichier) { programme_->Demarre(DepuisQt('"' + QString::fromStdString(fichier) + '"')); }
+  void Ouvre(const std::string& fichier) {
+    programme_->Demarre(DepuisQt('"' + QString::fromStdString(fichier) + '"'));
+  }
 
   QPixmap Vue(Fenetre& fenetre) {
     FenetreQt& vue = *systeme_->FenetreDe(fenetre);
