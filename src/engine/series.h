@@ -24,10 +24,11 @@ class Series {
   M Reste();
   void Symbole(int s, int p);
   void SeuleSolution(int s, int p);
-  // Locked candidate: symbol p has all its places of this unit (`lieux`) in one unit of another kind too.
-  void Verrouille(int p, const M& lieux);
-  void Inference(int type, int unite, const M& horsDe, int p, const M& lieux);
-  void InferenceAvecTextes(int type, int unite, int p, const M& lieux);
+  // Locked candidate: the symbol of position s, which stands first at p, has all its places of this unit
+  // (`lieux`) in one unit of another kind too.
+  void Verrouille(int s, int p, const M& lieux);
+  void Inference(int type, int unite, const M& horsDe, int s, int p, const M& lieux);
+  void InferenceAvecTextes(int type, int unite, int s, int p, const M& lieux);
   void EnsemblesCaches();
   void Cache(int rang);
   void EnsemblesNus();

@@ -79,7 +79,7 @@ struct Tableau {
   // Possible of an open cell becomes `sequence`.
   void Remplace(int cellule, const M& sequence);
   // Takes the symbol out of the text of a cell that isn't open. True if something went.
-  bool EnleveDuTexte(int cellule, int symbole);
+  bool EnleveDuTexte(int cellule, TexteVue symbole);
   void ToutSale();
   void Salit(int cellule);
 

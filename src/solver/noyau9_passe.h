@@ -63,6 +63,7 @@ class Passe {
   bool Balaye();
   bool TestSerie(int u);
   void Seules(int u, V16 places, std::uint32_t symboles);
+  void Reprouve(int u);
   bool Verrouilles(int u, V16 places);
   bool Inference(V16 verrouilles, int u2, int horsDe);
   bool Caches(int u, const std::uint16_t* places, std::uint32_t debuts);
@@ -231,11 +232,23 @@ void Passe::Seules(int u, V16 places, std::uint32_t symboles) {
   for (; symboles != 0; symboles &= symboles - 1) {
     const int s = Premier(symboles);
     const int cellule = kGeo.cellules[u][Premier(p[s])];
+    const bool autre = solution_[cellule] != 0;
     solution_[cellule] = static_cast<std::uint8_t>(s + 1);
     if (mode_ == Mode9::kPossible) continue;
     for (const int unite : kGeo.lieux[cellule].unite) {
       prouves_[unite] = static_cast<std::uint16_t>(prouves_[unite] | 1 << s);
+      if (autre) Reprouve(unite);
     }
+  }
+}
+
+// A second symbol was proved for a cell and took the place of the first (a contradictory board): the first is
+// proved in the cell's units no more, unless another cell has it.
+void Passe::Reprouve(int u) {
+  prouves_[u] = 0;
+  for (const int cellule : kGeo.cellules[u]) {
+    const int prouve = 1 << solution_[cellule] >> 1;
+    prouves_[u] = static_cast<std::uint16_t>(prouves_[u] | prouve);
   }
 }
 

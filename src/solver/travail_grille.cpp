@@ -46,7 +46,11 @@ std::int16_t TravailGrille::JeuSolve(bool /*possibles*/) {
 
 void TravailGrille::PrendBase() {
   GrilleCopy(travail_, base_);
-  baseProuvee_ = std::ranges::none_of(base_.Donnees().etat, [](std::int32_t etat) { return etat > kProuvee; });
+  const Bloc& bloc = base_.Donnees();
+  // A content of several symbols is open to suppositions, and its cell then counts no more in the first pass.
+  baseProuvee_ =
+      std::ranges::none_of(bloc.etat, [](std::int32_t etat) { return etat > kProuvee; }) &&
+      std::ranges::none_of(bloc.saisie, [&bloc](Code saisie) { return bloc.alphabet->Long(saisie); });
 }
 
 void TravailGrille::Detache() {

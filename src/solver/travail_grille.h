@@ -32,8 +32,8 @@ class TravailGrille : public Travail {
   Grille travail_;
   Grille base_;
   bool detachee_ = false;
-  // The base holds no entry of the player that isn't proved: the first pass of every later evaluation would
-  // see what the base's own saw, and give nothing.
+  // The base holds no entry of the player that isn't proved, and suppositions go into empty cells only: the
+  // first pass of every later evaluation would see what the base's own saw, and give nothing.
   bool baseProuvee_ = false;
 };
 
