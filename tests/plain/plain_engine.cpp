@@ -32,7 +32,7 @@ void Jeu::DonneValeur(ClsPos& c, TexteVue valeur) {
     if (possible && (c.SolutionSure.empty() || Egal(c.SolutionSure, valeur))) {
       c.Load(valeur, kDonnee);
     } else {
-      Messages.push_back(U"Impossible");
+      Message(U"Impossible");
     }
   } else if (c.SolutionSure.empty()) {
     c.Load(valeur, possible ? kEssai : kFausse);
@@ -208,7 +208,8 @@ Texte Jeu::RetireTous(TexteVue liste, const Serie& serie, int pos) const {
   for (std::size_t i = 1; i < serie.size(); ++i) {
     if (serie[i]->Index == pos) continue;
     const TexteVue valeur = Valeur(*serie[i]);
-    if (!valeur.empty() && Contient(copie, valeur)) copie = Sans(copie, valeur);
+    if (valeur.empty()) continue;
+    if (valeur.size() == 1 ? Porte(copie, valeur[0]) : Contient(copie, valeur)) copie = Sans(copie, valeur);
   }
   return copie;
 }

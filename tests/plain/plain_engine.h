@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -51,7 +52,10 @@ using Pile = std::vector<TSupposition>;
 std::vector<int> Nombres(const Tirets& liste);
 Tirets GetCombi(const Tirets& liste);
 
-// One game with all that the rules read and write; every box that would open is noted in Messages.
+// Contient for one symbol: most of the time goes there, so the lower case comes from a table.
+bool Porte(TexteVue texte, char32_t symbole);
+
+// One game with all that the rules read and write.
 class Jeu {
  public:
   int VgEtat = 0;
@@ -60,7 +64,8 @@ class Jeu {
   Texte VmValeurs;
   Grille VmGrille, VmGrilleEtat;
   bool VsResolu = false;
-  std::vector<Texte> Messages;
+  // Every box that opens.
+  std::function<void(TexteVue)> Message = [](TexteVue) {};
 
   // A new grid in mode 1, evaluated once; false, and nothing changed, for symbols that no grid can have.
   bool JeuVierge(TexteVue valeurs);

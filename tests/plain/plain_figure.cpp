@@ -72,7 +72,7 @@ std::vector<NxNEmpreinte> Jeu::Empreintes(const Grille& grille) const {
           }
           e.Unites = GetCombi(e.Unites);
           e.Cases = GetCombi(e.Cases);
-          if (connues.insert(Cle(e) + '/' + e.Cases).second) empreintes.push_back(e);
+          if (connues.insert(Cle(e) + '/' + e.Cases).second) empreintes.push_back(std::move(e));
         }
       }
     }

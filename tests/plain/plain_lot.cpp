@@ -65,17 +65,19 @@ void Explique(Jeu& jeu, int passes) {
 }
 
 void Resout(Jeu& jeu, const std::string& lue, bool guess) {
+  std::vector<Texte> messages;
+  jeu.Message = [&messages](TexteVue texte) { messages.emplace_back(texte); };
   jeu.JeuAuto(true, guess);
   std::string resultat;
   for (std::size_t i = 1; i < jeu.VmGrille.size(); ++i) {
     const Texte& valeur = jeu.VmGrille[i]->ValeurSaisie();
     resultat += valeur.empty() ? "." : VersUtf8(valeur);
   }
-  const std::string message = VersUtf8(jeu.Messages.back());
+  const std::string message = VersUtf8(messages.back());
   long long comptes[2] = {0, 0};
   std::sscanf(message.c_str(), "Résolu avec %lld supposition(s), dont %lld", &comptes[0], &comptes[1]);
   std::cout << lue << '\t' << resultat << '\t' << comptes[0] << '\t' << comptes[1] << '\t'
-            << jeu.Messages.size() - 1 << '\t' << message << std::endl;
+            << messages.size() - 1 << '\t' << message << std::endl;
 }
 
 bool Traite(const Appel& appel, const std::string& lue) {

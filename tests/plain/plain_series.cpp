@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <set>
 
 #include "plain/plain_engine.h"
@@ -7,21 +8,6 @@ namespace {
 
 TexteVue Vue(const char32_t& symbole) {
   return {&symbole, 1};
-}
-
-// Contient for one symbol: most of the time goes there, so the lower case comes from a table.
-bool Porte(TexteVue texte, char32_t symbole) {
-  static const std::vector<char32_t> minuscules = [] {
-    std::vector<char32_t> table(0x10000);
-    for (std::size_t c = 0; c < table.size(); ++c) table[c] = Minuscule(static_cast<char32_t>(c));
-    return table;
-  }();
-  const auto bas = [](char32_t c) { return c < minuscules.size() ? minuscules[c] : Minuscule(c); };
-  const char32_t cherche = bas(symbole);
-  for (const char32_t c : texte) {
-    if (bas(c) == cherche) return true;
-  }
-  return false;
 }
 
 // " du carré 5": the unit of type `type` in which cell `c` lies.
@@ -42,6 +28,20 @@ Texte SequenceDans(TexteVue sequence, const Texte& unite, const std::vector<int>
 }
 
 }  // namespace
+
+bool Porte(TexteVue texte, char32_t symbole) {
+  static const std::vector<char32_t> minuscules = [] {
+    std::vector<char32_t> table(0x10000);
+    for (std::size_t c = 0; c < table.size(); ++c) table[c] = Minuscule(static_cast<char32_t>(c));
+    return table;
+  }();
+  const auto bas = [](char32_t c) { return c < minuscules.size() ? minuscules[c] : Minuscule(c); };
+  const char32_t cherche = bas(symbole);
+  for (const char32_t c : texte) {
+    if (bas(c) == cherche) return true;
+  }
+  return false;
+}
 
 void Retire(ClsPos& c, TexteVue valeur, bool& trouve, TexteVue explication) {
   if (!Contient(c.Possible, valeur)) return;
@@ -71,9 +71,14 @@ std::vector<int> Nombres(const Tirets& liste) {
 }
 
 Tirets GetCombi(const Tirets& liste) {
-  const std::vector<int> nombres = Nombres(liste);
+  std::vector<int> nombres = Nombres(liste);
+  std::ranges::sort(nombres);
   Tirets resultat;
-  for (const int n : std::set<int>(nombres.begin(), nombres.end())) resultat += '-' + std::to_string(n);
+  int dernier = 0;
+  for (const int n : nombres) {
+    if (n != dernier) resultat += '-' + std::to_string(n);
+    dernier = n;
+  }
   return resultat;
 }
 

@@ -30,7 +30,7 @@ bool Jeu::GuessResult(int resultat, Pile& supp) {
     haut.Essais += haut.Valeur;
     haut.Valeur.clear();
     if (!Egal(haut.Possible, haut.Essais)) return false;
-    Messages.push_back(U"Retour arrière ! Procédure à vérifier");
+    Message(U"Retour arrière ! Procédure à vérifier");
     supp[0].Essais += haut.Essais;
     supp.pop_back();
   }
@@ -74,15 +74,16 @@ void Jeu::CorrigeFausses(Grille& grille, const Grille& base) {
   }
 }
 
+// A symbol of the grid stands twice in a unit; contents that are no symbol don't count.
 bool Jeu::UniteBrisee(const Grille& grille) const {
   for (const auto& type : unites_) {
     for (const std::vector<int>& unite : type) {
-      for (std::size_t a = 0; a < unite.size(); ++a) {
-        for (std::size_t b = a + 1; b < unite.size(); ++b) {
-          const Texte& un = grille[static_cast<std::size_t>(unite[a])]->ValeurSaisie();
-          if (!un.empty() && Egal(un, grille[static_cast<std::size_t>(unite[b])]->ValeurSaisie()))
-            return true;
-        }
+      Texte vus;
+      for (const int index : unite) {
+        const Texte& valeur = grille[static_cast<std::size_t>(index)]->ValeurSaisie();
+        if (valeur.size() != 1 || !Contient(VmValeurs, valeur)) continue;
+        if (Contient(vus, valeur)) return true;
+        vus += valeur;
       }
     }
   }
@@ -128,7 +129,7 @@ void Jeu::JeuAuto(bool reset, bool guess) {
     return;
   }
   VmGrille = travail;
-  Messages.push_back(tranche ? MessageFinal(verdict, supp) : U"Non résolu");
+  Message(tranche ? MessageFinal(verdict, supp) : U"Non résolu");
   if (resolu) VmGrilleEtat = travail;
 }
 

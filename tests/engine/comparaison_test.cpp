@@ -1,0 +1,94 @@
+// The engine and the solver against the same rules done on plain strings: random games, every field of every
+// cell after every step.
+#include <gtest/gtest.h>
+
+#include "plain/parties.h"
+
+namespace sudoku::plain {
+namespace {
+
+constexpr std::size_t kBoites = 20;
+
+// Plays games number `premiere` and on; at the first difference the shortest one that shows it is the
+// message.
+void Joue(int premiere, int parties, const Genres& genres, Paire& paire) {
+  for (int graine = premiere; graine < premiere + parties; ++graine) {
+    Partie jouee;
+    const std::string ecarts = JoueAuHasard(static_cast<std::uint64_t>(graine), genres, paire, jouee);
+    if (ecarts.empty()) continue;
+    if (!Rejoue(jouee, kBoites).empty()) jouee = Reduit(jouee, kBoites);
+    FAIL() << "game " << graine << ecarts << '\n' << Decrit(jouee) << Rejoue(jouee, kBoites);
+  }
+}
+
+// What the games are for has to come up in them.
+void Attend(const Paire& paire, std::initializer_list<const char*> sortes) {
+  for (const char* sorte : sortes) EXPECT_TRUE(paire.Bilan().contains(sorte)) << sorte << " never came up";
+}
+
+Plateau Lit(TexteVue symboles, TexteVue cases) {
+  Plateau plateau;
+  plateau.symboles = symboles;
+  for (const char32_t c : cases) plateau.cases.push_back({c == U'.' ? Texte() : Texte(1, c), 0});
+  return plateau;
+}
+
+TEST(Comparaison, PetitesGrilles) {
+  Paire paire(kBoites);
+  Joue(0, 2500, {.tailles = {1, 4}, .actions = 12}, paire);
+  Attend(paire, {"seule", "confinée", "cachée", "nue", "Impossible"});
+}
+
+TEST(Comparaison, GrillesDeNeuf) {
+  Paire paire(kBoites);
+  Joue(0, 350, {.tailles = {9}, .actions = 12}, paire);
+  Attend(paire, {"seule", "confinée", "cachée", "nue", "Impossible", "figure 0 1", "figure 1 0"});
+}
+
+TEST(Comparaison, GrandesGrilles) {
+  Paire paire(kBoites);
+  Joue(0, 55, {.tailles = {16, 16, 16, 25}, .actions = 5}, paire);
+  Attend(paire, {"seule", "confinée", "cachée", "nue", "figure 0 1", "figure 0 2", "figure 1 0", "figure 1 2",
+                 "figure 2 0", "figure 2 1"});
+}
+
+// Candidates take two words, then three.
+TEST(Comparaison, PlusDUnMotDeCandidats) {
+  Paire paire(kBoites);
+  Joue(0, 4, {.tailles = {64, 81, 100}, .actions = 1}, paire);
+  Joue(4, 1, {.tailles = {169}, .actions = 1}, paire);
+  Attend(paire, {"seule", "confinée", "cachée", "nue"});
+}
+
+TEST(Comparaison, Solveur) {
+  Paire paire(kBoites);
+  Joue(0, 150, {.tailles = {4, 9}, .actions = 3, .solveur = true}, paire);
+  Joue(0, 2, {.tailles = {16}, .actions = 2, .solveur = true}, paire);
+  Attend(paire, {"Insoluble ", "Non résolu", "Retour arr", "Résolu ave", "Résolu san"});
+}
+
+// Short games that once told the two apart.
+TEST(Comparaison, PartiesConnues) {
+  using Genre = Action::Genre;
+  // A character that the grid doesn't have, in a naked set.
+  Plateau etranger = Lit(U"1234", U"................");
+  etranger.cases[0].valeur = etranger.cases[1].valeur = U"1?";
+  // A text whose cell a supposition takes, so that it counts no more.
+  Plateau texte = Lit(U"1234", U".1..14.11..41..4");
+  texte.cases[6].valeur = U"44";
+  // Two symbols proved for one cell, one after the other.
+  const Plateau deuxFois = Lit(U"123456789",
+                               U"...6.....1.26........853.......995......2...."
+                               U".................6..1...9..2..6...2.");
+  const Partie parties[] = {
+      {{.genre = Genre::kCharge, .plateau = etranger}, {.genre = Genre::kEvalue, .nombre = 2}},
+      {{.genre = Genre::kCharge, .plateau = Lit(U"aAbB", U"................")},
+       {.genre = Genre::kSaisit, .nombre = 1, .texte = U"Ab"}},
+      {{.genre = Genre::kCharge, .plateau = texte}, {.genre = Genre::kJoue, .reset = true, .guess = true}},
+      {{.genre = Genre::kCharge, .plateau = deuxFois},
+       {.genre = Genre::kJoue, .reset = true, .silence = true}}};
+  for (const Partie& partie : parties) EXPECT_EQ(Rejoue(partie, kBoites), "") << Decrit(partie);
+}
+
+}  // namespace
+}  // namespace sudoku::plain
