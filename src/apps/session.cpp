@@ -1,52 +1,11 @@
 #include "apps/session.h"
 
 #include <algorithm>
-#include <array>
-#include <limits>
 
 #include "apps/session_vue.h"
 
 namespace sudoku {
 namespace {
-
-const Texte kModale = U"fenêtre modale ouverte";
-
-// An element that commands name, the commands that know it, and the windows that have one of this name.
-struct Nomme {
-  TexteVue nom;
-  std::array<TexteVue, 3> commandes;
-  std::array<TexteVue, 2> fenetres;
-};
-
-constexpr Nomme kNommes[] = {
-    {U"BtOK", {U"click"}, {U"FRMParties", U"FRMNRVAbout"}},
-    {U"BtDel", {U"click"}, {U"FRMParties"}},
-    {U"BtSysInfo", {U"click"}, {U"FRMNRVAbout"}},
-    {U"BtViewSolution", {U"click", U"press", U"release"}, {U"FRMHelp"}},
-    {U"ChkLightSur", {U"click"}, {U"FRMHelp"}},
-    {U"ChkLightPoss", {U"click"}, {U"FRMHelp"}},
-    {U"ChkForeBlue", {U"click"}, {U"FRMHelp"}},
-    {U"ChkForeRed", {U"click"}, {U"FRMHelp"}},
-    {U"ChkListPoss", {U"click"}, {U"FRMHelp"}},
-    {U"ChkRep", {U"click"}, {U"FRMHelp"}},
-    {U"ChkTips", {U"click"}, {U"FRMHelp"}},
-    {U"LstLoad", {U"select", U"dblclick"}, {U"FRMParties"}},
-    {U"LstSave", {U"select", U"dblclick", U"edit"}, {U"FRMParties"}},
-    {U"FRMSudoku", {U"close"}, {U"FRMSudoku"}},
-    {U"FRMHelp", {U"close"}, {U"FRMHelp"}},
-    {U"FRMParties", {U"close"}, {U"FRMParties"}},
-    {U"FRMNRVAbout", {U"close"}, {U"FRMNRVAbout"}},
-};
-
-bool Connait(const Nomme& nomme, TexteVue commande) {
-  return std::find(nomme.commandes.begin(), nomme.commandes.end(), commande) != nomme.commandes.end();
-}
-
-const Nomme* Connu(TexteVue commande, TexteVue nom) {
-  const auto place = std::find_if(std::begin(kNommes), std::end(kNommes),
-                                  [&](const Nomme& n) { return n.nom == nom && Connait(n, commande); });
-  return place == std::end(kNommes) ? nullptr : place;
-}
 
 bool UnDe(TexteVue mot, std::initializer_list<TexteVue> mots) {
   return std::find(mots.begin(), mots.end(), mot) != mots.end();
@@ -67,11 +26,6 @@ bool ConformeArgument(char32_t forme, const Mot& mot) {
     default:
       return !mot.chaine;
   }
-}
-
-int Entier(const Mot& mot) {
-  return static_cast<int>(std::clamp<std::int64_t>(
-      LitNombre(mot.texte)->valeur, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
 }  // namespace
@@ -155,187 +109,6 @@ Session::Refus Session::Execute(const std::vector<Mot>& mots) {
   }
   if (!partie_ && (montre || !commande->avantDepart)) return U"pas démarré";
   return montre ? Show(arguments) : (this->*commande->fait)(arguments);
-}
-
-Session::Refus Session::SansModale() {
-  if (systeme_.Dessus() != nullptr) return kModale;
-  return {};
-}
-
-Session::Refus Session::CaseDuPlateau(const Mot& mot, int& Index) {
-  if (const Refus refus = SansModale()) return refus;
-  Index = Entier(mot);
-  if (Index < 1 || Index > Principale().plateau.Cases()) {
-    return U"pas de case " + LitNombre(mot.texte)->texte;
-  }
-  return {};
-}
-
-// The window of the element or window `nom`, if the command can act there.
-Session::Cible Session::Vise(TexteVue commande, TexteVue nom) {
-  const Nomme* nomme = Connu(commande, nom);
-  const bool menu = commande == U"click" && Principale().TrouveArticle(VersUtf8(nom)) != nullptr &&
-                    Principale().TrouveArticle(VersUtf8(nom))->Click != nullptr;
-  if (nomme == nullptr && !menu) return {.refus = U"pas d'élément " + Texte(nom)};
-  const auto possede = [&](const Fenetre& fenetre) {
-    if (menu) return &fenetre == &Principale();
-    const Texte nomFenetre = DepuisUtf8(fenetre.Name);
-    return nomFenetre == nomme->fenetres[0] || nomFenetre == nomme->fenetres[1];
-  };
-  if (const Boite* dessus = systeme_.Dessus()) {
-    if (dessus->fenetre == nullptr || !possede(*dessus->fenetre)) return {.refus = kModale};
-    return {.fenetre = dessus->fenetre};
-  }
-  for (Fenetre* fenetre : systeme_.Fenetres()) {
-    if (possede(*fenetre) && fenetre->Visible) return {.fenetre = fenetre};
-  }
-  return {.refus = U"pas visible"};
-}
-
-Session::Cible Session::ViseListe(TexteVue commande, TexteVue nom, Element*& liste) {
-  Cible cible = Vise(commande, nom);
-  if (cible.refus) return cible;
-  liste = cible.fenetre->Trouve(VersUtf8(nom));
-  if (!liste->Visible) cible.refus = U"pas visible";
-  return cible;
-}
-
-Session::Refus Session::Start(const Arguments& a) {
-  if (partie_) return U"déjà démarré";
-  partie_ = true;
-  scene_->Demarre([&] { programme_.Demarre(a.empty() ? Texte() : a[0].texte); });
-  return {};
-}
-
-Session::Refus Session::Now(const Arguments& a) {
-  const auto instant = LitInstant(a[0].texte);
-  if (!instant) return U"date incorrecte";
-  systeme_.MetHeure(*instant);
-  return {};
-}
-
-Session::Refus Session::Registre(const Arguments& a) {
-  systeme_.MetRegistre(a[0].texte, a[1].texte, a[2].texte);
-  return {};
-}
-
-Session::Refus Session::Type(const Arguments& a) {
-  int Index = 0;
-  if (const Refus refus = CaseDuPlateau(a[0], Index)) return refus;
-  if (Principale().plateau.TxtCase(Index).Locked) return U"verrouillé";
-  scene_->Saisit(Principale(), Index, a[1].texte);
-  return {};
-}
-
-Session::Refus Session::Focus(const Arguments& a) {
-  int Index = 0;
-  if (const Refus refus = CaseDuPlateau(a[0], Index)) return refus;
-  scene_->Focus(Principale(), Index);
-  return {};
-}
-
-Session::Refus Session::Key(const Arguments& a) {
-  const Boite* dessus = systeme_.Dessus();
-  if (dessus != nullptr && dessus->fenetre == nullptr) return kModale;
-  scene_->Touche(dessus == nullptr ? Principale() : *dessus->fenetre, Entier(a[0]));
-  return {};
-}
-
-Session::Refus Session::Tick(const Arguments&) {
-  if (const Refus refus = SansModale()) return refus;
-  Minuterie& Tmr = *Principale().TrouveMinuterie("Tmr");
-  if (!Tmr.Enabled) return U"Tmr désactivé";
-  scene_->Sonne(Tmr);
-  return {};
-}
-
-Session::Refus Session::Click(const Arguments& a) {
-  const Cible cible = Vise(U"click", a[0].texte);
-  if (cible.refus) return cible.refus;
-  const std::string nom = VersUtf8(a[0].texte);
-  if (ArticleMenu* article = cible.fenetre->TrouveArticle(nom)) {
-    if (!article->Enabled) return U"désactivé";
-    scene_->Choisit(*cible.fenetre, *article);
-  } else {
-    scene_->Clique(*cible.fenetre, *cible.fenetre->Trouve(nom));
-  }
-  return {};
-}
-
-Session::Refus Session::Press(const Arguments& a) {
-  const Cible cible = Vise(U"press", a[0].texte);
-  if (cible.refus) return cible.refus;
-  scene_->Presse(*cible.fenetre, *cible.fenetre->Trouve(VersUtf8(a[0].texte)), a[1].texte == U"souris");
-  return {};
-}
-
-Session::Refus Session::Release(const Arguments& a) {
-  const Cible cible = Vise(U"release", a[0].texte);
-  if (cible.refus) return cible.refus;
-  scene_->Relache(*cible.fenetre, *cible.fenetre->Trouve(VersUtf8(a[0].texte)), a[1].texte == U"souris");
-  return {};
-}
-
-Session::Refus Session::Close(const Arguments& a) {
-  const Cible cible = Vise(U"close", a[0].texte);
-  if (cible.refus) return cible.refus;
-  if (!cible.fenetre->ControlBox) return U"désactivé";
-  scene_->Ferme(*cible.fenetre);
-  return {};
-}
-
-Session::Refus Session::Select(const Arguments& a) {
-  Element* liste = nullptr;
-  const Cible cible = ViseListe(U"select", a[0].texte, liste);
-  if (cible.refus) return cible.refus;
-  const int p = Entier(a[1]);
-  if (p < -1 || p >= static_cast<int>(liste->items.size())) {
-    return U"pas de position " + LitNombre(a[1].texte)->texte;
-  }
-  scene_->Selectionne(*cible.fenetre, *liste, p);
-  return {};
-}
-
-Session::Refus Session::Edit(const Arguments& a) {
-  Element* liste = nullptr;
-  const Cible cible = ViseListe(U"edit", a[0].texte, liste);
-  if (cible.refus) return cible.refus;
-  scene_->Edite(*cible.fenetre, *liste, a[1].texte);
-  return {};
-}
-
-Session::Refus Session::DblClick(const Arguments& a) {
-  Element* liste = nullptr;
-  const Cible cible = ViseListe(U"dblclick", a[0].texte, liste);
-  if (cible.refus) return cible.refus;
-  scene_->DoubleClique(*cible.fenetre, *liste);
-  return {};
-}
-
-Session::Refus Session::Answer(const Arguments& a) {
-  Boite* boite = systeme_.Dessus();
-  if (boite == nullptr || boite->fenetre != nullptr) return U"rien à répondre";
-  const TexteVue mot = a[0].chaine ? TexteVue() : TexteVue(a[0].texte);
-  bool juste = false;
-  switch (boite->genre) {
-    case GenreBoite::kMessage:
-      juste = mot == U"ok";
-      break;
-    case GenreBoite::kQuestion:
-      juste = mot == U"oui" || mot == U"non";
-      boite->oui = mot == U"oui";
-      break;
-    default:
-      juste = a[0].chaine || mot == U"annuler";
-      boite->texte = a[0].chaine ? a[0].texte : Texte();
-  }
-  if (!juste) return U"réponse incorrecte";
-  boite->close = true;
-  return {};
-}
-
-Session::Refus Session::Show(const Arguments& a) {
-  return SessionVue(programme_, systeme_, sortie_).Montre(a);
 }
 
 }  // namespace sudoku

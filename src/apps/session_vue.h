@@ -11,6 +11,10 @@
 
 namespace sudoku {
 
+// " nom=valeur", as `show` writes a property.
+Texte Paire(TexteVue nom, TexteVue valeur);
+Texte Paire(TexteVue nom, std::int64_t valeur);
+
 // Prints the game's records and view elements, for the command `show` of a session.
 class SessionVue {
  public:

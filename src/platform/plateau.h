@@ -50,7 +50,6 @@ class Plateau {
   int Cases() const { return static_cast<int>(TxtCase_.size()) - 1; }
   int Cadres() const { return static_cast<int>(Box_.size()) - 1; }
   const CaseTexte& TxtCase(int i) const { return TxtCase_[static_cast<std::size_t>(i)]; }
-  CadreCarre& Box(int b) { return Box_[static_cast<std::size_t>(b)]; }
   const CadreCarre& Box(int b) const { return Box_[static_cast<std::size_t>(b)]; }
 
   // Takes all boxes and frames above 0 away; the focus is nowhere.
