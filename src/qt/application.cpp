@@ -68,7 +68,8 @@ void PrepareAffichage(bool ecran) {
 
 void PrepareApplication(QApplication& application) {
   ChargeIcones();
-  QGuiApplication::setDesktopFileName(QStringLiteral("solver-de-sudoku"));  // as installed: its icon, its group
+  QGuiApplication::setDesktopFileName(
+      QStringLiteral("solver-de-sudoku"));  // as installed: its icon, its group
   QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
   auto* francais = new QTranslator(&application);
   if (francais->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {

@@ -8,6 +8,9 @@ namespace sudoku {
 
 EditeurCase::EditeurCase(QWidget* parent) : QLineEdit(parent) {
   setFrame(false);
+  QPalette sansFond = palette();
+  sansFond.setColor(QPalette::Base, Qt::transparent);  // the board paints what lies below the text
+  setPalette(sansFond);
   setAcceptDrops(false);
   setDragEnabled(false);
   setAlignment(Qt::AlignCenter);
@@ -19,6 +22,8 @@ EditeurCase::EditeurCase(QWidget* parent) : QLineEdit(parent) {
 }
 
 bool EditeurCase::event(QEvent* evenement) {
+  // Before the toolkit makes a move to the next widget of a Tab.
+  if (evenement->type() == QEvent::KeyPress && Touche(*static_cast<QKeyEvent*>(evenement))) return true;
   // Undo and redo belong to the board: without this the field would take them as its own shortcuts.
   if (evenement->type() == QEvent::ShortcutOverride) {
     auto* touche = static_cast<QKeyEvent*>(evenement);
@@ -31,7 +36,6 @@ bool EditeurCase::event(QEvent* evenement) {
 }
 
 void EditeurCase::keyPressEvent(QKeyEvent* evenement) {
-  if (Touche(*evenement)) return;
   if (evenement->matches(QKeySequence::Undo) || evenement->matches(QKeySequence::Redo)) return;
   QLineEdit::keyPressEvent(evenement);
 }

@@ -16,7 +16,6 @@ class EditeurCase : public QLineEdit {
   std::function<void(const QString& texte)> Saisi;
   // A key, before the field gets it; True: it is used up.
   std::function<bool(QKeyEvent& evenement)> Touche;
-  std::function<bool(bool avant)> Tabulation;
   std::function<void()> Clic;
   std::function<void()> Menu;
 
@@ -30,7 +29,8 @@ class EditeurCase : public QLineEdit {
   // A shaky click would lose the selection that it has just made.
   void mouseMoveEvent(QMouseEvent*) override {}
   void contextMenuEvent(QContextMenuEvent* evenement) override;
-  bool focusNextPrevChild(bool avant) override { return Tabulation(avant); }
+  // The Tab key is the board's; when the toolkit itself looks for another place for the focus, it stays.
+  bool focusNextPrevChild(bool) override { return false; }
 
  private:
   bool compose_ = false;

@@ -132,6 +132,7 @@ void FenetreQt::Synchronise() {
     titre_ = fenetre_.Caption;
     setWindowTitle(VersQt(titre_));
   }
+  if (plateau_ != nullptr) plateau_->Relit();
   if (voulue_ != QSize(fenetre_.Width, fenetre_.Height)) Dispose();
   for (const auto& element : elements_) element->Synchronise();
   for (const Article& a : articles_) {

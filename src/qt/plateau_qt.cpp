@@ -37,7 +37,6 @@ PlateauQt::PlateauQt(Fenetre& fenetre, Pilote& pilote, QWidget* parent)
 void PlateauQt::BrancheEditeur() {
   editeur_->Saisi = [this](const QString& texte) { saisies_.Tape(focus_, DepuisQt(texte)); };
   editeur_->Touche = [this](QKeyEvent& evenement) { return Touche(evenement); };
-  editeur_->Tabulation = [this](bool avant) { return Tabulation(avant); };
   editeur_->Clic = [this] { Focalise(focus_); };
   editeur_->Menu = [this] { OuvrePalette(); };
 }
@@ -45,24 +44,24 @@ void PlateauQt::BrancheEditeur() {
 // ---- what the records hold
 
 void PlateauQt::Synchronise() {
-  SuitConstructions();
+  Relit();
   SuitFocus();
   SuitChangements();
   SuitEditeur();
 }
 
-void PlateauQt::SuitConstructions() {
+void PlateauQt::Relit() {
   const Plateau& plateau = fenetre_.plateau;
   if (constructions_ == plateau.Constructions()) return;
   constructions_ = plateau.Constructions();
   geometrie_.Relit();
   OublieLecture(this);
   focus_ = 0;
+  if (plateau.Focus() == 0) setFocus();
   editeur_->hide();
   horizontalScrollBar()->setValue(0);
   verticalScrollBar()->setValue(0);
   viewport()->update();
-  if (plateau.Focus() == 0) setFocus();
 }
 
 void PlateauQt::SuitFocus() {
@@ -71,8 +70,8 @@ void PlateauQt::SuitFocus() {
   if (focus_ != 0) Repeint(focus_);
   focus_ = voulu;
   if (voulu == 0) {
-    editeur_->hide();
     setFocus();
+    editeur_->hide();
     return;
   }
   Repeint(voulu);
@@ -94,7 +93,6 @@ void PlateauQt::SuitEditeur() {
   const QColor encre = CouleurQt(boite.ForeColor);
   if (editeur_->palette().color(QPalette::Text) != encre) {
     QPalette palette = editeur_->palette();
-    palette.setColor(QPalette::Base, Qt::transparent);
     palette.setColor(QPalette::Text, encre);
     editeur_->setPalette(palette);
   }
@@ -131,7 +129,8 @@ void PlateauQt::Focalise(int i) {
   editeur_->setFocus();
 }
 
-bool PlateauQt::Tabulation(bool avant) {
+// To the next box that is a stop, in a circle, or the one before.
+void PlateauQt::Tabulation(bool avant) {
   const Plateau& plateau = fenetre_.plateau;
   const int n = plateau.Cases();
   int i = plateau.Focus();
@@ -141,11 +140,9 @@ bool PlateauQt::Tabulation(bool avant) {
     if (i > n) i = 1;
     if (i < 1) i = n;
     if (plateau.TxtCase(i).TabStop) {
-      Focalise(i);
-      break;
+      return Focalise(i);
     }
   }
-  return true;
 }
 
 void PlateauQt::AnnonceFocus() {
@@ -159,6 +156,10 @@ void PlateauQt::AnnonceFocus() {
 
 bool PlateauQt::Touche(QKeyEvent& evenement) {
   if (ToucheDeConfort(evenement)) return true;
+  if (evenement.key() == Qt::Key_Tab || evenement.key() == Qt::Key_Backtab) {
+    Tabulation(evenement.key() == Qt::Key_Tab);
+    return true;
+  }
   const int code = CodeTouche(evenement);
   const int avant = fenetre_.plateau.Focus();
   if (code != 0 && fenetre_.KeyDown) pilote_.Execute([&] { fenetre_.KeyDown(code); });
@@ -186,8 +187,12 @@ bool PlateauQt::ToucheDeConfort(const QKeyEvent& evenement) {
   }
 }
 
+bool PlateauQt::event(QEvent* evenement) {
+  if (evenement->type() == QEvent::KeyPress && Touche(*static_cast<QKeyEvent*>(evenement))) return true;
+  return QAbstractScrollArea::event(evenement);
+}
+
 void PlateauQt::keyPressEvent(QKeyEvent* evenement) {
-  if (Touche(*evenement)) return;
   if (evenement->key() == Qt::Key_PageUp || evenement->key() == Qt::Key_PageDown) {
     QAbstractScrollArea::keyPressEvent(evenement);
   } else {

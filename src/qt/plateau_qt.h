@@ -20,12 +20,12 @@ class PlateauQt : public QAbstractScrollArea {
 
   // Shows what the records hold: costs the boxes that were written.
   void Synchronise();
+  // Forgets the boxes that were taken away. Before the size follows those that were made.
+  void Relit();
   // The board at `zoom` times the size of the tables, in all `contenu` pixels large; `haut` twips of the
   // window above it belong to others.
   void Dimensionne(double zoom, Twips haut, QSize contenu);
 
-  // A Tab, or a Shift+Tab: to the next box that is a stop, in a circle. Always used up.
-  bool Tabulation(bool avant);
   // The text is typed as a grid; a beep says that it is none.
   void DeposeTexte(const QString& texte);
 
@@ -45,7 +45,8 @@ class PlateauQt : public QAbstractScrollArea {
   void contextMenuEvent(QContextMenuEvent* evenement) override;
   void keyPressEvent(QKeyEvent* evenement) override;
   void wheelEvent(QWheelEvent* evenement) override;
-  bool focusNextPrevChild(bool avant) override { return Tabulation(avant); }
+  bool event(QEvent* evenement) override;
+  bool focusNextPrevChild(bool) override { return false; }
 
  private:
   bool Touche(QKeyEvent& evenement);
@@ -54,11 +55,11 @@ class PlateauQt : public QAbstractScrollArea {
   void OuvrePalette();
   void CopieGrille();
 
-  void SuitConstructions();
   void SuitFocus();
   void SuitEditeur();
   void SuitChangements();
   void Focalise(int i);
+  void Tabulation(bool avant);
   void MontreFocus();
   void PlaceEditeur();
   void AnnonceFocus();

@@ -32,7 +32,10 @@ class SansAttente {
 }  // namespace
 
 SystemeQt::SystemeQt() = default;
-SystemeQt::~SystemeQt() = default;
+
+SystemeQt::~SystemeQt() {
+  while (!fenetres_.empty()) fenetres_.pop_back();  // the first owns the others
+}
 
 // ---- handlers
 
