@@ -12,40 +12,35 @@
 namespace sudoku::lot {
 namespace {
 
-constexpr std::string_view kAide =
-    "sudoku-lot : résout et explique des grilles en grand nombre\n"
-    "\n"
-    "  sudoku-lot resoudre  [--symboles S] [--deduction] [--processus J] [FICHIER…]\n"
-    "  sudoku-lot expliquer [--symboles S] [--passes 1|2] [--texte] [FICHIER…]\n"
-    "  sudoku-lot verifier  [--symboles S] [--processus J] [FICHIER…]\n"
-    "  sudoku-lot importer  [--symboles S] [FICHIER] > PARTIE.sud\n"
-    "  sudoku-lot exporter  PARTIE.sud\n"
-    "\n"
-    "Une grille par ligne : un caractère par case (« . », « 0 » ou une espace pour une case vide), ou deux, "
-    "la\n"
-    "valeur et l'état. Sans FICHIER, ou pour « - », l'entrée standard est lue. Ce qui suit une tabulation "
-    "est\n"
-    "ignoré, comme les lignes vides et celles qui commencent par « # ».\n"
-    "\n"
-    "resoudre   la grille, le résultat, les suppositions, celles réfutées, les retours arrière, le message\n"
-    "expliquer  tout ce qui est déduit de chaque case et pourquoi, en JSON\n"
-    "verifier   compte les solutions à sa manière et, s'il n'y en a qu'une, lui confronte tout ce qui est "
-    "déduit :\n"
-    "           la grille, les solutions (2 : plusieurs), les évaluations, les retraits vérifiés, les "
-    "contradictions\n"
-    "importer   fait un fichier de jeu d'une grille écrite de toute manière usuelle, cadres compris\n"
-    "exporter   écrit la grille d'un fichier de jeu et ses parties, chacune avec son nom, comme lignes à "
-    "lire ici\n"
-    "\n"
-    "  --symboles S   les symboles de la grille, un par valeur (123456789)\n"
-    "  --deduction    ne rien supposer\n"
-    "  --processus J  travailler sur J grilles à la fois ; 0 : une par processeur (1)\n"
-    "  --passes P     1 : sans compter les saisies non prouvées ; 2 : en les comptant au besoin (2)\n"
-    "  --texte        expliquer en texte au lieu de JSON\n"
-    "  --aide         cette aide\n"
-    "\n"
-    "Statut : 0 tout a été lu, 1 une ligne ou un fichier n'a pas pu l'être, 2 l'appel est incorrect,\n"
-    "3 verifier a trouvé une contradiction.\n";
+constexpr std::string_view kAide = R"(sudoku-lot : résout, explique et vérifie des grilles en grand nombre
+
+  sudoku-lot resoudre  [--symboles S] [--deduction] [--processus J] [FICHIER…]
+  sudoku-lot expliquer [--symboles S] [--passes 1|2] [--texte] [FICHIER…]
+  sudoku-lot verifier  [--symboles S] [--processus J] [FICHIER…]
+  sudoku-lot importer  [--symboles S] [FICHIER] > PARTIE.sud
+  sudoku-lot exporter  PARTIE.sud
+
+Une grille par ligne : un caractère par case (« . », « 0 » ou une espace pour une case vide), ou deux, la
+valeur et l'état. Sans FICHIER, ou pour « - », l'entrée standard est lue. Ce qui suit une tabulation est
+ignoré, comme les lignes vides et celles qui commencent par « # ».
+
+resoudre   la grille, le résultat, les suppositions, celles réfutées, les retours arrière, le message
+expliquer  tout ce qui est déduit de chaque case et pourquoi, en JSON
+verifier   compte les solutions à sa manière et, s'il n'y en a qu'une, lui confronte tout ce qui est déduit :
+           la grille, les solutions (2 : plusieurs), les évaluations, les retraits vérifiés, les contradictions
+importer   fait un fichier de jeu d'une grille écrite de toute manière usuelle, cadres compris
+exporter   écrit la grille d'un fichier de jeu et ses parties, chacune avec son nom, comme lignes à lire ici
+
+  --symboles S   les symboles de la grille, un par valeur (123456789)
+  --deduction    ne rien supposer
+  --processus J  travailler sur J grilles à la fois ; 0 : une par processeur (1)
+  --passes P     1 : sans compter les saisies non prouvées ; 2 : en les comptant au besoin (2)
+  --texte        expliquer en texte au lieu de JSON
+  --aide         cette aide
+
+Statut : 0 tout a été lu, 1 une ligne ou un fichier n'a pas pu l'être, 2 l'appel est incorrect,
+3 verifier a trouvé une contradiction.
+)";
 
 // Why the call is wrong, in French.
 struct AppelIncorrect {
@@ -80,6 +75,20 @@ std::string Raison(const CLI::ParseError& erreur) {
   return "options incorrectes";
 }
 
+void Analyse(CLI::App& app, std::vector<std::string> mots) {
+  mots.erase(mots.begin());                // the command
+  std::reverse(mots.begin(), mots.end());  // the order that the library takes words in
+  try {
+    app.parse(std::move(mots));
+  } catch (const CLI::ParseError& erreur) {
+    throw AppelIncorrect{Raison(erreur)};
+  }
+}
+
+int Processus(int demandes) {
+  return demandes > 0 ? demandes : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+}
+
 // What isn't an option is a file, and behind "--" everything. The library would take "[a]" for a list of
 // files.
 std::vector<std::string> Fichiers(const std::vector<std::string>& restes) {
@@ -98,54 +107,56 @@ std::vector<std::string> Fichiers(const std::vector<std::string>& restes) {
   return fichiers;
 }
 
-void ExigeCommande(const std::string& mot) {
-  for (const char* const connue : {"resoudre", "expliquer", "verifier", "importer", "exporter"}) {
-    if (mot == connue) return;
-  }
-  throw AppelIncorrect{"commande inconnue : " + mot};
-}
+struct Commande {
+  std::string_view nom;
+  std::string_view options;
+  bool fichierDeJeu = false;  // a whole file, one at a time
+};
+constexpr Commande kCommandes[] = {{"resoudre", "--symboles --processus --deduction"},
+                                   {"expliquer", "--symboles --passes --texte"},
+                                   {"verifier", "--symboles --processus"},
+                                   {"importer", "--symboles", true},
+                                   {"exporter", "", true}};
 
-// Game files are whole files, one at a time.
-void ExigeUnFichier(const Appel& appel) {
-  if (appel.fichiers.size() > 1) throw AppelIncorrect{"un seul fichier à la fois"};
+const Commande& Connue(const std::string& mot) {
+  const auto commande = std::ranges::find(kCommandes, mot, &Commande::nom);
+  if (commande == std::end(kCommandes)) throw AppelIncorrect{"commande inconnue : " + mot};
+  return *commande;
 }
 
 Appel Lis(std::vector<std::string> mots) {
-  ExigeCommande(mots.front());
   constexpr int kProcessusMax = 1024;
+  const Commande& commande = Connue(mots.front());
   Appel appel;
+  appel.commande = commande.nom;
+  // Values as words: what is wrong with them is to be said in French.
   std::string symboles;
   std::string processus;
   std::string passes;
   CLI::App app;
   app.set_help_flag();
-  const auto option = [&app](const char* nom, std::string& valeur) {
-    return app.add_option(nom, valeur)->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-  };
-  appel.commande = mots.front();
-  const std::string_view commande = appel.commande;
-  const CLI::Option* const donnes = commande != "exporter" ? option("--symboles", symboles) : nullptr;
-  if (commande == "resoudre" || commande == "verifier") option("--processus", processus);
-  if (commande == "resoudre") app.add_flag("--deduction", appel.deduction);
-  if (commande == "expliquer") {
-    option("--passes", passes);
-    app.add_flag("--texte", appel.texte);
-  }
   app.allow_extras();
-  try {
-    mots.erase(mots.begin());
-    std::reverse(mots.begin(), mots.end());  // the order that the library takes words in
-    app.parse(std::move(mots));
-  } catch (const CLI::ParseError& erreur) {
-    throw AppelIncorrect{Raison(erreur)};
-  }
+  const auto permise = [&](std::string_view nom) {
+    return commande.options.find(nom) != std::string_view::npos;
+  };
+  const auto valeur = [&](const char* nom, std::string& mot) {
+    if (permise(nom)) app.add_option(nom, mot)->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+  };
+  const auto drapeau = [&](const char* nom, bool& mis) {
+    if (permise(nom)) app.add_flag(nom, mis);
+  };
+  valeur("--symboles", symboles);
+  valeur("--processus", processus);
+  valeur("--passes", passes);
+  drapeau("--deduction", appel.deduction);
+  drapeau("--texte", appel.texte);
+  Analyse(app, std::move(mots));
+  const auto donnee = [&](const char* nom) { return permise(nom) && app.count(nom) > 0; };
+  if (donnee("--symboles")) appel.symboles = Symboles(symboles);
+  if (donnee("--processus")) appel.processus = Processus(Entier(processus, "--processus", 0, kProcessusMax));
+  if (donnee("--passes")) appel.passes = Entier(passes, "--passes", 1, 2);
   appel.fichiers = Fichiers(app.remaining());
-  if (commande == "importer" || commande == "exporter") ExigeUnFichier(appel);
-  if (donnes != nullptr && donnes->count() > 0) appel.symboles = Symboles(symboles);
-  if (!passes.empty()) appel.passes = Entier(passes, "--passes", 1, 2);
-  if (!processus.empty()) appel.processus = Entier(processus, "--processus", 0, kProcessusMax);
-  if (appel.processus == 0)
-    appel.processus = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  if (commande.fichierDeJeu && appel.fichiers.size() > 1) throw AppelIncorrect{"un seul fichier à la fois"};
   return appel;
 }
 

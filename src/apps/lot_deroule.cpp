@@ -21,8 +21,7 @@ class Deroulement {
     Poste poste;
     Parcours([&]() -> Poste& { return poste; },
              [&] {
-               poste.reponse.Vide();
-               ouvrier.Traite(poste.champ, poste.reponse);
+               poste.Occupe(ouvrier);
                Livre(poste);
              });
   }
@@ -45,6 +44,7 @@ class Deroulement {
       while (const auto ligne = erreur ? std::nullopt : lignes.Suivante()) {
         lecteurAttend_ = false;
         Poste& poste = prochain();
+        poste.faute.clear();
         poste.champ = ligne->champ;
         poste.fichier = &fichier;
         poste.numero = ligne->numero;
@@ -52,12 +52,18 @@ class Deroulement {
         confie();
       }
       if (!erreur) erreur = lignes.Erreur();
-      if (erreur) Signale(fichier + ": " + *erreur, kIllisible);
+      if (!erreur) continue;
+      prochain().faute = fichier + ": " + *erreur;
+      confie();
     }
   }
 
   // Called for one line at a time, in their order.
   void Livre(const Poste& poste) {
+    if (!poste.faute.empty()) {
+      Signale(poste.faute, kIllisible);
+      return;
+    }
     progres_.Avance(poste.lus);
     const auto signale = [&](const std::string& texte, int statut) {
       Signale(*poste.fichier + ":" + std::to_string(poste.numero) + ": " + texte, statut);

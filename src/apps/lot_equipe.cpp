@@ -65,8 +65,7 @@ void Equipe::Travaille(Ouvrier& ouvrier) {
     verrou.unlock();
     for (std::size_t i = premier; i < dernier; ++i) {
       Poste& poste = Place(i);
-      poste.reponse.Vide();
-      ouvrier.Traite(poste.champ, poste.reponse);
+      poste.Occupe(ouvrier);
       poste.fini = true;
       Livre();
     }

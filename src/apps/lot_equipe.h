@@ -37,14 +37,20 @@ class Ouvrier {
 
 using Atelier = std::function<std::unique_ptr<Ouvrier>()>;
 
-// One line on its way through the team.
+// One line on its way to its answer; or, with `faute`, what is wrong with a file as a whole, to be said in its turn.
 struct Poste {
   std::string champ;
+  std::string faute;
   const std::string* fichier = nullptr;
   std::int64_t numero = 0;  // of the line in the file
   std::int64_t lus = 0;     // bytes read up to its end, of all files
   Reponse reponse;
   std::atomic<bool> fini{false};
+
+  void Occupe(Ouvrier& ouvrier) {
+    reponse.Vide();
+    if (faute.empty()) ouvrier.Traite(champ, reponse);
+  }
 };
 
 // Workers with a thread each. Lines go in and come out in one order, through a ring of fixed size: whoever

@@ -28,8 +28,7 @@ ssize_t Lis(int fd, char* tampon, std::size_t taille) {
   }
 }
 
-// A descriptor to read from; otherwise the reason why there is none, and less than 0 for it unless it is to
-// be closed.
+// Gives a descriptor to read from, or a reason why nothing can be read; it is to be closed where it is above 0.
 std::optional<std::string> OuvreFichier(const std::string& chemin, int& fd) {
   fd = chemin == "-" ? STDIN_FILENO : open(chemin.c_str(), O_RDONLY | O_CLOEXEC);
   if (fd < 0) return RaisonSysteme(errno);

@@ -50,8 +50,8 @@ void Verifier::Traite(std::string_view champ, Reponse& reponse) {
   std::int64_t retraits = 0;
   std::int64_t contradictions = 0;
   if (solutions == 1) {
-    Temoin temoin(compteur_.Solution(), SaisiesJustes());
     const bool justes = SaisiesJustes();
+    Temoin temoin(compteur_.Solution(), justes);
     evaluations = Rejoue(temoin);
     lecteur_.Lis(champ);
     const bool resolue = !justes || ResoutJuste();

@@ -34,6 +34,7 @@ essai 2 'attend une valeur' resoudre --symboles
 essai 2 'attend une valeur' expliquer --passes
 essai 2 'pas un nombre de 1 à 2' expliquer --passes 3
 essai 2 'pas un nombre de 1 à 2' expliquer --passes 1x
+essai 2 'pas un nombre de 1 à 2' expliquer --passes ''
 essai 2 'pas un nombre de 0 à' resoudre --processus -1
 essai 2 'pas un nombre de 0 à' resoudre --processus 99999999999
 essai 2 'options incorrectes' resoudre --deduction=peut-être

@@ -26,11 +26,12 @@ for i in {1..400}; do
   case $((i % 7)) in 0) echo "$i" ;; 1) echo '1234341221434321' ;; *) echo "................	$i" ;; esac
 done > "$dossier/lignes"
 for processus in 1 2 5; do
-  "$lot" resoudre --symboles 1234 --processus $processus "$dossier/lignes" > "$dossier/$processus" 2> "$dossier/$processus.err"
+  "$lot" resoudre --symboles 1234 --processus $processus "$dossier/lignes" "$dossier/rien" \
+    "$dossier/lignes" > "$dossier/$processus" 2> "$dossier/$processus.err"
   [ $? = 1 ] || dit "--processus $processus: status"
   cmp "$dossier/1" "$dossier/$processus" && cmp "$dossier/1.err" "$dossier/$processus.err" || echec=1
 done
-[ "$(wc -l < "$dossier/1") $(wc -l < "$dossier/1.err")" = "343 57" ] || dit "400 lines don't come out as 343 and 57"
+[ "$(wc -l < "$dossier/1") $(wc -l < "$dossier/1.err")" = "686 115" ] || dit "800 lines, 114 of them bad, and a file that isn't there"
 
 # Lines far longer than any grid.
 longue() { head -c 40000000 /dev/zero | tr '\0' "$1"; }
