@@ -23,11 +23,12 @@ Texte SymbolesPour(int N);
 // Loads the board into a grid of its side.
 void Charge(const Alea& alea, const Grille& grille);
 
-// The board Evaluation/N/50dixieme: half the cells filled, a tenth of these by the player, such that both passes of
-// an evaluation run to their end, series and figures in each. An evaluation ends where a cell can be filled. So
-// the first of 50 seeds is taken after whose evaluation no empty cell has a solution, proved or supposed, and the
-// player's entries are still unproved. Cells emptied at random leave some single on all but the largest grids
-// (from N = 121 on they don't): there whole symbols are emptied, which can then change places in many ways.
+// The board Evaluation/N/50dixieme: half the cells filled, a tenth of these by the player, such that both
+// passes of an evaluation run to their end, series and figures in each. An evaluation ends where a cell can
+// be filled. So the first of 50 seeds is taken after whose evaluation no empty cell has a solution, proved or
+// supposed, and the player's entries are still unproved. Cells emptied at random leave some single on all but
+// the largest grids (from N = 121 on they don't): there whole symbols are emptied, which can then change
+// places in many ways.
 Alea PlateauDeuxPasses(int N);
 
 }  // namespace sudoku::bench

@@ -37,7 +37,8 @@ class Ouvrier {
 
 using Atelier = std::function<std::unique_ptr<Ouvrier>()>;
 
-// One line on its way to its answer; or, with `faute`, what is wrong with a file as a whole, to be said in its turn.
+// One line on its way to its answer; or, with `faute`, what is wrong with a file as a whole, to be said in
+// its turn.
 struct Poste {
   std::string champ;
   std::string faute;

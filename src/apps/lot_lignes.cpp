@@ -28,7 +28,8 @@ ssize_t Lis(int fd, char* tampon, std::size_t taille) {
   }
 }
 
-// Gives a descriptor to read from, or a reason why nothing can be read; it is to be closed where it is above 0.
+// Gives a descriptor to read from, or a reason why nothing can be read; it is to be closed where it is above
+// 0.
 std::optional<std::string> OuvreFichier(const std::string& chemin, int& fd) {
   fd = chemin == "-" ? STDIN_FILENO : open(chemin.c_str(), O_RDONLY | O_CLOEXEC);
   if (fd < 0) return RaisonSysteme(errno);
