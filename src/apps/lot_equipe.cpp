@@ -38,9 +38,9 @@ Poste& Equipe::Prochain() {
   if (confies_ - livres_ >= postes_.size()) {
     // Half the ring is let go empty, so that nobody has to be woken for every line.
     std::unique_lock verrou(mutex_);
-    lecteurAttend_ = true;
-    place_.wait(verrou, [this] { return confies_ - livres_ <= postes_.size() / 2; });
-    lecteurAttend_ = false;
+    reveil_ = confies_ - postes_.size() / 2;
+    place_.wait(verrou, [this] { return livres_ >= reveil_; });
+    reveil_ = kJamais;
   }
   return Place(confies_);
 }
@@ -85,7 +85,7 @@ void Equipe::Livre() {
       poste.fini = false;
       ++livres_;
     }
-    if (!lecteurAttend_) continue;
+    if (livres_ < reveil_) continue;
     { const std::lock_guard verrou(mutex_); }  // it has made its test by now, or sleeps
     place_.notify_one();
   }

@@ -72,6 +72,7 @@ class Equipe {
  private:
   void Travaille(Ouvrier& ouvrier);
   void Livre();
+  static constexpr std::size_t kJamais = static_cast<std::size_t>(-1);
   Poste& Place(std::size_t numero) { return postes_[numero % postes_.size()]; }
 
   std::function<void(const Poste&)> livre_;
@@ -82,7 +83,7 @@ class Equipe {
   std::size_t confies_ = 0;  // numbers of lines: handed over, taken by a worker, delivered
   std::size_t pris_ = 0;
   std::atomic<std::size_t> livres_{0};
-  std::atomic<bool> lecteurAttend_{false};
+  std::atomic<std::size_t> reveil_{kJamais};  // the reader sleeps until so many are delivered
   bool fin_ = false;
   std::mutex livraison_;
   std::vector<std::unique_ptr<Ouvrier>> ouvriers_;
