@@ -79,6 +79,7 @@ void PrepareApplication(QApplication& application) {
   QApplication::setPalette(QApplication::style()->standardPalette());
   QApplication::setFont(PoliceQt({}));
   QApplication::setQuitOnLastWindowClosed(false);
+  QGuiApplication::setDesktopFileName(QStringLiteral("solver-de-sudoku"));
   InstalleLecture();
 }
 

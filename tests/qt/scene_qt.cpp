@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 #include <cstdlib>
 #include <ostream>
 #include <utility>
@@ -55,6 +56,9 @@ void SceneQt::Planifie() {
 }
 
 void SceneQt::Pas() {
+  // A box that the window manager hasn't put on the screen yet has no size to click on.
+  const QWidget* modale = QApplication::activeModalWidget();
+  if (modale != nullptr && !modale->windowHandle()->isExposed()) return Planifie();
   const Boite* boite = papier_.Dessus();
   const bool suite = avance_();
   if (!suite) {
