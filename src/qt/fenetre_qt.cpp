@@ -41,6 +41,7 @@ FenetreQt::FenetreQt(Fenetre& fenetre, Pilote& pilote, QWidget* proprietaire, Ma
   setFont(PoliceQt({}));
   if (fenetre_.avecPlateau) {
     plateau_ = new PlateauQt(fenetre_, pilote_, fond_);
+    plateau_->ToucheDeFenetre = [this](const QKeyEvent& evenement) { return ToucheDeZoom(evenement); };
     setAcceptDrops(true);
   }
   FabriqueElements();
@@ -335,7 +336,7 @@ bool FenetreQt::ToucheDeBouton(const QKeyEvent& evenement) {
 }
 
 void FenetreQt::keyPressEvent(QKeyEvent* evenement) {
-  if (ToucheDeZoom(*evenement) || ToucheDeBouton(*evenement)) return;
+  if (ToucheDeBouton(*evenement)) return;
   const int code = CodeTouche(*evenement);
   if (plateau_ == nullptr && code != 0 && fenetre_.KeyDown) pilote_.Execute([&] { fenetre_.KeyDown(code); });
 }

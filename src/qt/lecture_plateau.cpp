@@ -67,7 +67,9 @@ class PlateauLu : public QAccessibleWidget {
  public:
   explicit PlateauLu(PlateauQt* plateau)
       : QAccessibleWidget(plateau, QAccessible::Table), plateau_(plateau) {}
-  ~PlateauLu() override { Oublie(); }
+  ~PlateauLu() override {
+    for (const auto& [n, numero] : cases_) QAccessible::deleteAccessibleInterface(numero);
+  }
 
   int childCount() const override { return plateau_->LePlateau().Cases(); }
   QAccessibleInterface* child(int n) const override {
@@ -88,11 +90,6 @@ class PlateauLu : public QAccessibleWidget {
     return child(i - 1);
   }
   QAccessibleInterface* focusChild() const override { return child(plateau_->LePlateau().Focus() - 1); }
-
-  void Oublie() {
-    for (const auto& [n, numero] : cases_) QAccessible::deleteAccessibleInterface(numero);
-    cases_.clear();
-  }
 
  private:
   PlateauQt* plateau_;
@@ -122,11 +119,6 @@ QAccessibleInterface* Fabrique(const QString&, QObject* objet) {
 
 void InstalleLecture() {
   QAccessible::installFactory(Fabrique);
-}
-
-void OublieLecture(PlateauQt* plateau) {
-  if (!QAccessible::isActive()) return;
-  if (auto* lu = dynamic_cast<PlateauLu*>(QAccessible::queryAccessibleInterface(plateau))) lu->Oublie();
 }
 
 }  // namespace sudoku

@@ -2,13 +2,8 @@
 
 namespace sudoku {
 
-class PlateauQt;
-
 // Boards for screen readers: a board has a child for each box, which says in words where it is, what it holds
 // and what is known of it. Children are made only when a reader asks for them.
 void InstalleLecture();
-
-// The boxes were taken away: their children go.
-void OublieLecture(PlateauQt* plateau);
 
 }  // namespace sudoku

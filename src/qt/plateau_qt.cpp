@@ -9,7 +9,6 @@
 #include <QStyle>
 
 #include "qt/editeur_case.h"
-#include "qt/lecture_plateau.h"
 #include "qt/mesure.h"
 #include "qt/palette_symboles.h"
 #include "qt/texte_qt.h"
@@ -55,7 +54,6 @@ void PlateauQt::Relit() {
   if (constructions_ == plateau.Constructions()) return;
   constructions_ = plateau.Constructions();
   geometrie_.Relit();
-  OublieLecture(this);
   focus_ = 0;
   if (plateau.Focus() == 0) setFocus();
   editeur_->hide();
@@ -146,6 +144,7 @@ void PlateauQt::Tabulation(bool avant) {
 }
 
 void PlateauQt::AnnonceFocus() {
+  // Without a reader nothing is made to be announced.
   if (!QAccessible::isActive() || focus_ == 0) return;
   QAccessibleEvent annonce(this, QAccessible::Focus);
   annonce.setChild(focus_ - 1);
@@ -155,7 +154,7 @@ void PlateauQt::AnnonceFocus() {
 // ---- keys and mouse
 
 bool PlateauQt::Touche(QKeyEvent& evenement) {
-  if (ToucheDeConfort(evenement)) return true;
+  if (ToucheDeFenetre(evenement) || ToucheDeConfort(evenement)) return true;
   if (evenement.key() == Qt::Key_Tab || evenement.key() == Qt::Key_Backtab) {
     Tabulation(evenement.key() == Qt::Key_Tab);
     return true;

@@ -2,6 +2,7 @@
 
 #include <QAbstractScrollArea>
 #include <QFont>
+#include <functional>
 
 #include "platform/fenetre.h"
 #include "qt/geometrie_plateau.h"
@@ -20,6 +21,9 @@ class PlateauQt : public QAbstractScrollArea {
 
   // Shows what the records hold: costs the boxes that were written.
   void Synchronise();
+  // The window's own keys, before the board and its editor get them. True: used up.
+  std::function<bool(const QKeyEvent& evenement)> ToucheDeFenetre;
+
   // Forgets the boxes that were taken away. Before the size follows those that were made.
   void Relit();
   // The board at `zoom` times the size of the tables, in all `contenu` pixels large; `haut` twips of the

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QTest>
@@ -95,6 +96,11 @@ void JoueurQt::Tape(const QString& texte) {
   QTest::keyClicks(Cible(), texte);
 }
 
+void JoueurQt::Colle(const QString& texte) {
+  QApplication::clipboard()->setText(texte);
+  Touche(Qt::Key_V, Qt::ControlModifier);
+}
+
 void JoueurQt::Menu(Qt::Key menu, Qt::Key article) {
   Touche(menu, Qt::AltModifier);
   Attends([] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()) != nullptr; }, "a menu opens");
@@ -108,7 +114,7 @@ void JoueurQt::CliqueCase(int i) {
 void JoueurQt::NouvelleGrille(const QString& symboles) {
   Quand("saisie", [&](QWidget&) {
     Touche(Qt::Key_A, Qt::ControlModifier);
-    Tape(symboles);
+    Colle(symboles);
     Touche(Qt::Key_Return);
   });
   Menu(Qt::Key_J, Qt::Key_G);

@@ -31,6 +31,7 @@ class JoueurQt {
   // Keys go to whatever has the focus, one by one.
   void Touche(Qt::Key touche, Qt::KeyboardModifiers modificateurs = {});
   void Tape(const QString& texte);
+  void Colle(const QString& texte);
   // A menu by its access key, then the item by its own.
   void Menu(Qt::Key menu, Qt::Key article);
   void CliqueCase(int i);

@@ -1,0 +1,314 @@
+// The board: one edit field over the focused box, what makes typing easier, sizes, and what a screen reader
+// is told.
+
+#include <gtest/gtest.h>
+
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QFile>
+#include <QInputMethodEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTest>
+#include <QToolButton>
+
+#include "qt/editeur_case.h"
+#include "qt/etiquette.h"
+#include "qt/joueur_qt.h"
+#include "qt/mesure.h"
+#include "qt/texte_qt.h"
+
+namespace sudoku {
+namespace {
+
+class UnPlateau : public testing::Test {
+ protected:
+  void Ouvre(const QString& symboles = QStringLiteral("1234")) {
+    j.Demarre();
+    j.NouvelleGrille(symboles);
+    const auto change = j.LePlateau().Change;
+    j.LePlateau().Change = [this, change](int i) {
+      if (j.Jeu().Jeu().VgEtat != kAffichage) changements.push_back({i, j.LePlateau().TxtCase(i).Text});
+      change(i);
+    };
+  }
+  EditeurCase& Editeur() { return j.Ecran().Editeur(); }
+  void Compose(const char32_t* enCours, const char32_t* valide) {
+    QInputMethodEvent evenement(VersQt(enCours), {});
+    evenement.setCommitString(VersQt(valide));
+    QApplication::sendEvent(&Editeur(), &evenement);
+  }
+
+  JoueurQt j;
+  std::vector<std::pair<int, Texte>> changements;  // events of the user's typing
+};
+using Liste = std::vector<std::pair<int, Texte>>;
+
+TEST_F(UnPlateau, ChaqueFrappeEtChaqueCollageFaitUnChangement) {
+  Ouvre(QStringLiteral("123456789"));
+  j.CliqueCase(1);
+  j.Tape(QStringLiteral("5"));
+  EXPECT_EQ(Editeur().selectedText(), QStringLiteral("5")) << "the first character is selected again";
+  j.Touche(Qt::Key_Delete);
+  j.CliqueCase(2);
+  j.Colle(QStringLiteral("1\r\n\t2"));
+  EXPECT_EQ(changements, (Liste{{1, U"5"}, {1, U""}, {2, U"12"}}));
+  EXPECT_EQ(j.LePlateau().TxtCase(2).Text, U"12");
+}
+
+TEST_F(UnPlateau, UneCompositionNeRapporteQueSonTexteFinal) {
+  Ouvre(QStringLiteral("aeêi"));
+  j.CliqueCase(3);
+  Compose(U"^", U"");
+  EXPECT_TRUE(changements.empty());
+  Compose(U"", U"ê");
+  EXPECT_EQ(changements, (Liste{{3, U"ê"}}));
+  Compose(U"^", U"");
+  Compose(U"", U"");
+  EXPECT_EQ(Editeur().text(), QStringLiteral("ê")) << "a composition given up leaves what was there";
+  EXPECT_EQ(changements.size(), 1U);
+}
+
+TEST_F(UnPlateau, LaSelectionCompteDesCaracteres) {
+  Ouvre(QStringLiteral("12\U0001D7D93"));
+  j.CliqueCase(1);
+  j.Colle(QStringLiteral("\U0001D7D9"));
+  EXPECT_EQ(j.LePlateau().TxtCase(1).Text, U"\U0001D7D9");
+  EXPECT_EQ(Editeur().selectedText(), QStringLiteral("\U0001D7D9"));
+  EXPECT_EQ(changements.size(), 1U);
+}
+
+TEST_F(UnPlateau, TabulationFlechesEtCasesVerrouillees) {
+  Ouvre();
+  EXPECT_FALSE(Editeur().isVisible());
+  j.Touche(Qt::Key_Right);
+  EXPECT_EQ(j.LePlateau().Focus(), 0) << "no cell has had the focus";
+  j.Touche(Qt::Key_Backtab);
+  EXPECT_EQ(j.LePlateau().Focus(), 16);
+  j.Touche(Qt::Key_Tab);
+  EXPECT_EQ(j.LePlateau().Focus(), 1) << "in a circle, and nowhere else";
+  j.Tape(QStringLiteral("1"));
+  j.Menu(Qt::Key_J, Qt::Key_D);
+  j.Touche(Qt::Key_Backtab);
+  j.Touche(Qt::Key_Tab);
+  EXPECT_EQ(j.LePlateau().Focus(), 2) << "a given is no stop";
+  j.Touche(Qt::Key_Left);
+  EXPECT_EQ(j.LePlateau().Focus(), 1) << "but the arrows go there";
+  changements.clear();
+  j.Tape(QStringLiteral("2"));
+  j.Colle(QStringLiteral("3"));
+  EXPECT_TRUE(changements.empty());
+  j.Touche(Qt::Key_Percent);
+  EXPECT_EQ(j.LePlateau().Focus(), 1) << "% is no arrow";
+  j.Touche(Qt::Key_Down);
+  EXPECT_EQ(j.LePlateau().Focus(), 5);
+}
+
+TEST_F(UnPlateau, AnnuleEtRetablitCommeOnSaisit) {
+  Ouvre();
+  j.CliqueCase(1);
+  j.Tape(QStringLiteral("1"));
+  j.CliqueCase(6);
+  j.Tape(QStringLiteral("2"));
+  j.Quand("message", [&](QWidget&) { j.Touche(Qt::Key_Return); });
+  j.CliqueCase(2);
+  j.Tape(QStringLiteral("1"));  // refused: it never enters the list
+  changements.clear();
+  j.Touche(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(j.LePlateau().Focus(), 6);
+  j.Touche(Qt::Key_Z, Qt::ControlModifier);
+  j.Touche(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(changements, (Liste{{6, U""}, {1, U""}}));
+  j.Touche(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(j.Grille(), "1...............");
+  j.Menu(Qt::Key_J, Qt::Key_D);
+  changements.clear();
+  j.Touche(Qt::Key_Z, Qt::ControlModifier);
+  j.Touche(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(changements.empty()) << "the start of play empties the list";
+}
+
+TEST_F(UnPlateau, LaPaletteDonneTousLesSymboles) {
+  Ouvre(QStringLiteral("♠♥♦♣"));
+  j.CliqueCase(3);
+  j.Touche(Qt::Key_Space, Qt::ControlModifier);
+  QWidget* palette = QApplication::activePopupWidget();
+  ASSERT_NE(palette, nullptr);
+  QStringList textes;
+  for (const QToolButton* bouton : palette->findChildren<QToolButton*>()) textes << bouton->text();
+  EXPECT_EQ(textes.join(u' '), QStringLiteral("♠ ♥ ♦ ♣ Couper Copier Coller"));
+  QTest::keyClick(palette, Qt::Key_Right);
+  QTest::keyClick(palette, Qt::Key_Down);
+  QTest::keyClick(palette, Qt::Key_Return);
+  EXPECT_EQ(changements, (Liste{{3, U"♣"}}));
+  j.Touche(Qt::Key_Space, Qt::ControlModifier);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+  EXPECT_EQ(changements.size(), 1U);
+}
+
+TEST_F(UnPlateau, UneGrilleColleeEstTapeeCaseParCase) {
+  Ouvre();
+  j.CliqueCase(1);
+  j.Tape(QStringLiteral("2"));
+  QApplication::clipboard()->setText(QStringLiteral("1 . | . 4\n3 . | 1 .\n----+----\n2 . | . 3\n. 3 | . ."));
+  j.Touche(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(j.Grille(), "1..43.1.2..3.3..");
+  QApplication::clipboard()->clear();
+  j.Touche(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("1..43.1.2..3.3.."));
+  changements.clear();
+  QApplication::clipboard()->setText(QStringLiteral("no grid"));
+  j.Touche(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(changements.empty());
+  QApplication::clipboard()->setText(QStringLiteral("11.............."));
+  j.Quand("message", [&](QWidget& boite) {
+    EXPECT_EQ(boite.findChild<QLabel*>()->text(), QStringLiteral("Impossible"));
+    j.Touche(Qt::Key_Return);
+  });
+  j.Touche(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(j.ToutEstVenu());
+  EXPECT_EQ(j.Grille(), "1...............");
+}
+
+TEST_F(UnPlateau, UnFichierDeposeSeChargeApresLaQuestion) {
+  const QString fichier = QString::fromStdString(testing::TempDir()) + QStringLiteral("depose-") +
+                          QGuiApplication::platformName() + QStringLiteral(".sud");
+  QFile sud(fichier);
+  ASSERT_TRUE(sud.open(QIODevice::WriteOnly));
+  sud.write(QByteArray("1\r\n10\r\n", 7).append('\0'));
+  sud.close();
+  Ouvre();
+  QMimeData donnees;
+  donnees.setUrls({QUrl::fromLocalFile(fichier)});
+  QDragEnterEvent entre(QPoint(10, 10), Qt::CopyAction, &donnees, Qt::LeftButton, {});
+  QDropEvent depose(QPointF(10, 10), Qt::CopyAction, &donnees, Qt::LeftButton, {});
+  j.Quand("question", [&](QWidget&) { j.Touche(Qt::Key_O); });
+  QApplication::sendEvent(&j.Fenetre(), &entre);
+  EXPECT_TRUE(entre.isAccepted());
+  QApplication::sendEvent(&j.Fenetre(), &depose);
+  Attends([&] { return j.Grille() == "1"; }, "the grid of the file");
+  EXPECT_TRUE(QFile::remove(fichier));
+}
+
+TEST_F(UnPlateau, ZoomDe25A400EtRetour) {
+  Ouvre(QStringLiteral("123456789"));
+  const QSize normale(274, 332);  // 4115 by 4975 twips
+  EXPECT_EQ(j.Fenetre().size(), normale);
+  EXPECT_EQ(j.Ecran().RectangleCase(1).size(), QSize(25, 25));
+  j.CliqueCase(81);
+  for (const auto& [touche, avec] : {std::pair{Qt::Key_Plus, Qt::KeypadModifier},
+                                     {Qt::Key_Equal, Qt::NoModifier},
+                                     {Qt::Key_Plus, Qt::ShiftModifier}}) {
+    j.Touche(touche, Qt::ControlModifier | avec);
+  }
+  EXPECT_EQ(j.Ecran().RectangleCase(1).width(), 37) << "150 %, of which a line of 2";
+  EXPECT_GT(j.Fenetre().width(), normale.width());
+  for (int n = 0; n < 20; ++n) j.Touche(Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_EQ(j.Ecran().RectangleCase(1).width(), 100) << "400 %, and no more";
+  EXPECT_LE(j.Fenetre().height(), j.Fenetre().screen()->availableSize().height());
+  EXPECT_TRUE(j.Ecran().viewport()->rect().contains(j.Ecran().RectangleCase(81)))
+      << "the focused box is in view";
+  for (int n = 0; n < 40; ++n) j.Touche(Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_LE(j.Ecran().RectangleCase(1).width(), 7) << "25 %";
+  j.Touche(Qt::Key_0, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(j.Fenetre().size(), normale);
+  EXPECT_FALSE(j.Ecran().verticalScrollBar()->isVisible() || j.Ecran().horizontalScrollBar()->isVisible());
+}
+
+TEST_F(UnPlateau, UnPlateauPlusGrandQueLEcranDefile) {
+  QString symboles;
+  for (int n = 0; n < 169; ++n) symboles += QChar(0x4E00 + n);
+  Ouvre(symboles);
+  EXPECT_EQ(j.LePlateau().Cases(), 28561);
+  const QRect ecran = j.Fenetre().screen()->availableGeometry();
+  EXPECT_LE(j.Fenetre().width(), ecran.width());
+  EXPECT_LE(j.Fenetre().height(), ecran.height());
+  j.Touche(Qt::Key_Backtab);
+  EXPECT_EQ(j.LePlateau().Focus(), 28561);
+  EXPECT_TRUE(j.Ecran().viewport()->rect().contains(j.Ecran().RectangleCase(28561)));
+  EXPECT_TRUE(j.Ecran().viewport()->rect().contains(Editeur().geometry()));
+  const auto* titre = static_cast<Etiquette*>(j.Fenetre().findChild<QWidget*>("LblInfos"));
+  EXPECT_EQ(titre->mapTo(&j.Fenetre(), titre->rect().center()).x(), j.Fenetre().rect().center().x());
+  // Back to a board that fits: nothing of the large one is left.
+  j.Quand("question", [&](QWidget&) { j.Touche(Qt::Key_O); });
+  j.NouvelleGrille(QStringLiteral("1234"));
+  Attends([&] { return j.LePlateau().Cases() == 16; }, "the small grid");
+  EXPECT_EQ(j.Fenetre().size(), QSize(144, 202));
+}
+
+// Announcements reach nobody before a reader has switched them on, and only the toolkit's own interface to
+// the desktop can do that.
+class LecteurDEcran {
+ public:
+  LecteurDEcran() {
+    Allume(true);
+    avant_ = QAccessible::installUpdateHandler(Note);
+  }
+  ~LecteurDEcran() {
+    QAccessible::installUpdateHandler(avant_);
+    Allume(false);
+  }
+  LecteurDEcran(const LecteurDEcran&) = delete;
+  LecteurDEcran& operator=(const LecteurDEcran&) = delete;
+
+  // What has been announced since the last question: the names of what got the focus, or of whatever changed.
+  static QStringList Entendu(bool focus) {
+    QStringList noms;
+    for (const auto& [type, nom] : annonces) {
+      if ((type == QAccessible::Focus) == focus) noms << nom;
+    }
+    return noms;
+  }
+  static void Oublie() { annonces.clear(); }
+
+ private:
+  static void Allume(bool oui) {
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(oui);
+  }
+  static void Note(QAccessibleEvent* evenement) {
+    QAccessibleInterface* interface = evenement->accessibleInterface();
+    if (interface != nullptr) annonces.emplace_back(evenement->type(), interface->text(QAccessible::Name));
+  }
+
+  static inline std::vector<std::pair<QAccessible::Event, QString>> annonces;
+  QAccessible::UpdateHandler avant_;
+};
+
+TEST_F(UnPlateau, UnLecteurDEcranEntendChaqueCase) {
+  Ouvre();
+  j.CliqueCase(1);
+  j.Tape(QStringLiteral("3"));
+  const LecteurDEcran lecteur;
+  j.Touche(Qt::Key_Down);
+  j.Touche(Qt::Key_Up);
+  EXPECT_EQ(lecteur.Entendu(true).join(u'\n').toStdString(),
+            "vide, ligne 2, colonne 1, carré 1\n3, donnée, ligne 1, colonne 1, carré 1");
+  // The clock changes every second, and says nothing.
+  j.Menu(Qt::Key_J, Qt::Key_D);
+  lecteur.Oublie();
+  j.LeSysteme().Execute([&] { j.Jeu().Tmr().Timer(); });
+  EXPECT_EQ(lecteur.Entendu(false).join(u'\n').toStdString(), "");
+  const auto* horloge = QAccessible::queryAccessibleInterface(j.Fenetre().findChild<QWidget*>("LblChrono"));
+  EXPECT_EQ(horloge->text(QAccessible::Name), QStringLiteral("00:00:00"));
+
+  const QAccessibleInterface* plateau = QAccessible::queryAccessibleInterface(&j.Ecran());
+  EXPECT_EQ(plateau->childCount(), 16);
+  EXPECT_EQ(plateau->child(15)->text(QAccessible::Name), QStringLiteral("vide, ligne 4, colonne 4, carré 4"));
+  EXPECT_TRUE(plateau->child(0)->state().readOnly);
+  j.Menu(Qt::Key_Question, Qt::Key_A);
+  const auto* reponse = QAccessible::queryAccessibleInterface(j.Assistant().findChild<QLineEdit*>("TxtRep"));
+  EXPECT_EQ(reponse->text(QAccessible::Name), QStringLiteral("Réponse :"));
+}
+
+}  // namespace
+}  // namespace sudoku
