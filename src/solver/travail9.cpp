@@ -40,10 +40,16 @@ void Travail9::Commence(const Grille& grille) {
 
 Grille Travail9::Rend(bool contenus) {
   Grille rendue = grille_;
-  if (detachee_ && !contenus) {
-    Montre();
+  if (detachee_) {
+    if (contenus) {
+      EcritBase();
+    } else {
+      Montre();
+    }
     GrilleCopy(grille_, copie_);
     rendue = copie_;
+    // The cells given out are the game's now; the old ones, unless somebody still sees them, serve the next run.
+    copie_ = grille_;
   }
   if (auGeneral_) {
     rendue = general_.Rend();
@@ -145,13 +151,17 @@ std::int16_t Travail9::Acheve() { return auGeneral_ ? general_.Acheve() : passe_
 void Travail9::Montre() {
   if (montree_) return;
   montree_ = true;
+  EcritBase();
+  moteur_.Evaluation(grille_, 2);
+}
+
+void Travail9::EcritBase() {
   Bloc& bloc = grille_.Donnees();
   for (int i = 1; i <= kCases; ++i) {
     if (bloc.saisie[At(i)] != kVide || casesBase_.valeur[i - 1] == 0) continue;
     bloc.saisie[At(i)] = casesBase_.valeur[i - 1] - 1;
     bloc.etat[At(i)] = kProuvee;
   }
-  moteur_.Evaluation(grille_, 2);
 }
 
 }  // namespace sudoku

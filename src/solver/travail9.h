@@ -30,6 +30,8 @@ class Travail9 : public Travail {
 
  private:
   void Ecrit(Grille& grille) const;
+  // The base's contents go to the player's grid.
+  void EcritBase();
   void PasseAuGeneral();
 
   Evaluateur& moteur_;

@@ -80,13 +80,27 @@ TEST(Comparaison, PartiesConnues) {
   const Plateau deuxFois = Lit(U"123456789",
                                U"...6.....1.26........853.......995......2...."
                                U".................6..1...9..2..6...2.");
+  // A silent run that fails, contents alone: the solved copy stays at the base.
+  const Plateau echec = Lit(U"123456789",
+                               U"838.57....17..9.4..2..8......2....5..98......"
+                               U"...7.6.8.....93..5..16..9......4....");
+  // A text that takes the first of two equal letters: the sets still go by the first one's position.
+  const Plateau lettres = Lit(U"EBdhgfGcCFHbAeaD",
+                               U"..........................................G....f................"
+                               U"...................G........GfG...............GfffGffffGffGGfGff"
+                               U".......................................................f..G....."
+                               U"....G.....................................f.....GGf..GG...Gf...G");
   const Partie parties[] = {
       {{.genre = Genre::kCharge, .plateau = etranger}, {.genre = Genre::kEvalue, .nombre = 2}},
       {{.genre = Genre::kCharge, .plateau = Lit(U"aAbB", U"................")},
        {.genre = Genre::kSaisit, .nombre = 1, .texte = U"Ab"}},
       {{.genre = Genre::kCharge, .plateau = texte}, {.genre = Genre::kJoue, .reset = true, .guess = true}},
       {{.genre = Genre::kCharge, .plateau = deuxFois},
-       {.genre = Genre::kJoue, .reset = true, .silence = true}}};
+       {.genre = Genre::kJoue, .reset = true, .silence = true}},
+      {{.genre = Genre::kCharge, .plateau = echec},
+       {.genre = Genre::kJoue, .guess = true, .silence = true, .contenus = true}},
+      {{.genre = Genre::kCharge, .plateau = lettres},
+       {.genre = Genre::kSaisit, .nombre = 110, .texte = U"EB"}}};
   for (const Partie& partie : parties) EXPECT_EQ(Rejoue(partie, kBoites), "") << Decrit(partie);
 }
 

@@ -41,13 +41,12 @@ TEST(Resolution, NAlloueRienApresLaPremiere) {
   Evaluateur moteur(jeu);
   Muet plateau;
   AutoDriver driver(jeu, moteur, plateau, Lecture::kContenus);
-  const Grille grille = Grille::Nouvelle(jeu, U"123456789");
+  jeu.VmGrille = Grille::Nouvelle(jeu, U"123456789");
   std::size_t derniere = 0;
   for (int tour = 0; tour < 3; ++tour) {
     const std::size_t avant = allocations;
     for (const TexteVue donnees : kGrilles) {
       jeu.VgEtat = kJeu;
-      jeu.VmGrille = grille;
       jeu.VmGrilleEtat = Grille();
       for (int i = 1; i <= 81; ++i) {
         const TexteVue contenu = donnees.substr(static_cast<std::size_t>(i - 1), 1);
