@@ -39,7 +39,6 @@ class FRMSudoku : private PlateauAuto, private PlateauVierge {
   Evaluateur& Moteur() { return moteur_; }
   Assistant& LAssistant() { return *assistant_; }
   Stockage& LeStockage() { return *stockage_; }
-  APropos& LAPropos() { return *aPropos_; }
   // Elements that several parts write.
   Minuterie& Tmr() { return Tmr_; }
   Element& LblChrono() { return LblChrono_; }

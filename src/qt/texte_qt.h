@@ -21,9 +21,4 @@ inline int PositionQt(TexteVue texte, int codePoints) {
   return static_cast<int>(VersQt(texte.substr(0, n)).size());
 }
 
-// A caption that is shown as it stands, where the toolkit would take & for the mark of an access key.
-inline QString SansTouche(TexteVue texte) {
-  return VersQt(texte).replace(u'&', QStringLiteral("&&"));
-}
-
 }  // namespace sudoku

@@ -67,7 +67,7 @@ std::vector<fs::path> Fichiers(const fs::path& dossier) {
 }
 
 bool EstCode(const fs::path& fichier) {
-  return fichier.extension() == ".h" || fichier.extension() == ".cpp";
+  return fichier.extension() == ".h" || fichier.extension() == ".inc" || fichier.extension() == ".cpp";
 }
 
 std::vector<std::string> Lignes(const fs::path& fichier) {

@@ -16,6 +16,7 @@ while [ ! -s "$dossier/numero" ]; do kill -0 $ecran; sleep 0.05; done
 DISPLAY=:$(cat "$dossier/numero")
 export DISPLAY
 unset WAYLAND_DISPLAY
+export DBUS_SESSION_BUS_ADDRESS=disabled: DBUS_SYSTEM_BUS_ADDRESS=disabled: NO_AT_BRIDGE=1
 openbox >"$dossier/openbox" 2>&1 &
 gestionnaire=$!
 while ! xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; do kill -0 $gestionnaire; sleep 0.05; done
