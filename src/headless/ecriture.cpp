@@ -122,7 +122,7 @@ std::optional<Nombre> LitNombre(TexteVue mot) {
   std::int64_t valeur = 0;
   for (const char32_t c : mot) {
     if (!Chiffre(c)) return std::nullopt;
-    const std::int64_t chiffre = static_cast<std::int64_t>(c - U'0');
+    const std::int64_t chiffre = c - U'0';
     valeur = valeur > (kMax - chiffre) / 10 ? kMax : valeur * 10 + chiffre;
   }
   while (mot.size() > 1 && mot.front() == U'0') mot.remove_prefix(1);
@@ -164,7 +164,7 @@ std::optional<std::int64_t> LitInstant(TexteVue texte) {
   using namespace std::chrono;
   const year_month_day jour{year(nombre(0, 4)), month(static_cast<unsigned>(nombre(5, 2))),
                             day(static_cast<unsigned>(nombre(8, 2)))};
-  const int heure = nombre(11, 2), minute = nombre(14, 2), seconde = nombre(17, 2);
+  const std::int64_t heure = nombre(11, 2), minute = nombre(14, 2), seconde = nombre(17, 2);
   if (!millisecondes || !jour.ok() || nombre(0, 4) == 0) return std::nullopt;
   if (heure > 23 || minute > 59 || seconde > 59) return std::nullopt;
   const std::int64_t jours = sys_days(jour).time_since_epoch().count();

@@ -90,7 +90,7 @@ std::vector<Element> Elements() {
 
 // The number whose bytes are these, the lowest first, each written in hexadecimal without leading zeros after
 // what `chiffres` holds. Nothing where those digits make no 32-bit number.
-std::optional<Texte> Nombre(Texte chiffres, TexteVue octets) {
+std::optional<Texte> Nombre(TexteVue chiffres, TexteVue octets) {
   std::string hexa = VersUtf8(chiffres);
   for (auto octet = octets.rbegin(); octet != octets.rend(); ++octet) {
     char tampon[8];

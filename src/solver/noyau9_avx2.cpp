@@ -1,2 +1,2 @@
 #define SUDOKU_NOYAU noyau_avx2
-#include "solver/noyau9_passe.h"
+#include "solver/noyau9_passe.inc"

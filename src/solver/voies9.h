@@ -31,7 +31,7 @@ inline std::uint32_t Bits(V16 masque) {
 #if defined(SUDOKU_VOIES_512)
   return _mm256_movepi16_mask(reinterpret_cast<__m256i>(masque));
 #elif defined(__AVX2__)
-  const __m256i m = reinterpret_cast<__m256i>(masque);
+  const auto m = reinterpret_cast<__m256i>(masque);
   const __m128i octets = _mm_packs_epi16(_mm256_castsi256_si128(m), _mm256_extracti128_si256(m, 1));
   return static_cast<std::uint32_t>(_mm_movemask_epi8(octets));
 #else
