@@ -25,7 +25,9 @@ int Joue(const char* fichier) {
   sudoku::SystemeQt systeme;
   sudoku::Programme programme(systeme);
   sudoku::EcouteLesFins(systeme);
-  systeme.ExecuteCommande([&] { programme.Demarre(LigneDeCommande(fichier)); });
+  const auto demarre = [&] { programme.Demarre(LigneDeCommande(fichier)); };
+  // A pointer that waits takes time to come, and without a file there is nothing to wait for.
+  fichier == nullptr ? systeme.Execute(demarre) : systeme.ExecuteCommande(demarre);
   return QApplication::exec();
 }
 

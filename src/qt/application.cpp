@@ -5,15 +5,16 @@
 
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QProxyStyle>
 #include <QSessionManager>
 #include <QSocketNotifier>
-#include <QStyle>
-#include <QStyleFactory>
+#include <QTimer>
 #include <QTranslator>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
+#include "qt/icone.h"
 #include "qt/lecture_plateau.h"
 #include "qt/mesure.h"
 #include "qt/systeme_qt.h"
@@ -51,6 +52,17 @@ void EcouteSignaux(SystemeQt& systeme) {
   for (const int signal : {SIGTERM, SIGINT, SIGHUP}) sigaction(signal, &action, nullptr);
 }
 
+// The toolkit's own style, on every desktop. The mark of what a menu bar has no room for, which ours never
+// needs, is not drawn at every start.
+class Style : public QProxyStyle {
+ public:
+  Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+  QIcon standardIcon(StandardPixmap quoi, const QStyleOption* option, const QWidget* widget) const override {
+    if (quoi == SP_ToolBarHorizontalExtensionButton) return {};
+    return QProxyStyle::standardIcon(quoi, option, widget);
+  }
+};
+
 }  // namespace
 
 void PrepareAffichage(bool ecran) {
@@ -75,12 +87,14 @@ void PrepareApplication(QApplication& application) {
   if (francais->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(francais);
   }
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new Style);
   QApplication::setPalette(QApplication::style()->standardPalette());
   QApplication::setFont(PoliceQt({}));
   QApplication::setQuitOnLastWindowClosed(false);
   QGuiApplication::setDesktopFileName(QStringLiteral("solver-de-sudoku"));
   InstalleLecture();
+  // Drawn in five sizes: the first window is on the screen sooner when that waits.
+  QTimer::singleShot(0, &application, [] { QGuiApplication::setWindowIcon(IconeDuJeu()); });
 }
 
 void EcouteLesFins(SystemeQt& systeme) {

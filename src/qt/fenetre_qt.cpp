@@ -10,7 +10,6 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "qt/icone.h"
 #include "qt/mesure.h"
 #include "qt/plateau_qt.h"
 #include "qt/texte_qt.h"
@@ -37,7 +36,6 @@ FenetreQt::FenetreQt(Fenetre& fenetre, Pilote& pilote, QWidget* proprietaire, Ma
       dessus_(maniere.dessus) {
   if (maniere.modale) setWindowModality(Qt::ApplicationModal);
   setObjectName(QString::fromStdString(fenetre.Name));
-  setWindowIcon(IconeDuJeu());
   setFont(PoliceQt({}));
   if (fenetre_.avecPlateau) {
     plateau_ = new PlateauQt(fenetre_, pilote_, fond_);
