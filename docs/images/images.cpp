@@ -88,7 +88,7 @@ class Images {
     programme_->Demarre(DepuisQt('"' + QString::fromStdString(fichier) + '"'));
   }
 
-  QPixmap Vue(Fenetre& fenetre) {
+  QPixmap Vue(const Fenetre& fenetre) {
     FenetreQt& vue = *systeme_->FenetreDe(fenetre);
     vue.SansEcran();
     return vue.grab();

@@ -40,10 +40,11 @@ class Session {
     Refus (Session::*fait)(const Arguments&);
     bool avantDepart = false;
   };
-  // A window that a command aims at.
+  // A window that a command aims at, and the list in it if it aims at one.
   struct Cible {
     Fenetre* fenetre = nullptr;
     Refus refus = {};
+    Element* liste = nullptr;
   };
 
   static const std::vector<Commande>& Commandes();
@@ -70,7 +71,7 @@ class Session {
   Refus SansModale();
   Refus CaseDuPlateau(const Mot& mot, int& Index);
   Cible Vise(TexteVue commande, TexteVue nom);
-  Cible ViseListe(TexteVue commande, TexteVue nom, Element*& liste);
+  Cible ViseListe(TexteVue commande, TexteVue nom);
   Fenetre& Principale() { return programme_.Principale().LaFenetre(); }
 
   std::istream& entree_;

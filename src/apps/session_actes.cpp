@@ -91,11 +91,11 @@ Session::Cible Session::Vise(TexteVue commande, TexteVue nom) {
   return {.refus = U"pas visible"};
 }
 
-Session::Cible Session::ViseListe(TexteVue commande, TexteVue nom, Element*& liste) {
+Session::Cible Session::ViseListe(TexteVue commande, TexteVue nom) {
   Cible cible = Vise(commande, nom);
   if (cible.refus) return cible;
-  liste = cible.fenetre->Trouve(VersUtf8(nom));
-  if (!liste->Visible) cible.refus = U"pas visible";
+  cible.liste = cible.fenetre->Trouve(VersUtf8(nom));
+  if (!cible.liste->Visible) cible.refus = U"pas visible";
   return cible;
 }
 
@@ -184,30 +184,27 @@ Session::Refus Session::Close(const Arguments& a) {
 }
 
 Session::Refus Session::Select(const Arguments& a) {
-  Element* liste = nullptr;
-  const Cible cible = ViseListe(U"select", a[0].texte, liste);
+  const Cible cible = ViseListe(U"select", a[0].texte);
   if (cible.refus) return cible.refus;
   const int p = Entier(a[1]);
-  if (p < -1 || p >= static_cast<int>(liste->items.size())) {
+  if (p < -1 || p >= static_cast<int>(cible.liste->items.size())) {
     return U"pas de position " + LitNombre(a[1].texte)->texte;
   }
-  scene_->Selectionne(*cible.fenetre, *liste, p);
+  scene_->Selectionne(*cible.fenetre, *cible.liste, p);
   return {};
 }
 
 Session::Refus Session::Edit(const Arguments& a) {
-  Element* liste = nullptr;
-  const Cible cible = ViseListe(U"edit", a[0].texte, liste);
+  const Cible cible = ViseListe(U"edit", a[0].texte);
   if (cible.refus) return cible.refus;
-  scene_->Edite(*cible.fenetre, *liste, a[1].texte);
+  scene_->Edite(*cible.fenetre, *cible.liste, a[1].texte);
   return {};
 }
 
 Session::Refus Session::DblClick(const Arguments& a) {
-  Element* liste = nullptr;
-  const Cible cible = ViseListe(U"dblclick", a[0].texte, liste);
+  const Cible cible = ViseListe(U"dblclick", a[0].texte);
   if (cible.refus) return cible.refus;
-  scene_->DoubleClique(*cible.fenetre, *liste);
+  scene_->DoubleClique(*cible.fenetre, *cible.liste);
   return {};
 }
 

@@ -14,6 +14,7 @@
 #include <QScrollArea>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "qt/icone.h"
 #include "qt/mesure.h"
@@ -33,10 +34,10 @@ void Installe(QDialog& boite, const PlaceDeBoite& place, const char* nom) {
 // A prompt, perhaps a field, and a row of buttons.
 class Boite : public QDialog {
  public:
-  Boite(const PlaceDeBoite& place, const char* nom, const QString& texte)
+  Boite(const PlaceDeBoite& place, const char* nom, QString texte)
       : QDialog(place.proprietaire, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                         Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
-        texte_(texte),
+        texte_(std::move(texte)),
         pile_(new QVBoxLayout(this)),
         boutons_(new QHBoxLayout) {
     Installe(*this, place, nom);

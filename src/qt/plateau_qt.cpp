@@ -277,8 +277,8 @@ void PlateauQt::resizeEvent(QResizeEvent*) {
 }
 
 QPoint PlateauQt::Origine() const {
-  const int libre = std::max(0, viewport()->width() - contenu_.width());
-  const QPointF coin(libre / 2 - horizontalScrollBar()->value(), -verticalScrollBar()->value());
+  const int marge = std::max(0, viewport()->width() - contenu_.width()) / 2;
+  const QPointF coin(marge - horizontalScrollBar()->value(), -verticalScrollBar()->value());
   return (coin * devicePixelRatioF()).toPoint();
 }
 

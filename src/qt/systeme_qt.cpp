@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QProcess>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -103,10 +104,8 @@ QWidget* SystemeQt::Devant() const {
 }
 
 bool SystemeQt::Dessus() const {
-  for (const Connue& connue : fenetres_) {
-    if (connue.fenetre->Visible && connue.fenetre->TopMost) return true;
-  }
-  return false;
+  return std::ranges::any_of(
+      fenetres_, [](const Connue& connue) { return connue.fenetre->Visible && connue.fenetre->TopMost; });
 }
 
 PlaceDeBoite SystemeQt::Place(TexteVue titre) {
@@ -169,7 +168,7 @@ void SystemeQt::Fin() {
 
 std::int64_t SystemeQt::Maintenant() {
   const QDateTime ici = QDateTime::currentDateTime();
-  return ici.toMSecsSinceEpoch() + std::int64_t{1000} * ici.offsetFromUtc();
+  return ici.toMSecsSinceEpoch() + 1000LL * ici.offsetFromUtc();
 }
 
 std::optional<ValeurRegistre> SystemeQt::Registre(std::uint32_t, TexteVue, TexteVue) {

@@ -24,10 +24,7 @@ using namespace std::string_literals;
 
 class Disque : public testing::Test {
  protected:
-  Disque() {
-    dossier_ = NouveauDossier();
-    fs::permissions(dossier_, fs::perms::all);
-  }
+  Disque() : dossier_(NouveauDossier()) { fs::permissions(dossier_, fs::perms::all); }
   ~Disque() override { fs::remove_all(dossier_); }
 
   std::string Chemin(const std::string& nom) const { return dossier_ + "/" + nom; }

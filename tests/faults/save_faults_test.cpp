@@ -38,8 +38,7 @@ constexpr Depart kDeparts[] = {
 // A folder of its own, and a player who is about to save a game in it.
 class Scene {
  public:
-  explicit Scene(const Depart& depart) : depart_(depart) {
-    dossier_ = NouveauDossier();
+  explicit Scene(const Depart& depart) : depart_(depart), dossier_(NouveauDossier()) {
     EcritOctets(Fichier(), kAncien);
     joueur.reponses.push_back([](Boite& boite) { ChoisitPartie(boite, 0); });
     joueur.Demarre(Fichier());

@@ -113,7 +113,7 @@ int Jeu::Juge(ClsPos& c, bool relevable) const {
   return c.Etat == kSure ? 1 : 0;
 }
 
-std::optional<int> Jeu::GrilleCheck(Grille& grille, std::vector<int>& releves) {
+std::optional<int> Jeu::GrilleCheck(const Grille& grille, std::vector<int>& releves) {
   int nombre = 0;
   for (std::size_t i = 1; i < grille.size(); ++i) {
     ClsPos& c = *grille[i];

@@ -82,7 +82,7 @@ class Jeu {
   Case Cellule(int index) const;
   int NbARemplir(const Grille& grille) const;
   // The verdict; nothing when a judgement changed and the grid is to be evaluated again.
-  std::optional<int> GrilleCheck(Grille& grille, std::vector<int>& releves);
+  std::optional<int> GrilleCheck(const Grille& grille, std::vector<int>& releves);
   int Juge(ClsPos& c, bool relevable) const;
 
   void Passes(Grille& grille, int passes, bool suite);
@@ -105,13 +105,13 @@ class Jeu {
   bool Inference(int type, int num, char32_t symbole, const std::vector<Case>& locs, Grille& grille,
                  const Texte& origine) const;
 
-  bool NxN(Grille& grille);
+  bool NxN(const Grille& grille);
   std::vector<NxNEmpreinte> Empreintes(const Grille& grille) const;
-  bool Figure(const std::vector<const NxNEmpreinte*>& groupe, Grille& grille) const;
+  bool Figure(const std::vector<const NxNEmpreinte*>& groupe, const Grille& grille) const;
 
   bool GuessResult(int resultat, Pile& supp);
   bool Guess(Grille& grille, const Grille& base, Pile& supp);
-  void CorrigeFausses(Grille& grille, const Grille& base);
+  void CorrigeFausses(const Grille& grille, const Grille& base);
   bool Recherche(Grille& travail, bool guess, Pile& supp, int& verdict);
   Texte MessageFinal(int verdict, const Pile& supp) const;
   bool UniteBrisee(const Grille& grille) const;

@@ -36,7 +36,7 @@ Texte Phrase(const std::vector<const NxNEmpreinte*>& groupe) {
 
 }  // namespace
 
-bool Jeu::NxN(Grille& grille) {
+bool Jeu::NxN(const Grille& grille) {
   const std::vector<NxNEmpreinte> empreintes = Empreintes(grille);
   std::unordered_map<std::string, std::vector<const NxNEmpreinte*>> parCle;
   for (const NxNEmpreinte& e : empreintes) parCle[Cle(e)].push_back(&e);
@@ -80,7 +80,7 @@ std::vector<NxNEmpreinte> Jeu::Empreintes(const Grille& grille) const {
   return empreintes;
 }
 
-bool Jeu::Figure(const std::vector<const NxNEmpreinte*>& groupe, Grille& grille) const {
+bool Jeu::Figure(const std::vector<const NxNEmpreinte*>& groupe, const Grille& grille) const {
   const NxNEmpreinte& premiere = *groupe[0];
   const Texte phrase = Phrase(groupe);
   const std::vector<int> unites = Nombres(premiere.Unites);

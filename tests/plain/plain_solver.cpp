@@ -65,7 +65,7 @@ bool Jeu::Guess(Grille& grille, const Grille& base, Pile& supp) {
 
 // No cell is left to suppose a symbol for: wrong entries of the player that stand in the way of their cells'
 // only candidates give way to them.
-void Jeu::CorrigeFausses(Grille& grille, const Grille& base) {
+void Jeu::CorrigeFausses(const Grille& grille, const Grille& base) {
   for (std::size_t i = 1; i < grille.size(); ++i) {
     ClsPos& c = *grille[i];
     if (!base[i]->ValeurSaisie().empty() && c.Etat == kFausse && c.Possible.size() == 1) {

@@ -116,7 +116,7 @@ void SceneQt::Compare() {
 
 // ---- what the user does
 
-QWidget* SceneQt::Trouve(Fenetre& fenetre, const std::string& nom) {
+QWidget* SceneQt::Trouve(const Fenetre& fenetre, const std::string& nom) {
   return FenetreDe(fenetre)->findChild<QWidget*>(QString::fromStdString(nom));
 }
 

@@ -50,7 +50,7 @@ class SceneQt : public Scene, private SystemeQt {
   void Repond(const Boite& boite);
   void Termine(const Boite& boite);
   void Compare();
-  QWidget* Trouve(Fenetre& fenetre, const std::string& nom);
+  QWidget* Trouve(const Fenetre& fenetre, const std::string& nom);
 
   std::ostream& sortie_;
   std::function<bool()> avance_;
