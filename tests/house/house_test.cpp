@@ -164,7 +164,7 @@ TEST(Maison, AppelsContreLesFleches) {
 TEST(Maison, FichiersCourts) {
   constexpr std::size_t kLignes = 600;
   constexpr std::size_t kLignesMain = 60;
-  for (const char* const dossier : {"src", "tests", "bench"}) {
+  for (const char* const dossier : {"src", "tests", "bench", "fuzz"}) {
     for (const fs::path& fichier : Fichiers(dossier)) {
       if (!EstCode(fichier)) continue;
       const bool programme = Relatif(fichier).starts_with("apps/sudoku");

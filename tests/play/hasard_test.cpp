@@ -9,6 +9,7 @@
 
 #include "apps/session.h"
 #include "joueur.h"
+#include "play/invariants.h"
 
 // A player who does anything, anywhere, for thousands of commands, on grids of side 1, 4 and 9. After each
 // command: what the board shows is what the records hold, the mode is a lasting one, no empty cell is judged,
@@ -64,8 +65,6 @@ class Joueuse {
 
  private:
   GameState& Jeu() { return session_.LeProgramme().Principale().Jeu(); }
-  Fenetre& Principale() { return session_.LeProgramme().Principale().LaFenetre(); }
-  Fenetre& Aide() { return session_.LeProgramme().Principale().LAssistant().LaFenetre(); }
   int Tire(int n) { return std::uniform_int_distribution<int>(0, n - 1)(hasard_); }
   std::string Un(std::initializer_list<const char*> mots) { return mots.begin()[Tire(int(mots.size()))]; }
   std::string Fichier() { return dossier_ + Un({"/a", "/b.sud", "/c.SUD", "/rien.sud"}); }
@@ -175,8 +174,8 @@ class Joueuse {
       return;
     }
     if (session_.LeSysteme().Dessus() != nullptr) return;
-    VerifieEtat();
-    VerifiePlateau();
+    const std::string rompu = invariants_.Rompu();
+    EXPECT_EQ(rompu, "");
     VerifieFichier();
     if (Jeu().VgEtat == kTermine && etatAvant_ != kTermine) ++fins_;
     etatAvant_ = Jeu().VgEtat;
@@ -184,57 +183,6 @@ class Joueuse {
     std::string dernieres;
     for (const std::string& ligne : lignes_.dernieres) dernieres += ligne;
     ADD_FAILURE() << "graine " << graine_ << ", dernières commandes :\n" << dernieres;
-  }
-
-  void VerifieEtat() {
-    const std::int32_t etat = Jeu().VgEtat;
-    EXPECT_TRUE(etat == kSansGrille || etat == kSaisieGrille || etat == kJeu || etat == kTermine) << etat;
-    const Grille& grille = Jeu().VmGrille;
-    for (int i = 1; i <= grille.Borne(); ++i) {
-      EXPECT_TRUE(grille(i).Etat() < kPossible || !grille(i).ValeurSaisie().empty()) << "case " << i;
-    }
-  }
-
-  void VerifiePlateau() {
-    const Plateau& plateau = Principale().plateau;
-    const Grille& grille = Jeu().VgSilence ? Jeu().VmGrilleEtat : Jeu().VmGrille;
-    ASSERT_EQ(plateau.Cases(), Jeu().VmGrille.Borne());
-    ASSERT_LE(Jeu().VmCase, plateau.Cases());
-    if (plateau.Constructions() != construction_) redessin_ = plateau.Redessins();
-    construction_ = plateau.Constructions();
-    // A grid just made is not painted: its boxes are new.
-    const bool peint = plateau.Redessins() != redessin_;
-    for (int i = 1; i <= grille.Borne(); ++i) {
-      const CaseTexte& boite = plateau.TxtCase(i);
-      ASSERT_EQ(VersUtf8(boite.Text), VersUtf8(grille(i).ValeurSaisie())) << "case " << i;
-      if (peint) VerifieCouleurs(boite, grille, i);
-    }
-  }
-
-  void VerifieCouleurs(const CaseTexte& boite, const Grille& grille, int i) {
-    const ClsPos cellule = grille(i);
-    const Assistant& aide = session_.LeProgramme().Principale().LAssistant();
-    const bool vide = cellule.ValeurSaisie().empty();
-    const bool donnee = !vide && cellule.Etat() == kDonnee;
-    const bool visible = Aide().Visible;
-    Couleur fond = donnee ? kGris : kBlanc;
-    Couleur encre = kNoir;
-    if (visible && vide && !cellule.SolutionSure().empty()) {
-      if (aide.ChkLightSur()) fond = kVert;
-    } else if (visible && vide && !cellule.SolutionPoss().empty() && aide.ChkLightPoss()) {
-      fond = kCyan;
-    }
-    if (visible && !vide && cellule.Etat() == kPossible && aide.ChkForeBlue()) encre = kBleu;
-    if (visible && !vide && cellule.Etat() == kErronee && aide.ChkForeRed()) encre = kRouge;
-    if (visible && i == Jeu().VmCase && !donnee) std::swap(fond, encre);
-    ASSERT_EQ(boite.BackColor, fond) << "case " << i;
-    ASSERT_EQ(boite.ForeColor, encre) << "case " << i;
-    ASSERT_EQ(boite.Appearance, i == Principale().plateau.Focus() ? 1 : 0) << "case " << i;
-    // A given that the solver has overwritten leaves its box locked.
-    if (donnee) {
-      ASSERT_EQ(boite.Locked, Jeu().VgEtat != kSaisieGrille) << "case " << i;
-    }
-    ASSERT_EQ(boite.TabStop, !boite.Locked) << "case " << i;
   }
 
   // After a save that went through, another program loads the file, taking the grid without a game.
@@ -275,9 +223,8 @@ class Joueuse {
   Session session_{entree_, sortie_, fichiers_};
   bool demarree_ = false;
   std::string commande_;  // the last one given with no box open
+  Invariants invariants_{session_.LeProgramme()};
   std::int32_t etatAvant_ = kSansGrille;
-  std::uint32_t construction_ = 0;
-  std::uint32_t redessin_ = 0;
   int fins_ = 0;
   int relectures_ = 0;
   int modales_ = 0;

@@ -1,0 +1,242 @@
+#include "partie.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "cible.h"
+#include "storage/sud_text.h"
+
+namespace sudoku::fuzz {
+namespace {
+
+// Sides 1 to 25, letters of both cases, repeated symbols, the signs that files and sessions give a meaning,
+// and strings that make no grid.
+constexpr TexteVue kSymboles[] = {U"1234",
+                                  U"1234",
+                                  U"aBcd",
+                                  U"123456789",
+                                  U"5",
+                                  U"aBcd",
+                                  U"aAbB",
+                                  U"12-4",
+                                  U". 0#",
+                                  U"1é\"\\",
+                                  U"1111",
+                                  U"ΣσςŸ",
+                                  U"123456780",
+                                  U"0123456789ABCDEF",
+                                  U"ABCDEFGHIJKLMNOPQRSTUVWXY",
+                                  U"12",
+                                  U"★🙂ß\x1F"};
+constexpr TexteVue kTextes[] = {U"1",    U"12",    U"a",          U"",        U"x",   U"34",   U"é",
+                                U"-",    U" ",     U"\x7F",       U"\"",      U"\\",  U"\x1F", U"\x80€",
+                                U"🙂", U"Marie", U"une-partie", U"Échec ★", U"\r\n"};
+
+std::string Guillemets(TexteVue texte) {
+  return VersUtf8(Cite(texte));
+}
+template <class Table>
+TexteVue Choisit(Octets& octets, const Table& table) {
+  return table[octets.Tire(static_cast<int>(std::size(table)))];
+}
+
+}  // namespace
+
+Partie::Partie(Octets& octets, FichiersMemoire& fichiers, std::string depart, bool etatsDuJeu)
+    : octets_(octets),
+      fichiers_(fichiers),
+      depart_(std::move(depart)),
+      invariants_(session_.LeProgramme(), etatsDuJeu) {
+  entree_.exceptions(std::ios::badbit);  // lets the end of the program pass
+}
+
+Partie::int_type Partie::underflow() {
+  const Boite* const boite = session_.LeSysteme().Dessus();
+  if (boite == nullptr) Verifie();
+  if (restantes_-- == 0) throw FinDuProgramme();
+  if (!depart_.empty()) {
+    ligne_ = std::exchange(depart_, "");
+  } else if (!octets_.Epuise()) {
+    ligne_ = Commande();
+  } else if (boite != nullptr && boite->genre == GenreBoite::kMessage) {
+    ligne_ = "answer ok";  // the solver may have more of them
+  } else {
+    return traits_type::eof();
+  }
+  ligne_ += '\n';
+  setg(ligne_.data(), ligne_.data(), ligne_.data() + ligne_.size());
+  return traits_type::to_int_type(ligne_.front());
+}
+
+void Partie::Verifie() {
+  VerifieFichier();
+  if (const std::string rompu = invariants_.Rompu(); !rompu.empty()) Echoue(sortie_.str() + rompu);
+}
+
+// A save that went through is there to the last game.
+void Partie::VerifieFichier() {
+  const auto nom = fichiers_.PrendSauve();
+  if (!nom) return;
+  const LectureSud lu = LitSud(fichiers_[*nom]);
+  const bool entiere = !lu.erreur && lu.VmValeurs == Jeu().VmGrille.Symboles() &&
+                       lu.VgParties.size() == Jeu().VgParties.size() && lu.VgScores &&
+                       lu.VgScores->size() == Jeu().VgScores.size();
+  if (!entiere) Echoue(sortie_.str() + "le fichier sauvé ne se relit pas");
+}
+
+std::string Partie::Commande() {
+  const Boite* const boite = session_.LeSysteme().Dessus();
+  if (boite != nullptr && octets_.Tire(8) != 0) return Reponse(boite->genre);
+  switch (octets_.Tire(32)) {
+    case 0:
+      return "tick";
+    case 1:
+      return std::string("now \"20") + octets_.Un({"26", "00", "10"}) + "-11-2" +
+             octets_.Un({"4", "9", "x"}) + " 10:" + std::to_string(10 + octets_.Tire(52)) + ":00" +
+             octets_.Un({"", ".5", ".999"}) + "\"";
+    case 2:
+      return "focus " + Case();
+    case 3:
+      return "key " + std::to_string(octets_.Tire(64) - 1);
+    case 4:
+      return std::string(octets_.Un({"press", "release"})) + " BtViewSolution " +
+             octets_.Un({"souris", "espace"});
+    case 5:
+      return std::string("close ") + octets_.Un({"FRMHelp", "FRMSudoku", "FRMParties", "FRMNRVAbout", "FRM"});
+    case 6:
+      return "registre \"SOFTWARE\\\\Microsoft\\\\Shared Tools" +
+             std::string(octets_.Un({"\\\\MSINFO\" \"PATH\" ", " Location\" \"MSINFO\" "})) + Chemin();
+    case 7:
+      fichiers_.Panne(octets_.Tire(8));
+      return "show state";
+    case 8:
+      return "start " + Chemin();
+    case 9:
+      return "answer " + std::string(octets_.Un({"ok", "oui", "non", "annuler", "\"1234\"", "peut-être"}));
+    case 10:
+      return LigneBrute();
+    case 11:
+      return DansFenetre();
+    case 12:
+    case 13:
+      return Montre();
+    case 14:
+    case 15:
+    case 16:
+    case 17:
+    case 18:
+    case 19:
+      return Clique();
+    default:
+      return Tape();
+  }
+}
+
+// Bytes as they stand, but for a run of the solver that is not known to be short.
+std::string Partie::LigneBrute() {
+  const std::string_view ligne = octets_.Morceau(static_cast<std::size_t>(octets_.Tire(32)));
+  return ligne.find("Solveur2") == std::string_view::npos ? std::string(ligne) : Clique();
+}
+
+std::string Partie::Reponse(GenreBoite genre) {
+  switch (genre) {
+    case GenreBoite::kMessage:
+      return "answer ok";
+    case GenreBoite::kQuestion:
+      return octets_.Tire(4) == 0 ? "answer non" : "answer oui";
+    case GenreBoite::kSaisie:
+      return octets_.Tire(8) == 0 ? "answer annuler" : "answer " + Guillemets(Choisit(octets_, kSymboles));
+    case GenreBoite::kFichier:
+      return octets_.Tire(8) == 0 ? "answer annuler" : "answer " + Chemin();
+    case GenreBoite::kFenetre:
+      break;
+  }
+  return DansFenetre();
+}
+
+std::string Partie::DansFenetre() {
+  switch (octets_.Tire(8)) {
+    case 0:
+      return std::string("edit ") + octets_.Un({"LstSave ", "LstSave ", "LstLoad "}) + Chaine();
+    case 1:
+      return "select LstSave " + std::to_string(octets_.Tire(5) - 2);
+    case 2:
+      return "select LstLoad " + std::to_string(octets_.Tire(5) - 2);
+    case 3:
+      return std::string("click ") + octets_.Un({"BtDel", "BtDel", "BtSysInfo"});
+    case 4:
+      return std::string("dblclick ") + octets_.Un({"LstLoad", "LstSave"});
+    default:
+      return "key " + std::string(octets_.Un({"13", "27"}));
+  }
+}
+
+std::string Partie::Clique() {
+  const std::string nom = octets_.Un(
+      {"MnuInit",     "MnuStart",     "MnuRestart",  "MnuReinit",   "MnuSave",    "MnuLoad",
+       "MnuPartie",   "MnuScores",    "MnuAssist",   "MnuAssist",   "MnuSolver",  "MnuSolveur2",
+       "MnuSolveur2", "MnuAbout",     "MnuQuit",     "ChkLightSur", "ChkForeRed", "ChkRep",
+       "ChkTips",     "ChkLightPoss", "ChkForeBlue", "ChkListPoss", "BtOK",       "BtDel",
+       "BtSysInfo",   "MnuInit",      "MnuStart",    "MnuSave",     "MnuLoad",    "BtViewSolution"});
+  return "click " + (nom == "MnuSolveur2" && !ResoutVite() ? "MnuSolver" : nom);
+}
+
+std::string Partie::Montre() {
+  switch (octets_.Tire(8)) {
+    case 0:
+      return "show cell " + Case();
+    case 1:
+      return "show file " + Chemin();
+    case 2:
+      return "show TxtCase(" + Case() + ")";
+    case 3:
+      return "show Box(" + Case() + ")";
+    case 4:
+      return std::string("show ") +
+             octets_.Un({"FRMSudoku", "FRMHelp", "FRMParties", "Tmr", "LblChrono", "ChkRep", "MnuStart",
+                         "Mnu1", "TxtTips", "BtOK", "PicIco", "Line1(0)"});
+    default:
+      return std::string("show ") + octets_.Un({"state", "grid", "etats", "menus", "LstLoad", "LstSave",
+                                                "scores", "library", "boxes", "LblInfos"});
+  }
+}
+
+// A symbol of the grid, one that is possible there, or anything.
+std::string Partie::Tape() {
+  const Grille& grille = Jeu().VmGrille;
+  if (grille.Borne() == 0) return "click MnuInit";
+  const int i = 1 + octets_.Tire(256) % grille.Borne();
+  const std::string debut = "type " + std::to_string(i) + " ";
+  const int genre = octets_.Tire(256);
+  if (genre >= 0xE0) return debut + Chaine();
+  const Texte symboles = genre < 0x60 ? grille.Symboles() : grille(i).Possible();
+  if (symboles.empty()) return debut + "\"\"";
+  return debut + Guillemets(TexteVue(symboles).substr(static_cast<std::size_t>(genre % 32) % symboles.size(),
+                                                      genre >= 0xC0 ? 2 : 1));
+}
+
+std::string Partie::Case() {
+  const int borne = std::max(1, Jeu().VmGrille.Borne());
+  return std::to_string(octets_.Tire(256) * 3 % (borne + 2));
+}
+
+std::string Partie::Chaine() {
+  const int choix = octets_.Tire(24);
+  if (choix < 19) return Guillemets(kTextes[choix]);
+  return Guillemets(DepuisUtf8(octets_.Morceau(static_cast<std::size_t>(choix - 18) * 2)));
+}
+
+std::string Partie::Chemin() {
+  return octets_.Un({"\"/a.sud\"", "\"/b\"", "\"/partie.sud\"", "\"\\\"/partie.sud\\\"\"",
+                     "\"\\\"/a.sud\\\"\"", "\"/rien\"", "\"\"", "\"x\"", "\"/a\\x00b.SUD\"", "\"/b.sud~\""});
+}
+
+// Suppositions where few cells are open: few levels, and so few passes from one box to the next.
+bool Partie::ResoutVite() {
+  const Grille& grille = Jeu().VmGrille;
+  int vides = 0;
+  for (int i = 1; i <= grille.Borne(); ++i) vides += grille(i).ValeurSaisie().empty() ? 1 : 0;
+  return vides <= 50;
+}
+
+}  // namespace sudoku::fuzz

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <sstream>
+#include <string>
+
+#include "apps/session.h"
+#include "fichiers_memoire.h"
+#include "octets.h"
+#include "play/invariants.h"
+
+namespace sudoku::fuzz {
+
+// A game on a disk in memory, played by the commands of a session that the bytes of an input choose: all
+// commands, on what is there most of the time, so that hardly a byte is wasted. What must hold between two
+// commands is looked at before each. A run of the solver that might go on for long is not begun, or cut short
+// where it opens too many boxes.
+class Partie : private std::streambuf {
+ public:
+  // `depart` is the first line of the session. etatsDuJeu: as for Invariants.
+  Partie(Octets& octets, FichiersMemoire& fichiers, std::string depart, bool etatsDuJeu);
+  void Joue() { session_.Joue(); }
+
+ private:
+  int_type underflow() override;
+  void Verifie();
+  void VerifieFichier();
+
+  std::string Commande();
+  std::string LigneBrute();
+  std::string Reponse(GenreBoite genre);
+  std::string DansFenetre();
+  std::string Clique();
+  std::string Montre();
+  std::string Tape();
+  std::string Case();
+  std::string Chaine();
+  std::string Chemin();
+  bool ResoutVite();
+  GameState& Jeu() { return session_.LeProgramme().Principale().Jeu(); }
+
+  Octets& octets_;
+  FichiersMemoire& fichiers_;
+  std::string depart_;
+  std::string ligne_;
+  int restantes_ = 300;
+  std::istream entree_{this};
+  std::ostringstream sortie_;
+  Session session_{entree_, sortie_, fichiers_};
+  Invariants invariants_;
+};
+
+}  // namespace sudoku::fuzz
