@@ -19,16 +19,23 @@ class Evaluateur {
   // entries anew. VpPasses 2: the first pass sees givens and proved cells, the second one, run only if the
   // first found no cell to fill and there are unproved entries, counts those as true and writes what it finds
   // to SolutionPoss; VgEtat is 2 afterwards. VpPasses 1: one pass in the present mode (1 or 2).
-  // premiereConnue: the first of two passes would give what the grid's fields show already, and no cell to fill;
-  // it is left out where there are unproved entries to run the second one for.
-  // Result: -1 a cell has no candidate, 0 the grid is complete, otherwise the number of cells still to fill.
+  // premiereConnue: the first of two passes would give what the grid's fields show already, and no cell to
+  // fill; it is left out where there are unproved entries to run the second one for. Result: -1 a cell has no
+  // candidate, 0 the grid is complete, otherwise the number of cells still to fill.
   std::int16_t Evaluation(Grille& VpGrille, int VpPasses, bool premiereConnue = false);
+
+  // What was done since this was made: times that the passes ran, and turns of deduction in them. Both have
+  // bounds, see the .cpp and moteur.inc.
+  std::uint64_t Reprises() const { return reprises_; }
+  std::uint64_t Tours() const { return tours_; }
 
  private:
   GameState& jeu_;
   std::unique_ptr<Moteur> moteur_;  // for grids of side cote_
   int cote_ = 0;
   Levees levees_;
+  std::uint64_t reprises_ = 0;
+  std::uint64_t tours_ = 0;
 };
 
 }  // namespace sudoku

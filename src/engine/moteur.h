@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -12,8 +13,9 @@ namespace sudoku {
 class Moteur {
  public:
   virtual ~Moteur() = default;
-  // Up to VpPasses passes over the grid; with `seconde` the second one alone, of two.
-  virtual void Passes(GameState& jeu, Grille& grille, int VpPasses, bool seconde) = 0;
+  // Up to VpPasses passes over the grid; with `seconde` the second one alone, of two. Result: the turns of
+  // deduction that they took.
+  virtual std::uint64_t Passes(GameState& jeu, Grille& grille, int VpPasses, bool seconde) = 0;
 };
 
 // The versions of a Moteur for grids of side N that this machine runs, the fastest first; all give the same.

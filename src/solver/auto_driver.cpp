@@ -46,12 +46,17 @@ void AutoDriver::JeuAuto(bool VpReset, bool VpGuess) {
   plateau_.Affiche();
 }
 
-// Solve pass and supposition by turns. It ends: a turn opens a level (at most one a cell), or refutes for good a
-// candidate of one, or, where no cell is left to suppose in, ends the run or refutes.
+// Solve pass and supposition by turns. It ends: a turn opens a level, or refutes for good a candidate of the last
+// one, or, where no cell is left to suppose in, ends the run or refutes. The cells of the levels ascend, so that no
+// more than N*N are open; a level has no more candidates than N or the symbols in its cell's text, say C; and one
+// that has none left closes with a box. So from box to box there are no more turns than 1 + N*N * (1 + C). What the
+// levels have refuted, the outer ones counting before the inner ones, only ever grows.
 std::int16_t AutoDriver::Cherche(Travail& travail, bool VpGuess) {
   VlSupp_.Vide();
   rejouee_ = true;
+  tours_ = 0;
   for (bool base = false;; base = true) {
+    ++tours_;
     std::int16_t VlVerdict = travail.JeuSolve(false);
     if (!base) travail.PrendBase();
     // Two cells of a unit can get one symbol in one sweep, and no cell then lacks a candidate.

@@ -36,6 +36,9 @@ class AutoDriver {
   // message). VpGuess: suppose symbols where deduction stops.
   void JeuAuto(bool VpReset, bool VpGuess);
 
+  // Turns of the search that runs, or ran last: a solve pass each, and a supposition.
+  std::uint64_t Tours() const { return tours_; }
+
  private:
   std::int16_t Cherche(Travail& travail, bool VpGuess);
   bool GuessResult(std::int16_t VpResultat, Travail& travail);
@@ -51,6 +54,7 @@ class AutoDriver {
   Suppositions VlSupp_;
   Essai Possible_;
   Texte message_;
+  std::uint64_t tours_ = 0;
   bool rejouee_ = true;  // the last solve pass began on nothing but the base and the live suppositions
 };
 

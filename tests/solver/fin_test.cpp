@@ -1,0 +1,155 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "grid/game_state.h"
+#include "plain/random_boards.h"
+#include "solver/auto_driver.h"
+
+// Every evaluation and every run of the solver ends, within the numbers of steps that are proved beside
+// Evaluateur::Evaluation, MoteurDe::Deduit, TravailGrille::JeuSolve and AutoDriver::Cherche. Steps are
+// counted, not time; a loop without end would keep the test from ending.
+
+namespace sudoku {
+namespace {
+
+using plain::Hasard;
+
+// Suppositions on a grid of side 9 that has no solution can go on through more boards than anybody counts: a
+// run is left at this many boxes. Those of side 4 are all run to their end.
+constexpr int kBoitesMax = 100;
+
+class Compteur : public PlateauAuto {
+ public:
+  struct Assez {};
+
+  void Nouvelle(TexteVue symboles) {
+    jeu_.VgEtat = kSaisieGrille;
+    jeu_.VgSilence = jeu_.VsResolu = false;
+    jeu_.VmValeurs = symboles;
+    jeu_.VmTaille = static_cast<std::int16_t>(symboles.size());
+    jeu_.VmGrille = Grille::Nouvelle(jeu_, symboles);
+    jeu_.VmGrilleEtat = {};
+    Evalue(1);
+  }
+  void Charge(const plain::Plateau& plateau) {
+    Nouvelle(plateau.symboles);
+    for (int i = 1; i <= Cases(); ++i) {
+      const plain::Contenu& c = plateau.cases[static_cast<std::size_t>(i - 1)];
+      jeu_.VmGrille(i).Load(c.valeur, c.etat);
+    }
+    jeu_.VgEtat = plateau.mode;
+    Evalue(2);
+  }
+  void Tape(Hasard& hasard) {
+    const int i = 1 + hasard.Entier(Cases());
+    jeu_.VmGrille(i).Valeur(plain::SaisieAuHasard(hasard, jeu_.VmValeurs, jeu_.VmGrille(i).Possible()));
+    Evalue(jeu_.VgEtat == kSaisieGrille ? 1 : 2);
+  }
+  void Joue() { jeu_.VgEtat = kJeu; }
+  void Evalue(int passes);
+  // A run on a copy, with suppositions.
+  void Resous();
+
+  int Cases() const { return jeu_.VmGrille.Borne(); }
+  int Boites() const { return boites_; }
+  std::uint64_t ReprisesMax() const { return reprisesMax_; }
+  std::uint64_t ToursMax() const { return toursMax_; }
+  void Affiche() override {}
+  void Message(TexteVue) override;
+
+ private:
+  std::uint64_t N() const { return static_cast<std::uint64_t>(jeu_.VmGrille.N()); }
+  std::uint64_t BorneReprises() const { return 1 + N() * N() * (2 * N() + 2); }
+  std::uint64_t BorneTours() const { return 1 + 2 * N() * N() * N() + Textes(); }
+  std::uint64_t Textes() const;
+  std::uint64_t PlusLong() const;
+
+  GameState jeu_;
+  Evaluateur moteur_{jeu_};
+  AutoDriver driver_{jeu_, moteur_, *this};
+  std::uint64_t toursVus_ = 0;  // of the search, up to the last box
+  std::uint64_t parBoite_ = 0;
+  int boites_ = 0;
+  std::uint64_t reprisesMax_ = 0;
+  std::uint64_t toursMax_ = 0;
+};
+
+std::uint64_t Compteur::Textes() const {
+  std::uint64_t somme = 0;
+  for (int i = 1; i <= Cases(); ++i) somme += jeu_.VmGrille(i).ValeurSaisie().size();
+  return somme;
+}
+
+std::uint64_t Compteur::PlusLong() const {
+  std::uint64_t longueur = N();
+  for (int i = 1; i <= Cases(); ++i)
+    longueur = std::max<std::uint64_t>(longueur, jeu_.VmGrille(i).ValeurSaisie().size());
+  return longueur;
+}
+
+void Compteur::Evalue(int passes) {
+  const std::uint64_t reprises = moteur_.Reprises();
+  const std::uint64_t tours = moteur_.Tours();
+  moteur_.Evaluation(jeu_.VmGrille, passes);
+  ASSERT_LE(moteur_.Reprises() - reprises, BorneReprises());
+  ASSERT_LE(moteur_.Tours() - tours, (moteur_.Reprises() - reprises) * 2 * BorneTours());
+  reprisesMax_ = std::max(reprisesMax_, moteur_.Reprises() - reprises);
+  toursMax_ = std::max(toursMax_, moteur_.Tours() - tours);
+}
+
+void Compteur::Message(TexteVue) {
+  ASSERT_LE(driver_.Tours() - toursVus_, parBoite_);
+  toursVus_ = driver_.Tours();
+  if (++boites_ == kBoitesMax && N() > 4) throw Assez();
+}
+
+void Compteur::Resous() {
+  const std::uint64_t reprises = moteur_.Reprises();
+  parBoite_ = 1 + N() * N() * (1 + PlusLong());
+  toursVus_ = 0;
+  boites_ = 0;
+  const Grille joueuse = jeu_.VmGrille;
+  const std::int32_t mode = jeu_.VgEtat;
+  GrilleCopy(joueuse, jeu_.VmGrille);
+  try {
+    driver_.JeuAuto(true, true);
+  } catch (const Assez&) {
+  }
+  // A turn makes three solve passes at most, the whole run an evaluation or two besides.
+  const std::uint64_t evaluations = driver_.Tours() * 3 * (2 * N() * N() + 1) + 2;
+  EXPECT_LE(moteur_.Reprises() - reprises, evaluations * BorneReprises());
+  jeu_.VmGrille = joueuse;
+  jeu_.VgEtat = mode;
+}
+
+TEST(Fin, EtatsAtteintsEnJouant) {
+  constexpr int kEtats = 100'000;
+  Hasard hasard(20261124);
+  Compteur compteur;
+  int boites = 0;
+  for (int etat = 0; etat < kEtats && !testing::Test::HasFailure(); ++etat) {
+    if (etat % 40 == 0) compteur.Nouvelle(plain::SymbolesAuHasard(hasard, 4));
+    if (etat % 40 == hasard.Entier(12)) compteur.Joue();
+    compteur.Tape(hasard);
+    if (etat % 5 != 0) continue;
+    compteur.Resous();
+    boites += compteur.Boites();
+  }
+  EXPECT_GT(compteur.ReprisesMax(), 4U);
+  EXPECT_GT(boites, 1000);
+}
+
+TEST(Fin, PlateauxContradictoiresVidesEtIncomplets) {
+  Hasard hasard(9);
+  Compteur compteur;
+  for (int k = 0; k < 3000 && !testing::Test::HasFailure(); ++k) {
+    const int n = k % 2 == 0 ? 4 : 9;
+    compteur.Charge(k % 3 == 0 ? plain::PlateauAResoudre(hasard, n) : plain::PlateauAuHasard(hasard, n));
+    compteur.Resous();
+  }
+  EXPECT_GT(compteur.ReprisesMax(), 4U);
+}
+
+}  // namespace
+}  // namespace sudoku
