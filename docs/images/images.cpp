@@ -5,6 +5,7 @@
 //   coche NOM          clicks a check box of the assistant
 //   case I             gives the focus to cell I
 //   tape I SYMBOLE     types into cell I
+//   tic S              the clock ticks, S seconds after the start
 //   modale IMAGE       the next modal window is drawn into IMAGE and left by its default button
 //   image IMAGE        draws the main window and, beside it, the assistant if it is open
 
@@ -33,6 +34,9 @@ constexpr int kMarge = 12;
 class SystemePourImages : public SystemeSansJoueur {
  public:
   bool Question(TexteVue) override { return true; }
+  // Time stands still, so that a picture drawn again is the same.
+  std::int64_t Maintenant() override { return heure_; }
+  void MetHeure(std::int64_t secondes) { heure_ = 1000 * secondes; }
   void Ajoute(Fenetre& fenetre) override {
     toutes_.push_back(&fenetre);
     SystemeSansJoueur::Ajoute(fenetre);
@@ -58,6 +62,7 @@ class SystemePourImages : public SystemeSansJoueur {
  private:
   std::vector<Fenetre*> toutes_;
   std::string modale_;
+  std::int64_t heure_ = 0;
 };
 
 class Images {
@@ -73,6 +78,7 @@ class Images {
         {"case", [&] { Principale().plateau.SetFocus(std::stoi(mot)); }},
         {"tape",
          [&] { Principale().plateau.Saisit(std::stoi(mot), DepuisQt(QString::fromStdString(symbole))); }},
+        {"tic", [&] { Tic(std::stoi(mot)); }},
         {"modale", [&] { systeme_->DessineProchaineModale(mot); }}};
     if (nom == "image") return Dessine(QString::fromStdString(mot));
     const auto commande = commandes.find(nom);
@@ -86,6 +92,11 @@ class Images {
 
   void Ouvre(const std::string& fichier) {
     programme_->Demarre(DepuisQt('"' + QString::fromStdString(fichier) + '"'));
+  }
+
+  void Tic(int secondes) {
+    systeme_->MetHeure(secondes);
+    programme_->Principale().Tmr().Timer();
   }
 
   QPixmap Vue(const Fenetre& fenetre) {
