@@ -156,10 +156,8 @@ bool SessionVue::Nom(TexteVue nom) {
   if (BoiteDuPlateau(nom) || ArticleOuMenu(octets)) return true;
   Fenetre* modale = systeme_.FenetreModale();
   if (modale != nullptr && DansFenetre(*modale, octets)) return true;
-  for (Fenetre* fenetre : systeme_.Fenetres()) {
-    if (DansFenetre(*fenetre, octets)) return true;
-  }
-  return false;
+  return std::ranges::any_of(systeme_.Fenetres(),
+                             [&](Fenetre* fenetre) { return DansFenetre(*fenetre, octets); });
 }
 
 void SessionVue::Liste(const Element& liste) {

@@ -40,7 +40,7 @@ class Scene {
  public:
   explicit Scene(const Depart& depart) : depart_(depart), dossier_(NouveauDossier()) {
     EcritOctets(Fichier(), kAncien);
-    joueur.reponses.push_back([](Boite& boite) { ChoisitPartie(boite, 0); });
+    joueur.reponses.emplace_back([](Boite& boite) { ChoisitPartie(boite, 0); });
     joueur.Demarre(Fichier());
     joueur.Tape(2, U"2");
     if (!depart.fichier) fs::remove(Fichier());

@@ -37,10 +37,7 @@ bool Porte(TexteVue texte, char32_t symbole) {
   }();
   const auto bas = [](char32_t c) { return c < minuscules.size() ? minuscules[c] : Minuscule(c); };
   const char32_t cherche = bas(symbole);
-  for (const char32_t c : texte) {
-    if (bas(c) == cherche) return true;
-  }
-  return false;
+  return std::ranges::any_of(texte, [&](char32_t c) { return bas(c) == cherche; });
 }
 
 void Retire(ClsPos& c, TexteVue valeur, bool& trouve, TexteVue explication) {

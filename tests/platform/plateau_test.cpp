@@ -13,7 +13,7 @@ class PlateauTest : public testing::Test {
  protected:
   PlateauTest() {
     for (int i = 0; i < 4; ++i) plateau_.AjouteCase(240 + 390 * i, 600);
-    plateau_.Change = [this](int Index) { textes_.push_back({Index, plateau_.TxtCase(Index).Text}); };
+    plateau_.Change = [this](int Index) { textes_.emplace_back(Index, plateau_.TxtCase(Index).Text); };
     plateau_.GotFocus = [this](int Index) { focus_.push_back(Index); };
   }
   std::vector<std::int32_t> Changees() {

@@ -23,11 +23,6 @@ QString TexteDe(QWidget& boite) {
   return boite.findChild<QLabel*>()->text();
 }
 
-const auto kEntree = [](QWidget& boite) {
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-  (void)boite;
-};
-
 // Tests on two platforms may run at once.
 std::string Fichier(const char* nom) {
   return testing::TempDir() + nom + "-" + QGuiApplication::platformName().toStdString() + ".sud";

@@ -37,7 +37,7 @@ class UnPlateau : public testing::Test {
     j.NouvelleGrille(symboles);
     const auto change = j.LePlateau().Change;
     j.LePlateau().Change = [this, change](int i) {
-      if (j.Jeu().Jeu().VgEtat != kAffichage) changements.push_back({i, j.LePlateau().TxtCase(i).Text});
+      if (j.Jeu().Jeu().VgEtat != kAffichage) changements.emplace_back(i, j.LePlateau().TxtCase(i).Text);
       change(i);
     };
   }

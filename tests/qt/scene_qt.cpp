@@ -189,7 +189,7 @@ void SceneQt::Ferme(Fenetre& fenetre) {
 
 void SceneQt::Selectionne(Fenetre& fenetre, Element& liste, int position) {
   auto* ecran = dynamic_cast<QListWidget*>(Trouve(fenetre, liste.Name));
-  if (ecran == nullptr) ecran = dynamic_cast<QListWidget*>(Trouve(fenetre, liste.Name + ".liste"));
+  if (ecran == nullptr) ecran = &dynamic_cast<QListWidget&>(*Trouve(fenetre, liste.Name + ".liste"));
   if (position < 0) return ecran->clearSelection();
   ecran->scrollToItem(ecran->item(position));
   QTest::mouseClick(ecran->viewport(), Qt::LeftButton, {},

@@ -80,7 +80,7 @@ TEST(EcritSud, RelitEtRecritALOctetPourToutesLesTailles) {
       GameState jeu;
       Grille grille = Grille::Nouvelle(jeu, symboles);
       for (int i = 1; i <= grille.Borne(); i += 3) {
-        grille(i).Load(symboles.substr(static_cast<std::size_t>(i) % N, 1), i % 4);
+        grille(i).Load(symboles.substr(static_cast<std::size_t>(i) % symboles.size(), 1), i % 4);
       }
       const std::vector<ClsPartie> parties = {{}, {U"Œuvre-d'été €", ChaineEtats(grille)}, {U"", U""}};
       const std::vector<TypScore> scores = {{}, {U"Jean-Luc", Jours(197'000)}, {U"", Jours(90'609'000)}};
