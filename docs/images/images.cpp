@@ -12,7 +12,6 @@
 #include <QApplication>
 #include <QPainter>
 #include <QPixmap>
-#include <cstdlib>
 #include <functional>
 #include <iostream>
 #include <map>
@@ -139,5 +138,5 @@ int main(int argc, char** argv) {
     std::cerr << "ligne refusée : " << ligne << '\n';
     return 1;
   }
-  std::_Exit(0);  // as the game ends: with its windows open
+  return 0;
 }

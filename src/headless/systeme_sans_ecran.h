@@ -37,6 +37,7 @@ class SystemeSansEcran : public Systeme {
   void Fichier(DemandeFichier& demande) override;
   void MontreModale(Fenetre& fenetre) override;
   void Ajoute(Fenetre& fenetre) override { fenetres_.push_back(&fenetre); }
+  void Retire(Fenetre& fenetre) override { std::erase(fenetres_, &fenetre); }
   void DoEvents() override {}
   [[noreturn]] void Fin() override;
   std::int64_t Maintenant() override { return maintenant_; }

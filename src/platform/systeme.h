@@ -69,6 +69,8 @@ class Systeme {
   // Makes a window known that stays for the whole run: from now on it is on the screen while it is Visible,
   // and its timers tick.
   virtual void Ajoute(Fenetre& fenetre) = 0;
+  // Takes it off the screen for good, while all that its handlers need is still there.
+  virtual void Retire(Fenetre& fenetre) = 0;
   // Lets pending window events through.
   virtual void DoEvents() = 0;
   // The program ends at once: no further event, no return. A system that ends by an exception throws a type

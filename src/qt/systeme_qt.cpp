@@ -34,9 +34,7 @@ class SansAttente {
 
 SystemeQt::SystemeQt() = default;
 
-SystemeQt::~SystemeQt() {
-  while (!fenetres_.empty()) fenetres_.pop_back();  // the first owns the others
-}
+SystemeQt::~SystemeQt() = default;
 
 // ---- handlers
 
@@ -148,6 +146,14 @@ void SystemeQt::MontreModale(Fenetre& fenetre) {
 
 void SystemeQt::Ajoute(Fenetre& fenetre) {
   fenetres_.push_back({&fenetre, nullptr});
+}
+
+void SystemeQt::Retire(Fenetre& fenetre) {
+  const auto place = std::ranges::find(fenetres_, &fenetre, &Connue::fenetre);
+  if (place == fenetres_.end()) return;
+  fenetre.Visible = false;
+  if (place->qt) place->qt->hide();  // what is held in it is let go, and acts a last time
+  fenetres_.erase(place);
 }
 
 // ---- machine

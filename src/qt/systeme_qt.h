@@ -25,6 +25,7 @@ class SystemeQt : public Systeme, public Pilote {
   void Fichier(DemandeFichier& demande) override;
   void MontreModale(Fenetre& fenetre) override;
   void Ajoute(Fenetre& fenetre) override;
+  void Retire(Fenetre& fenetre) override;
   void DoEvents() override;
   [[noreturn]] void Fin() override;
   std::int64_t Maintenant() override;

@@ -13,6 +13,12 @@ Programme::Programme(Systeme& systeme)
   systeme.Ajoute(assistant_.LaFenetre());
 }
 
+Programme::~Programme() {
+  // The main window owns the other, and goes last.
+  principale_.LeSysteme().Retire(assistant_.LaFenetre());
+  principale_.LeSysteme().Retire(principale_.LaFenetre());
+}
+
 void Programme::Demarre(TexteVue ligneDeCommande) {
   principale_.Form_Load(ligneDeCommande);
 }

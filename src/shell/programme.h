@@ -13,6 +13,9 @@ namespace sudoku {
 class Programme {
  public:
   explicit Programme(Systeme& systeme);
+  ~Programme();
+  Programme(const Programme&) = delete;
+  Programme& operator=(const Programme&) = delete;
 
   // The start, with the command line as the system passes it: a path in double quotes, or nothing.
   void Demarre(TexteVue ligneDeCommande);
