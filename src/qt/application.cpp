@@ -52,6 +52,18 @@ void EcouteSignaux(SystemeQt& systeme) {
   for (const int signal : {SIGTERM, SIGINT, SIGHUP}) sigaction(signal, &action, nullptr);
 }
 
+// Of a display that can't be reached the toolkit says so and aborts, with a core dump: there is nothing in it
+// for whoever has no display. Of one that goes away it says so and ends the program.
+void NoteMessage(QtMsgType type, const QMessageLogContext&, const QString& texte) {
+  const bool perdu = texte.contains(QStringLiteral("connection broke"));
+  // Without a screen the toolkit complains about what it can't do, which nobody wanted.
+  if (!perdu && (avecEcran || type == QtFatalMsg)) std::fprintf(stderr, "%s\n", qPrintable(texte));
+  if (!perdu && type != QtFatalMsg) return;
+  std::fprintf(stderr, "Sudoku : l'affichage n'est %s accessible, le programme s'arrête.\n",
+               perdu ? "plus" : "pas");
+  std::_Exit(1);
+}
+
 // The toolkit's own style, on every desktop. The mark of what a menu bar has no room for, which ours never
 // needs, is not drawn at every start.
 class Style : public QProxyStyle {
@@ -68,14 +80,7 @@ class Style : public QProxyStyle {
 void PrepareAffichage(bool ecran) {
   avecEcran = ecran;
   if (!ecran) qputenv("QT_QPA_PLATFORM", "offscreen");
-  qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& texte) {
-    // Without a screen the toolkit complains about what it can't do, which nobody wanted.
-    if (avecEcran || type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(texte));
-    // The toolkit would abort, with a core dump: there is nothing in it for whoever has no display.
-    if (type != QtFatalMsg) return;
-    std::fputs("Sudoku : l'affichage n'est pas accessible, le programme s'arrête.\n", stderr);
-    std::_Exit(1);
-  });
+  qInstallMessageHandler(NoteMessage);
 }
 
 void PrepareApplication(QApplication& application) {

@@ -2,8 +2,11 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDeadlineTimer>
+#include <QEventLoop>
 #include <QProcess>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -106,8 +109,25 @@ bool SystemeQt::Dessus() const {
       fenetres_, [](const Connue& connue) { return connue.fenetre->Visible && connue.fenetre->TopMost; });
 }
 
+// A box is centred on its owner, and where the first window lies is known once it is on the screen.
+void SystemeQt::AttendsPremiere() {
+  constexpr int kPatience = 1000;  // milliseconds; a window manager may not put it there at all
+  if (premiereVue_ || fenetres_.empty() || !fenetres_.front().qt || fenetres_.front().qt->isHidden()) return;
+  premiereVue_ = true;
+  const QWindow& premiere = *fenetres_.front().qt->windowHandle();
+  const QDeadlineTimer patience(kPatience);
+  QEventLoop boucle;
+  QTimer guet;
+  QObject::connect(&guet, &QTimer::timeout, &boucle, [&] {
+    if (premiere.isExposed() || patience.hasExpired()) boucle.quit();
+  });
+  guet.start(1);
+  boucle.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
 PlaceDeBoite SystemeQt::Place(TexteVue titre) {
   SynchroniseTout();
+  AttendsPremiere();
   // A box without a title of its own bears the program's.
   if (titre.empty() && !fenetres_.empty()) titre = fenetres_.front().fenetre->Caption;
   return {Devant(), Dessus(), VersQt(titre)};
@@ -136,6 +156,7 @@ void SystemeQt::Fichier(DemandeFichier& demande) {
 void SystemeQt::MontreModale(Fenetre& fenetre) {
   const SansAttente sans;
   SynchroniseTout();
+  AttendsPremiere();
   QWidget* proprietaire = fenetre.proprietaire != nullptr ? FenetreDe(*fenetre.proprietaire) : nullptr;
   FenetreQt modale(fenetre, *this, proprietaire != nullptr ? proprietaire : Devant(),
                    {.modale = true, .dessus = Dessus()});

@@ -52,6 +52,7 @@ class SystemeQt : public Systeme, public Pilote {
   void SynchroniseTout();
   void FinDeHandler();
   PlaceDeBoite Place(TexteVue titre);
+  void AttendsPremiere();
   QWidget* Devant() const;
   bool Dessus() const;
 
@@ -60,6 +61,7 @@ class SystemeQt : public Systeme, public Pilote {
   std::vector<FenetreQt*> modales_;
   int profondeur_ = 0;
   bool fermetureDemandee_ = false;
+  bool premiereVue_ = false;
 };
 
 }  // namespace sudoku
