@@ -5,9 +5,11 @@
 
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QSessionManager>
 #include <QSocketNotifier>
+#include <QStyleOption>
 #include <QTimer>
 #include <QTranslator>
 #include <csignal>
@@ -72,6 +74,14 @@ class Style : public QProxyStyle {
   QIcon standardIcon(StandardPixmap quoi, const QStyleOption* option, const QWidget* widget) const override {
     if (quoi == SP_ToolBarHorizontalExtensionButton) return {};
     return QProxyStyle::standardIcon(quoi, option, widget);
+  }
+  // The bar's ground is that of the window. It is filled last, with its entries left out by a clipping that a
+  // picture of lines (SVG) doesn't know: only the line below it is drawn.
+  void drawControl(ControlElement quoi, const QStyleOption* option, QPainter* p,
+                   const QWidget* widget) const override {
+    if (quoi != CE_MenuBarEmptyArea) return QProxyStyle::drawControl(quoi, option, p, widget);
+    p->setPen(option->palette.window().color().darker(112));
+    p->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
   }
 };
 
