@@ -5,7 +5,9 @@ namespace {
 
 using Genre = Argument::Genre;
 
-std::size_t At(int i) { return static_cast<std::size_t>(i); }
+std::size_t At(int i) {
+  return static_cast<std::size_t>(i);
+}
 
 constexpr TexteVue kDe[] = {U" de la colonne ", U" de la ligne ", U" du carré "};
 constexpr TexteVue kDes[] = {U" des colonnes ", U" des lignes ", U" des carrés "};
@@ -43,7 +45,9 @@ class Redacteur {
   }
 
  private:
-  std::uint32_t MasqueB(const Argument& a) const { return a.masques + static_cast<std::uint32_t>(bloc_.mots); }
+  std::uint32_t MasqueB(const Argument& a) const {
+    return a.masques + static_cast<std::uint32_t>(bloc_.mots);
+  }
   Texte Symbole(const Argument& a) const { return bloc_.alphabet->TexteDe(a.symbole); }
   static Texte Unite(const Argument& a) { return Texte(kDe[a.type]) + Decimal(a.unite); }
 

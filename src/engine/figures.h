@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "engine/effectifs.h"
 #include "engine/tableau.h"
 
 namespace sudoku::SUDOKU_MOTEUR {
@@ -22,10 +23,10 @@ class Figures {
   using M = Masque<W>;
 
   struct Figure {
-    std::int16_t type;    // T1: kind of the units of the figure
-    std::int16_t unite;   // the first of them
+    std::int16_t type;   // T1: kind of the units of the figure
+    std::int16_t unite;  // the first of them
     std::int16_t symbole;
-    std::int16_t type2;   // T2: kind of the units it is confined to
+    std::int16_t type2;  // T2: kind of the units it is confined to
     M unites;
     M cle;
   };

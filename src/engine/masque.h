@@ -7,7 +7,9 @@
 
 namespace sudoku::SUDOKU_MOTEUR {
 
-inline std::size_t At(int i) { return static_cast<std::size_t>(i); }
+inline std::size_t At(int i) {
+  return static_cast<std::size_t>(i);
+}
 
 // A set of small numbers (symbols of the grid, places in a unit, units of a kind), W words of 64.
 template <int W>
@@ -60,10 +62,16 @@ struct Masque {
   bool Croise(const Masque& autre) const { return !(*this & autre).Vide(); }
   bool Dans(const Masque& autre) const { return Sauf(autre).Vide(); }
 
-  Masque operator&(const Masque& b) const { return Combine(b, [](auto x, auto y) { return x & y; }); }
-  Masque operator|(const Masque& b) const { return Combine(b, [](auto x, auto y) { return x | y; }); }
+  Masque operator&(const Masque& b) const {
+    return Combine(b, [](auto x, auto y) { return x & y; });
+  }
+  Masque operator|(const Masque& b) const {
+    return Combine(b, [](auto x, auto y) { return x | y; });
+  }
   // Those of this set that `b` lacks.
-  Masque Sauf(const Masque& b) const { return Combine(b, [](auto x, auto y) { return x & ~y; }); }
+  Masque Sauf(const Masque& b) const {
+    return Combine(b, [](auto x, auto y) { return x & ~y; });
+  }
   Masque& operator|=(const Masque& b) { return *this = *this | b; }
   bool operator==(const Masque& b) const {
     std::uint64_t difference = 0;

@@ -1,5 +1,7 @@
 #include "engine/moteur.h"
 
+#include "engine/processeur.h"
+
 namespace sudoku {
 
 namespace moteur_base {
@@ -9,16 +11,16 @@ std::unique_ptr<Moteur> Fabrique(int N);
 namespace moteur_avx2 {
 std::unique_ptr<Moteur> Fabrique(int N);
 }
+namespace moteur_avx512 {
+std::unique_ptr<Moteur> Fabrique(int N);
+}
 #endif
 
 std::vector<FaitMoteur> VersionsMoteur() {
   std::vector<FaitMoteur> versions;
 #if defined(SUDOKU_VERSIONS_X86)
-  // Where bmi2 is, lzcnt is; clang 14 can't be asked for it.
-  if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2") &&
-      __builtin_cpu_supports("popcnt")) {
-    versions.push_back(moteur_avx2::Fabrique);
-  }
+  if (ProcesseurAvx512()) versions.push_back(moteur_avx512::Fabrique);
+  if (ProcesseurAvx2()) versions.push_back(moteur_avx2::Fabrique);
 #endif
   versions.push_back(moteur_base::Fabrique);
   return versions;

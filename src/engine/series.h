@@ -2,12 +2,13 @@
 
 #include <vector>
 
+#include "engine/effectifs.h"
 #include "engine/tableau.h"
 
 namespace sudoku::SUDOKU_MOTEUR {
 
-// The deductions within one unit, always in this order: hidden singles and locked candidates in one sweep over
-// the symbols, then hidden sets, then naked sets, of every size.
+// The deductions within one unit, always in this order: hidden singles and locked candidates in one sweep
+// over the symbols, then hidden sets, then naked sets, of every size.
 template <int W, int Cote>
 class Series {
  public:
@@ -20,6 +21,14 @@ class Series {
  private:
   using M = Masque<W>;
 
+  // A symbol with two places or more.
+  struct Lieux {
+    int symbole;
+    int nombre;  // of places
+    int fois;    // the symbol stands so often in VmValeurs
+    M places;
+  };
+
   bool TestSerie(int type, int unite);
   M Reste();
   void Symbole(int s, int p);
@@ -29,11 +38,11 @@ class Series {
   void Verrouille(int s, int p, const M& lieux);
   void Inference(int type, int unite, const M& horsDe, int s, int p, const M& lieux);
   void InferenceAvecTextes(int type, int unite, int s, int p, const M& lieux);
-  void EnsemblesCaches();
+  void EnsemblesCaches(const M& reste);
   void Cache(int rang);
   void EnsemblesNus();
   void CompteNus(int depuis);
-  void Nu(int place);
+  bool Nu(int place);
   void EnsemblesNusEnTextes();
   bool MemesSymboles(const M& a, const M& b) const;
   int Cellule(int place) const { return serie_[place]; }
@@ -43,15 +52,10 @@ class Series {
   int unite_ = 0;
   const std::int16_t* serie_ = nullptr;  // the cells of the unit
   bool resultat_ = false;
-  // Symbols with two places or more, ascending: places, how often each was noted, a set begins here.
-  struct Lieux {
-    int symbole;
-    M places;
-    int fois;
-    bool ensemble;
-  };
-  std::vector<Lieux> lieux_;
-  std::vector<char> nus_;  // by place: the naked set that begins here has as many cells as symbols
+  M plusieurs_;               // symbols of the unit with two places or more
+  Effectifs<W> effectifs_;    // of their places, or of the cells' candidates
+  std::vector<Lieux> lieux_;  // ascending
+  std::vector<int> debuts_;   // where hidden sets begin in lieux_, or naked ones in the unit; descending
 };
 
 }  // namespace sudoku::SUDOKU_MOTEUR

@@ -10,7 +10,8 @@
 namespace sudoku {
 
 // What a cell holds, as a number: 0 to N-1 is the symbol at that position of VmValeurs; from N on a text that
-// is no symbol as written there (another case, a foreign character, several characters), numbered as it comes.
+// is no symbol as written there (another case, a foreign character, several characters), numbered as it
+// comes.
 using Code = std::int32_t;
 inline constexpr Code kVide = -1;  // the empty text
 
@@ -27,11 +28,11 @@ class Alphabet {
   // The number of a text, made if it is new. kVide for the empty text.
   Code Numero(TexteVue texte);
   // The text of a number. The empty text for kVide.
-  const Texte& TexteDe(Code code) const { return code == kVide ? vide_ : textes_[Rang(code)].texte; }
+  const Texte& TexteDe(Code code) const { return code == kVide ? vide_ : textes_[Rang(code)]; }
   // First position equal to this text; -1 where it is no single symbol.
-  int Position(Code code) const { return code == kVide ? -1 : textes_[Rang(code)].position; }
+  int Position(Code code) const { return code == kVide ? -1 : positions_[Rang(code)]; }
   // The text has more than one character.
-  bool Long(Code code) const { return code >= taille_ && textes_[Rang(code)].texte.size() > 1; }
+  bool Long(Code code) const { return code >= taille_ && TexteDe(code).size() > 1; }
 
   // Ignoring case: the two texts are equal.
   bool Egaux(Code a, Code b) const;
@@ -42,16 +43,13 @@ class Alphabet {
   int Premiere(int p) const { return egales_[static_cast<std::size_t>(p)].front(); }
 
  private:
-  struct Entree {
-    Texte texte;
-    int position;
-  };
   static std::size_t Rang(Code code) { return static_cast<std::size_t>(code); }
 
   int taille_;
   Texte symboles_;
   Texte vide_;
-  std::deque<Entree> textes_;  // a deque: references to texts stay good while it grows
+  std::deque<Texte> textes_;    // a deque: references to texts stay good while it grows
+  std::vector<int> positions_;  // of the texts
   std::unordered_map<Texte, Code> codes_;
   std::vector<std::vector<std::int16_t>> egales_;
 };

@@ -5,13 +5,21 @@
 namespace sudoku {
 namespace {
 
-std::size_t At(int i) { return static_cast<std::size_t>(i); }
+std::size_t At(int i) {
+  return static_cast<std::size_t>(i);
+}
 
 }  // namespace
 
-std::int16_t ClsPos::Ligne() const { return bloc_->geometrie->Unite(kLigne, index_); }
-std::int16_t ClsPos::Colonne() const { return bloc_->geometrie->Unite(kColonne, index_); }
-std::int16_t ClsPos::Carre() const { return bloc_->geometrie->Unite(kCarre, index_); }
+std::int16_t ClsPos::Ligne() const {
+  return bloc_->geometrie->Unite(kLigne, index_);
+}
+std::int16_t ClsPos::Colonne() const {
+  return bloc_->geometrie->Unite(kColonne, index_);
+}
+std::int16_t ClsPos::Carre() const {
+  return bloc_->geometrie->Unite(kCarre, index_);
+}
 
 Texte ClsPos::Possible() const {
   const Bloc& bloc = *bloc_;
@@ -23,9 +31,15 @@ Texte ClsPos::Possible() const {
   return possible;
 }
 
-const Texte& ClsPos::SolutionSure() const { return bloc_->alphabet->TexteDe(bloc_->sure[At(index_)]); }
-const Texte& ClsPos::SolutionPoss() const { return bloc_->alphabet->TexteDe(bloc_->poss[At(index_)]); }
-std::int32_t ClsPos::Etat() const { return bloc_->etat[At(index_)]; }
+const Texte& ClsPos::SolutionSure() const {
+  return bloc_->alphabet->TexteDe(bloc_->sure[At(index_)]);
+}
+const Texte& ClsPos::SolutionPoss() const {
+  return bloc_->alphabet->TexteDe(bloc_->poss[At(index_)]);
+}
+std::int32_t ClsPos::Etat() const {
+  return bloc_->etat[At(index_)];
+}
 
 const Texte& ClsPos::Valeur() const {
   return bloc_->alphabet->TexteDe(bloc_->Compte(index_) ? bloc_->saisie[At(index_)] : kVide);
@@ -40,8 +54,7 @@ void ClsPos::Valeur(TexteVue Value) {
   if (code == kVide) {
     etat = kProuvee;
   } else if (jeu.VgEtat == kSaisieGrille) {
-    const bool accepte =
-        bloc_->Permet(index_, code) && (sure == kVide || bloc_->alphabet->Egaux(sure, code));
+    const bool accepte = bloc_->Permet(index_, code) && (sure == kVide || bloc_->alphabet->Egaux(sure, code));
     if (!accepte) {
       jeu.Message(U"Impossible");
       return;
@@ -55,7 +68,9 @@ void ClsPos::Valeur(TexteVue Value) {
   bloc_->saisie[At(index_)] = code;
 }
 
-const Texte& ClsPos::ValeurSaisie() const { return bloc_->alphabet->TexteDe(bloc_->saisie[At(index_)]); }
+const Texte& ClsPos::ValeurSaisie() const {
+  return bloc_->alphabet->TexteDe(bloc_->saisie[At(index_)]);
+}
 
 void ClsPos::Load(TexteVue LoadValue, std::int32_t LoadEtat) {
   bloc_->saisie[At(index_)] = bloc_->alphabet->Numero(LoadValue);

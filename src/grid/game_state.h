@@ -16,9 +16,9 @@ enum Mode : std::int32_t {
   kJeu = 2,
   kSecondePasse = 3,  // within an evaluation: unproved entries count
   kTermine = 4,
-  kAffichage = 5,     // the board is being rewritten: change events do nothing
-  kSauvePartie = 6,   // FRMParties asks for a name
-  kChargePartie = 7   // FRMParties asks for a game
+  kAffichage = 5,    // the board is being rewritten: change events do nothing
+  kSauvePartie = 6,  // FRMParties asks for a name
+  kChargePartie = 7  // FRMParties asks for a game
 };
 
 // A library entry: a game on the file's grid. Grille is a state string, two characters a cell: the content (a
@@ -51,8 +51,8 @@ struct GameState {
   std::int16_t VmTaille = 0;  // N
   Texte VmValeurs;            // the symbols
   Grille VmGrille;
-  Grille VmGrilleEtat;        // the solved copy
-  bool VsResolu = false;      // VmGrilleEtat is complete
+  Grille VmGrilleEtat;    // the solved copy
+  bool VsResolu = false;  // VmGrilleEtat is complete
   Instant VmDebut = 0;
   Instant VmFin = 0;
   Texte VmNom;  // path of the game file, empty without one

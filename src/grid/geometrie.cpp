@@ -5,7 +5,9 @@
 namespace sudoku {
 namespace {
 
-int Racine(std::size_t longueur) { return static_cast<int>(std::sqrt(static_cast<double>(longueur))); }
+int Racine(std::size_t longueur) {
+  return static_cast<int>(std::sqrt(static_cast<double>(longueur)));
+}
 
 }  // namespace
 

@@ -8,7 +8,9 @@
 namespace sudoku {
 namespace {
 
-std::size_t At(int i) { return static_cast<std::size_t>(i); }
+std::size_t At(int i) {
+  return static_cast<std::size_t>(i);
+}
 
 // The verdict on one player's entry whose Etat is 2 after the chance of step 3 -> 2.
 std::int32_t Juge(const Bloc& bloc, int cellule) {
@@ -49,8 +51,8 @@ bool Bloc::Permet(int cellule, Code code) const {
   }
   if (!alphabet->Long(code)) {
     const int position = alphabet->Position(code);
-    return position >= 0 && std::ranges::any_of(alphabet->Egales(position),
-                                                [&](int p) { return Candidat(cellule, p); });
+    return position >= 0 &&
+           std::ranges::any_of(alphabet->Egales(position), [&](int p) { return Candidat(cellule, p); });
   }
   return Contient(ClsPos(const_cast<Bloc*>(this), cellule).Possible(), alphabet->TexteDe(code));
 }
@@ -65,7 +67,8 @@ Grille Grille::Nouvelle(GameState& jeu, TexteVue VmValeurs) {
   bloc.mots = (bloc.geometrie->N() + 63) / 64;
   const std::size_t taille = At(bloc.geometrie->Cases() + 1);
   bloc.etat.assign(taille, kDonnee);
-  for (auto* codes : {&bloc.saisie, &bloc.sure, &bloc.poss, &bloc.possibleTexte}) codes->assign(taille, kVide);
+  for (auto* codes : {&bloc.saisie, &bloc.sure, &bloc.poss, &bloc.possibleTexte})
+    codes->assign(taille, kVide);
   bloc.candidats.assign(taille * At(bloc.mots), 0);
   return grille;
 }

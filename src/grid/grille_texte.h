@@ -7,9 +7,9 @@
 
 namespace sudoku {
 
-// A grid as people write it: N*N cells on one line, or N lines of N, N being the number of symbols. A cell is a
-// symbol (ignoring case) or one of . 0 _ * and the blank, which stand for an empty cell. Frames of | - + and
-// lines without any cell are left out; a character that is a symbol of the grid is never anything else.
+// A grid as people write it: N*N cells on one line, or N lines of N, N being the number of symbols. A cell is
+// a symbol (ignoring case) or one of . 0 _ * and the blank, which stand for an empty cell. Frames of | - +
+// and lines without any cell are left out; a character that is a symbol of the grid is never anything else.
 // Blanks are cells where that gives a grid, otherwise they only keep the cells apart ("5 3 . | . 7 .").
 //
 // Gives the N*N contents in the order of the cells, each as it is written or empty; nothing where the text is

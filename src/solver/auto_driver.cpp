@@ -46,11 +46,12 @@ void AutoDriver::JeuAuto(bool VpReset, bool VpGuess) {
   plateau_.Affiche();
 }
 
-// Solve pass and supposition by turns. It ends: a turn opens a level, or refutes for good a candidate of the last
-// one, or, where no cell is left to suppose in, ends the run or refutes. The cells of the levels ascend, so that no
-// more than N*N are open; a level has no more candidates than N or the symbols in its cell's text, say C; and one
-// that has none left closes with a box. So from box to box there are no more turns than 1 + N*N * (1 + C). What the
-// levels have refuted, the outer ones counting before the inner ones, only ever grows.
+// Solve pass and supposition by turns. It ends: a turn opens a level, or refutes for good a candidate of the
+// last one, or, where no cell is left to suppose in, ends the run or refutes. The cells of the levels ascend,
+// so that no more than N*N are open; a level has no more candidates than N or the symbols in its cell's text,
+// say C; and one that has none left closes with a box. So from box to box there are no more turns than 1 +
+// N*N * (1 + C). What the levels have refuted, the outer ones counting before the inner ones, only ever
+// grows.
 std::int16_t AutoDriver::Cherche(Travail& travail, bool VpGuess) {
   VlSupp_.Vide();
   rejouee_ = true;
@@ -83,9 +84,9 @@ bool AutoDriver::GuessResult(std::int16_t VpResultat, Travail& travail) {
   return true;
 }
 
-// Makes the next supposition, on the board rebuilt from the base and the live suppositions: a further candidate of
-// a refuted level, or a new level on the first open cell behind the last, after a solve pass. False: there is no
-// such cell.
+// Makes the next supposition, on the board rebuilt from the base and the live suppositions: a further
+// candidate of a refuted level, or a new level on the first open cell behind the last, after a solve pass.
+// False: there is no such cell.
 bool AutoDriver::Guess(Travail& travail) {
   travail.Detache();
   if (VlSupp_.Niveaux() > 0 && !VlSupp_.Dernier().vivante) {
@@ -93,8 +94,9 @@ bool AutoDriver::Guess(Travail& travail) {
     Rejoue(travail);
     return true;
   }
-  // The board of the last attempt won't do: what it wrote before its last supposition was found without it, and
-  // the deduction depends on its order. It will where that supposition was made on the very board of the base.
+  // The board of the last attempt won't do: what it wrote before its last supposition was found without it,
+  // and the deduction depends on its order. It will where that supposition was made on the very board of the
+  // base.
   if (!rejouee_) {
     Rejoue(travail);
     travail.JeuSolve(true);  // a contradiction is no matter here: a cell is looked for all the same

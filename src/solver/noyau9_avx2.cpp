@@ -1,2 +1,2 @@
-#define SUDOKU_NOYAU noyau_avx2
+#define SUDOKU_MOTEUR noyau_avx2
 #include "solver/noyau9_passe.inc"

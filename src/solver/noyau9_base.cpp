@@ -1,2 +1,2 @@
-#define SUDOKU_NOYAU noyau_base
+#define SUDOKU_MOTEUR noyau_base
 #include "solver/noyau9_passe.inc"

@@ -10,8 +10,8 @@ namespace sudoku {
 // The candidates of a cell, as numbers of the grid's alphabet, in the order in which they are tried.
 using Essai = std::vector<Code>;
 
-// One level of the search: a symbol supposed for a cell. The candidates are tried in the order of Possible, so
-// that those refuted so far, `refutees` of them, are its beginning, and the one supposed now comes next.
+// One level of the search: a symbol supposed for a cell. The candidates are tried in the order of Possible,
+// so that those refuted so far, `refutees` of them, are its beginning, and the one supposed now comes next.
 struct TSupposition {
   std::int16_t Index = 0;
   Essai Possible;  // the cell's candidates when the level was opened, two or more; never changed afterwards

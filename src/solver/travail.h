@@ -27,8 +27,8 @@ class Travail {
   virtual int CelluleOuverte(int cellule, Essai& Possible) = 0;
   // A symbol stands twice in a unit.
   virtual bool SymboleEnDouble() = 0;
-  // Where no cell is left to suppose in: wrong entries of the base take the one candidate that is left to them,
-  // and one solve pass follows.
+  // Where no cell is left to suppose in: wrong entries of the base take the one candidate that is left to
+  // them, and one solve pass follows.
   virtual std::int16_t Acheve() = 0;
   // Somebody is about to look at the player's grid.
   virtual void Montre() = 0;

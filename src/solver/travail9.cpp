@@ -11,12 +11,14 @@ namespace {
 constexpr int kCases = 81;
 constexpr int kTous = 0x1FF;
 
-std::size_t At(int i) { return static_cast<std::size_t>(i); }
+std::size_t At(int i) {
+  return static_cast<std::size_t>(i);
+}
 
 }  // namespace
 
 bool Travail9::Convient(const Grille& grille) {
-  if (grille.N() != 9 ) return false;
+  if (grille.N() != 9) return false;
   const Bloc& bloc = grille.Donnees();
   for (int p = 0; p < 9; ++p) {
     if (bloc.alphabet->Premiere(p) != p) return false;
@@ -48,7 +50,8 @@ Grille Travail9::Rend(bool contenus) {
     }
     GrilleCopy(grille_, copie_);
     rendue = copie_;
-    // The cells given out are the game's now; the old ones, unless somebody still sees them, serve the next run.
+    // The cells given out are the game's now; the old ones, unless somebody still sees them, serve the next
+    // run.
     copie_ = grille_;
   }
   if (auGeneral_) {
@@ -62,8 +65,8 @@ Grille Travail9::Rend(bool contenus) {
   return rendue;
 }
 
-// The contents that the run has written into `cases_`: proved ones while there is no base, or in it, all others
-// rest on suppositions.
+// The contents that the run has written into `cases_`: proved ones while there is no base, or in it, all
+// others rest on suppositions.
 void Travail9::Ecrit(Grille& grille) const {
   Bloc& bloc = grille.Donnees();
   for (int i = 1; i <= kCases; ++i) {
@@ -146,7 +149,9 @@ bool Travail9::SymboleEnDouble() {
 
 // The base has no wrong entries, and every cell that is open after a pass has several candidates, so that the
 // kernel itself never comes here.
-std::int16_t Travail9::Acheve() { return auGeneral_ ? general_.Acheve() : passe_.verdict; }
+std::int16_t Travail9::Acheve() {
+  return auGeneral_ ? general_.Acheve() : passe_.verdict;
+}
 
 void Travail9::Montre() {
   if (montree_) return;

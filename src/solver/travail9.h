@@ -9,7 +9,8 @@ namespace sudoku {
 // up to date when the run ends or somebody looks.
 class Travail9 : public Travail {
  public:
-  explicit Travail9(Evaluateur& moteur) : moteur_(moteur), general_(moteur), jeuSolve_(VersionsJeuSolve9().front()) {}
+  explicit Travail9(Evaluateur& moteur)
+      : moteur_(moteur), general_(moteur), jeuSolve_(VersionsJeuSolve9().front()) {}
 
   // The kernel can do this grid: nine different symbols, in every cell one of them or nothing, Etat 0 or 1.
   static bool Convient(const Grille& grille);

@@ -6,7 +6,9 @@
 namespace sudoku {
 namespace {
 
-std::size_t At(int i) { return static_cast<std::size_t>(i); }
+std::size_t At(int i) {
+  return static_cast<std::size_t>(i);
+}
 
 }  // namespace
 
@@ -16,7 +18,9 @@ void TravailGrille::Commence(const Grille& grille) {
   baseProuvee_ = false;
 }
 
-Grille TravailGrille::Rend() { return std::exchange(travail_, Grille()); }
+Grille TravailGrille::Rend() {
+  return std::exchange(travail_, Grille());
+}
 
 void TravailGrille::Charge(int cellule, Code symbole, std::int32_t etat) {
   travail_(cellule).Load(travail_.Donnees().alphabet->TexteDe(symbole), etat);

@@ -82,14 +82,14 @@ TEST(Comparaison, PartiesConnues) {
                                U".................6..1...9..2..6...2.");
   // A silent run that fails, contents alone: the solved copy stays at the base.
   const Plateau echec = Lit(U"123456789",
-                               U"838.57....17..9.4..2..8......2....5..98......"
-                               U"...7.6.8.....93..5..16..9......4....");
+                            U"838.57....17..9.4..2..8......2....5..98......"
+                            U"...7.6.8.....93..5..16..9......4....");
   // A text that takes the first of two equal letters: the sets still go by the first one's position.
   const Plateau lettres = Lit(U"EBdhgfGcCFHbAeaD",
-                               U"..........................................G....f................"
-                               U"...................G........GfG...............GfffGffffGffGGfGff"
-                               U".......................................................f..G....."
-                               U"....G.....................................f.....GGf..GG...Gf...G");
+                              U"..........................................G....f................"
+                              U"...................G........GfG...............GfffGffffGffGGfGff"
+                              U".......................................................f..G....."
+                              U"....G.....................................f.....GGf..GG...Gf...G");
   const Partie parties[] = {
       {{.genre = Genre::kCharge, .plateau = etranger}, {.genre = Genre::kEvalue, .nombre = 2}},
       {{.genre = Genre::kCharge, .plateau = Lit(U"aAbB", U"................")},

@@ -1,5 +1,5 @@
-// The hot code is compiled for several instruction sets. Each version that this machine runs has to give what the
-// others give, on boards of every kind that a search meets.
+// The hot code is compiled for several instruction sets. Each version that this machine runs has to give what
+// the others give, on boards of every kind that a search meets.
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,9 @@ namespace sudoku {
 namespace {
 
 // A full grid's symbol, by shifted rows.
-int Pleine(int N, int S, int cellule) { return (cellule / N % S * S + cellule / N / S + cellule % N) % N; }
+int Pleine(int N, int S, int cellule) {
+  return (cellule / N % S * S + cellule / N / S + cellule % N) % N;
+}
 
 // A board from right to hopeless: `erreurs` in a thousand contents are wrong.
 Cases9 Alea9(std::mt19937& suite, std::uint_fast32_t remplissage, std::uint_fast32_t erreurs) {

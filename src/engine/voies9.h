@@ -11,9 +11,9 @@
 #endif
 
 // Sixteen 16-bit lanes and the few operations that the kernel for grids of side 9 needs, written once in the
-// compilers' vector extension; what that can't say well has a version for each instruction set. Each version of
-// the kernel has its own, in its own namespace SUDOKU_NOYAU, so that no two of them share a function.
-namespace sudoku::SUDOKU_NOYAU {
+// compilers' vector extension; what that can't say well has a version for each instruction set. Each version
+// of the kernel has its own, in its own namespace SUDOKU_MOTEUR, so that no two of them share a function.
+namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
 using V16 = std::uint16_t __attribute__((vector_size(32)));
@@ -23,8 +23,12 @@ inline V16 Lit(const std::uint16_t* p) {
   std::memcpy(&v, p, sizeof v);
   return v;
 }
-inline void Range(std::uint16_t* p, V16 v) { std::memcpy(p, &v, sizeof v); }
-inline V16 Partout(int n) { return V16{} + static_cast<std::uint16_t>(n); }
+inline void Range(std::uint16_t* p, V16 v) {
+  std::memcpy(p, &v, sizeof v);
+}
+inline V16 Partout(int n) {
+  return V16{} + static_cast<std::uint16_t>(n);
+}
 
 // A bit a lane, from a vector of lanes all ones or all zero.
 inline std::uint32_t Bits(V16 masque) {
@@ -41,15 +45,19 @@ inline std::uint32_t Bits(V16 masque) {
 #endif
 }
 
-inline V16 NonNul(V16 v) { return reinterpret_cast<V16>(v != 0); }
-inline V16 Egales(V16 a, V16 b) { return reinterpret_cast<V16>(a == b); }
+inline V16 NonNul(V16 v) {
+  return reinterpret_cast<V16>(v != 0);
+}
+inline V16 Egales(V16 a, V16 b) {
+  return reinterpret_cast<V16>(a == b);
+}
 
 // Lane i gets lane i + d; what comes from beyond is lane 15, which is 0 in every vector of nine lanes.
 template <int d>
 inline V16 Descend(V16 v) {
   constexpr auto k = [](int i) { return i + d < 9 ? i + d : 15; };
-  return __builtin_shufflevector(v, v, k(0), k(1), k(2), k(3), k(4), k(5), k(6), k(7), k(8), 15, 15, 15, 15, 15,
-                                 15, 15);
+  return __builtin_shufflevector(v, v, k(0), k(1), k(2), k(3), k(4), k(5), k(6), k(7), k(8), 15, 15, 15, 15,
+                                 15, 15, 15);
 }
 
 inline V16 Comptes(V16 v) {
@@ -77,7 +85,9 @@ inline std::uint32_t Ensembles(V16 cles, V16 comptes) {
   egales -= Egales(cles, Descend<8>(cles));
   return Bits(Egales(egales, comptes) & reinterpret_cast<V16>(comptes > 1));
 }
-inline std::uint32_t Ensembles(V16 masques) { return Ensembles(masques, Comptes(masques)); }
+inline std::uint32_t Ensembles(V16 masques) {
+  return Ensembles(masques, Comptes(masques));
+}
 
 }  // namespace
-}  // namespace sudoku::SUDOKU_NOYAU
+}  // namespace sudoku::SUDOKU_MOTEUR
