@@ -18,8 +18,10 @@
 namespace sudoku {
 namespace {
 
-Qt::WindowFlags Drapeaux(const Fenetre& fenetre, bool modale) {
-  Qt::WindowFlags drapeaux = fenetre.Dialogue || modale ? Qt::Dialog : Qt::Window;
+// A window beside the first is a tool: the window manager keeps it above its owner, and doesn't lay it over
+// it.
+Qt::WindowFlags Drapeaux(const Fenetre& fenetre, bool modale, bool outil) {
+  Qt::WindowFlags drapeaux = fenetre.Dialogue || modale ? Qt::Dialog : outil ? Qt::Tool : Qt::Window;
   drapeaux |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
   if (fenetre.ControlBox) drapeaux |= Qt::WindowCloseButtonHint;
   if (fenetre.TopMost) drapeaux |= Qt::WindowStaysOnTopHint;
@@ -29,7 +31,7 @@ Qt::WindowFlags Drapeaux(const Fenetre& fenetre, bool modale) {
 }  // namespace
 
 FenetreQt::FenetreQt(Fenetre& fenetre, Pilote& pilote, QWidget* proprietaire, Maniere maniere)
-    : QWidget(proprietaire, Drapeaux(fenetre, maniere.modale)),
+    : QWidget(proprietaire, Drapeaux(fenetre, maniere.modale, proprietaire != nullptr)),
       fenetre_(fenetre),
       pilote_(pilote),
       fond_(new QWidget(this)),
@@ -143,10 +145,7 @@ void FenetreQt::Synchronise() {
   }
   if (plateau_ != nullptr) plateau_->Synchronise();
   SuitPile();
-  if (isHidden() == fenetre_.Visible) {
-    TientAuProprietaire();
-    setVisible(fenetre_.Visible);
-  }
+  if (isHidden() == fenetre_.Visible) setVisible(fenetre_.Visible);
   if (fenetre_.fermee) boucle_.quit();
 }
 
@@ -156,13 +155,6 @@ void FenetreQt::SuitPile() {
   if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == voulu) return;
   overrideWindowFlags(windowFlags().setFlag(Qt::WindowStaysOnTopHint, voulu));
   if (QWindow* fenetre = windowHandle()) fenetre->setFlag(Qt::WindowStaysOnTopHint, voulu);
-}
-
-// The window manager keeps it above its owner.
-void FenetreQt::TientAuProprietaire() {
-  if (parentWidget() == nullptr || windowHandle() != nullptr) return;
-  winId();
-  windowHandle()->setTransientParent(parentWidget()->windowHandle());
 }
 
 void FenetreQt::Modale() {

@@ -69,7 +69,6 @@ class FenetreQt : public QWidget {
   void Sonne(std::size_t n);
 
   void SuitPile();
-  void TientAuProprietaire();
   void Dispose();
   QSize Disponible() const;
   void RentreDansLEcran();
