@@ -115,6 +115,7 @@ void SystemeQt::AttendsPremiere() {
   if (premiereVue_ || fenetres_.empty() || !fenetres_.front().qt || fenetres_.front().qt->isHidden()) return;
   premiereVue_ = true;
   const QWindow& premiere = *fenetres_.front().qt->windowHandle();
+  if (premiere.isExposed()) return;
   const QDeadlineTimer patience(kPatience);
   QEventLoop boucle;
   QTimer guet;

@@ -56,9 +56,11 @@ void SceneQt::Planifie() {
 }
 
 void SceneQt::Pas() {
-  // A box that the window manager hasn't put on the screen yet has no size to click on.
+  // A box that the window manager hasn't put on the screen yet, or that waits for its window to be there, has
+  // no size to click on.
   const QWidget* modale = QApplication::activeModalWidget();
-  if (modale != nullptr && !modale->windowHandle()->isExposed()) return Planifie();
+  const bool vue = modale != nullptr && modale->windowHandle()->isExposed();
+  if (!vue && (modale != nullptr || papier_.Dessus() != nullptr)) return Planifie();
   const Boite* boite = papier_.Dessus();
   const bool suite = avance_();
   if (!suite) {
