@@ -26,10 +26,10 @@ struct Croisements9 {
 
 struct TousLesLieux9 {
   Lieu9 lieux[81];
-  std::uint8_t cellules[27][9];
+  std::uint8_t cellules[27][9] = {};
   Croisements9 croisements[27];
 
-  constexpr TousLesLieux9() : lieux(), cellules(), croisements() {
+  constexpr TousLesLieux9() : lieux(), croisements() {
     for (int i = 0; i < 81; ++i) {
       const int ligne = i / 9;
       const int colonne = i % 9;
