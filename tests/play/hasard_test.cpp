@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cstdlib>
 #include <deque>
 #include <filesystem>
-#include <istream>
+#include <fstream>
+#include <iostream>
 #include <random>
-#include <sstream>
 #include <streambuf>
 
 #include "apps/session.h"
@@ -59,6 +61,11 @@ class Joueuse {
   ~Joueuse() { std::filesystem::remove_all(dossier_); }
 
   void Joue() { session_.Joue(); }
+  // Has `quoi` called each time that a tenth of the commands is done.
+  void AChaqueDixieme(std::function<void()> quoi) {
+    dixieme_ = std::move(quoi);
+    part_ = lignes_.restantes / 10;
+  }
   int Fins() const { return fins_; }
   int Relectures() const { return relectures_; }
   int Modales() const { return modales_; }
@@ -173,6 +180,7 @@ class Joueuse {
       lignes_.restantes = 0;
       return;
     }
+    if (part_ > 0 && lignes_.restantes % part_ == 0) dixieme_();
     if (session_.LeSysteme().Dessus() != nullptr) return;
     const std::string rompu = invariants_.Rompu();
     EXPECT_EQ(rompu, "");
@@ -218,7 +226,7 @@ class Joueuse {
   unsigned graine_;
   Lignes lignes_;
   std::istream entree_;
-  std::ostringstream sortie_;
+  std::ostream sortie_{nullptr};
   FichiersDisque fichiers_;
   Session session_{entree_, sortie_, fichiers_};
   bool demarree_ = false;
@@ -228,6 +236,8 @@ class Joueuse {
   int fins_ = 0;
   int relectures_ = 0;
   int modales_ = 0;
+  std::function<void()> dixieme_;
+  int part_ = 0;
 };
 
 class Hasard : public testing::TestWithParam<unsigned> {};
@@ -242,6 +252,34 @@ TEST_P(Hasard, LePlateauMontreToujoursLesFiches) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Graines, Hasard, testing::Values(1U, 2U, 3U, 4U));
+
+long PagesEnMemoire() {
+  long taille = 0, presentes = 0;
+  std::ifstream("/proc/self/statm") >> taille >> presentes;
+  return presentes;
+}
+
+// SUDOKU_COMMANDES: how many commands; with more than a few, time and memory of each tenth are worth reading.
+TEST(Endurance, LaMemoireNeCroitPas) {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+  GTEST_SKIP() << "a sanitizer keeps what is freed";
+#endif
+  const char* const demandees = std::getenv("SUDOKU_COMMANDES");
+  Joueuse joueuse(5, demandees == nullptr ? 20000 : std::atoi(demandees));
+  std::vector<long> pages;
+  auto avant = std::chrono::steady_clock::now();
+  joueuse.AChaqueDixieme([&] {
+    pages.push_back(PagesEnMemoire());
+    const auto maintenant = std::chrono::steady_clock::now();
+    std::cout << pages.size() - 1 << "/10 : " << std::chrono::duration<double>(maintenant - avant).count()
+              << " s, " << pages.back() << " pages\n";
+    avant = maintenant;
+  });
+  joueuse.Joue();
+  ASSERT_EQ(pages.size(), 11U);
+  // Room for the allocator: a sixty-fourth, or 1 MiB. One grid of side 9 kept by each save would be more.
+  EXPECT_LE(pages[10], pages[3] + std::max(pages[3] / 64, 256L));
+}
 
 }  // namespace
 }  // namespace sudoku
