@@ -7,10 +7,7 @@ namespace sudoku {
 void Cases9::Vide() {
   std::memset(this, 0, sizeof *this);
   for (int i = 9; i < 16; ++i) lignesDe[i] = colonnesDe[i] = carresDe[i] = 0xFFFF;
-  for (int l = 0; l < 9; ++l) {
-    for (int c = 0; c < 9; ++c) ouvertesLigne[l][c] = ouvertesColonne[l][c] = 0xFFFF;
-    ouvertes[0][l] = ouvertes[1][l] = ouvertes[2][l] = 0x1FF;
-  }
+  for (int n = 0; n < 9; ++n) ouvertes[0][n] = ouvertes[1][n] = ouvertes[2][n] = 0x1FF;
 }
 
 void Cases9::Pose(int cellule, int symbole) {
@@ -28,8 +25,6 @@ void Cases9::Pose(int cellule, int symbole) {
   ouvertes[0][b] &= sauf(l % 3 * 3 + c % 3);
   ouvertes[1][l] &= sauf(c);
   ouvertes[2][c] &= sauf(l);
-  ouvertesLigne[l][c] = 0;
-  ouvertesColonne[c][l] = 0;
   valeur[cellule] = static_cast<std::uint8_t>(symbole + 1);
   ++remplies;
 }

@@ -16,9 +16,6 @@ struct Cases9 {
   alignas(32) std::uint16_t lignesDe[16];
   alignas(32) std::uint16_t colonnesDe[16];
   alignas(32) std::uint16_t carresDe[16];
-  // All ones where a cell is open, by row and by column; lanes 9 to 15 stay 0.
-  alignas(32) std::uint16_t ouvertesLigne[9][16];
-  alignas(32) std::uint16_t ouvertesColonne[9][16];
   std::uint16_t ouvertes[3][9];  // places of open cells in each block, row, column
   std::uint8_t valeur[81];       // 0 for an open cell, else the symbol + 1
   std::uint8_t remplies;         // cells that aren't open

@@ -27,28 +27,21 @@ class Effectifs {
   bool assez_ = false;
 };
 
-// Up to 64 masks: the counts for n below 8 are bytes of one word, those above are counted together, so that
-// for them the answer may be "yes" too often.
+// Up to 64 masks: the counts are bytes of one word. Those for n above 6 are one, so that for them the answer
+// may be "yes" too often.
 template <>
 class Effectifs<1> {
  public:
-  void Vide() { comptes_ = 0, grands_ = 0; }
-  void Note(int n) {
-    if (n < 8) {
-      comptes_ += std::uint64_t{1} << (8 * n);
-    } else {
-      ++grands_;
-    }
-  }
-  bool Assez() const { return Suffisants() != 0 || grands_ >= 8; }
-  bool Assez(int n) const { return n < 8 ? ((Suffisants() >> (8 * n)) & 0x80U) != 0 : grands_ >= n; }
+  void Vide() { comptes_ = 0; }
+  void Note(int n) { comptes_ += std::uint64_t{1} << Octet(n); }
+  // The top bit of byte n: n masks or more.
+  bool Assez() const { return ((comptes_ + 0x797A7B7C7D7E0000U) & 0x8080808080800000U) != 0; }
+  bool Assez(int n) const { return static_cast<int>((comptes_ >> Octet(n)) & 0xFFU) >= n; }
 
  private:
-  // The top bit of byte n: n masks or more.
-  std::uint64_t Suffisants() const { return (comptes_ + 0x797A7B7C7D7E0000U) & 0x8080808080800000U; }
+  static int Octet(int n) { return 8 * std::min(n, 7); }
 
   std::uint64_t comptes_ = 0;
-  int grands_ = 0;
 };
 
 }  // namespace sudoku::SUDOKU_MOTEUR

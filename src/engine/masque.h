@@ -72,6 +72,11 @@ struct Masque {
   Masque Sauf(const Masque& b) const {
     return Combine(b, [](auto x, auto y) { return x & ~y; });
   }
+  // All of them, or none; without a branch.
+  Masque Si(bool tous) const {
+    return Combine(
+        *this, [tous](auto x, auto) { return x & (std::uint64_t{0} - static_cast<std::uint64_t>(tous)); });
+  }
   Masque& operator|=(const Masque& b) { return *this = *this | b; }
   bool operator==(const Masque& b) const {
     std::uint64_t difference = 0;

@@ -55,7 +55,6 @@ class Series {
   M plusieurs_;               // symbols of the unit with two places or more
   Effectifs<W> effectifs_;    // of their places, or of the cells' candidates
   std::vector<Lieux> lieux_;  // ascending
-  std::vector<int> debuts_;   // where hidden sets begin in lieux_, or naked ones in the unit; descending
 };
 
 }  // namespace sudoku::SUDOKU_MOTEUR

@@ -70,8 +70,10 @@ struct Tableau {
   // How many places a symbol has in each unit of a kind.
   const std::uint8_t* Nombres(int type, int symbole) const { return &nombres[type][At(symbole * N())]; }
 
-  // Step 2 of a pass: candidates from nothing but the contents. True if some cell has Etat 2.
+  // Step 2 of a pass: candidates from nothing but the contents. True if some cell has Etat 2. AmorceSuite
+  // does it for a second pass that follows the first.
   bool Amorce();
+  void AmorceSuite();
   // Cells with one candidate get it as a solution.
   void Releve();
   // Turns the candidates round into places; everything is to be looked at.
@@ -104,6 +106,7 @@ struct Tableau {
   void ChaqueCase(F f) const;
   void AmorceCases();
   void AmorceCase(int i, const int (&unites)[3], const int (&lieux)[3]);
+  void Compte(int i, const int (&unites)[3]);
   void PlacesDesContenus();
   void PlacesDansLaBande(int g, int s);
   void PlacesDansLesPiles(int s);

@@ -52,6 +52,12 @@ inline V16 Egales(V16 a, V16 b) {
   return reinterpret_cast<V16>(a == b);
 }
 
+// Lanes 0 to 8 all ones where their bit is set.
+inline V16 Etale(int bits) {
+  constexpr V16 kUn = {1, 2, 4, 8, 16, 32, 64, 128, 256};
+  return NonNul(Partout(bits) & kUn);
+}
+
 // Lane i gets lane i + d; what comes from beyond is lane 15, which is 0 in every vector of nine lanes.
 template <int d>
 inline V16 Descend(V16 v) {
@@ -73,7 +79,7 @@ inline V16 Comptes(V16 v) {
 
 // Bits i where lane i of `cles` and the later lanes equal to it are as many as `comptes` says, two or more: a
 // set of equal lanes begins there. At most nine lanes are used.
-inline std::uint32_t Ensembles(V16 cles, V16 comptes) {
+[[gnu::always_inline]] inline std::uint32_t Ensembles(V16 cles, V16 comptes) {
   V16 egales = Partout(1);
   egales -= Egales(cles, Descend<1>(cles));
   egales -= Egales(cles, Descend<2>(cles));
