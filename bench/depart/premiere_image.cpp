@@ -5,9 +5,9 @@
 
 #include <QBackingStore>
 
-void QBackingStore::flush(const QRegion& zone, QWindow* fenetre, const QPoint& place) {
+void QBackingStore::flush(const QRegion& region, QWindow* window, const QPoint& offset) {
   using Flush = void (*)(QBackingStore*, const QRegion&, QWindow*, const QPoint&);
   constexpr const char* kNom = "_ZN13QBackingStore5flushERK7QRegionP7QWindowRK6QPoint";
-  reinterpret_cast<Flush>(dlsym(RTLD_NEXT, kNom))(this, zone, fenetre, place);
+  reinterpret_cast<Flush>(dlsym(RTLD_NEXT, kNom))(this, region, window, offset);
   _exit(0);
 }

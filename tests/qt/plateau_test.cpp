@@ -295,7 +295,7 @@ TEST_F(UnPlateau, UnLecteurDEcranEntendChaqueCase) {
             "vide, ligne 2, colonne 1, carré 1\n3, donnée, ligne 1, colonne 1, carré 1");
   // The clock changes every second, and says nothing.
   j.Menu(Qt::Key_J, Qt::Key_D);
-  lecteur.Oublie();
+  LecteurDEcran::Oublie();
   j.LeSysteme().Execute([&] { j.Jeu().Tmr().Timer(); });
   EXPECT_EQ(lecteur.Entendu(false).join(u'\n').toStdString(), "");
   const auto* horloge = QAccessible::queryAccessibleInterface(j.Fenetre().findChild<QWidget*>("LblChrono"));
