@@ -62,6 +62,7 @@ void Grille::Echange() {
   for (int i = hasard_.Entier(n_ * n_); chaine.empty(); i = (i + 1) % (n_ * n_)) {
     if (cases_[At(i)] == a) prend(i);
   }
+  // NOLINTNEXTLINE(modernize-loop-convert): the chain grows on the way
   for (std::size_t k = 0; k < chaine.size(); ++k) {
     for (int j = 0; j < n_ * n_; ++j) {
       const bool desDeux = cases_[At(j)] == a || cases_[At(j)] == b;
