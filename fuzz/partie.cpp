@@ -11,22 +11,10 @@ namespace {
 
 // Sides 1 to 16, letters of both cases, repeated symbols, the signs that files and sessions give a meaning,
 // and strings that make no grid.
-constexpr TexteVue kSymboles[] = {U"1234",
-                                  U"1234",
-                                  U"aBcd",
-                                  U"123456789",
-                                  U"5",
-                                  U"aBcd",
-                                  U"aAbB",
-                                  U"12-4",
-                                  U". 0#",
-                                  U"1é\"\\",
-                                  U"1111",
-                                  U"ΣσςŸ",
-                                  U"123456780",
-                                  U"0123456789ABCDEF",
-                                  U"12",
-                                  U"★🙂ß\x1F"};
+constexpr TexteVue kSymboles[] = {
+    U"1234", U"1234",         U"aBcd",   U"123456789", U"5",    U"aBcd",      U"aAbB",
+    U"12-4", U". 0#",         U"1é\"\\", U"1111",      U"ΣσςŸ", U"123456780", U"0123456789ABCDEF",
+    U"12",   U"★🙂ß\x1F"};
 constexpr TexteVue kTextes[] = {U"1",    U"12",    U"a",          U"",        U"x",   U"34",   U"é",
                                 U"-",    U" ",     U"\x7F",       U"\"",      U"\\",  U"\x1F", U"\x80€",
                                 U"🙂", U"Marie", U"une-partie", U"Échec ★", U"\r\n"};

@@ -57,9 +57,8 @@ struct Tableau {
   std::vector<char> sale[3];      // by type and unit - 1: some field of a cell changed since its last run
   std::vector<char> saleSymbole;  // its places changed since the last search for figures
   bool longs = false;
-  bool versSure = true;    // solutions go to SolutionSure (modes 1 and 2), else to SolutionPoss
-  bool aRemplir = false;   // some empty cell has a solution
-  bool enregistre = true;  // facts are written to the journal
+  bool versSure = true;   // solutions go to SolutionSure (modes 1 and 2), else to SolutionPoss
+  bool aRemplir = false;  // some empty cell has a solution
 
   CompteurMasques<W> compteur;
 
