@@ -43,16 +43,6 @@ struct Masque {
     for (const auto mot : mots) n += std::popcount(mot);
     return n;
   }
-  // Exactly one number.
-  bool Seul() const {
-    if constexpr (W == 1) return std::has_single_bit(mots[0]);
-    return Compte() == 1;
-  }
-  // Two numbers or more.
-  bool Plusieurs() const {
-    if constexpr (W == 1) return (mots[0] & (mots[0] - 1)) != 0;
-    return Compte() > 1;
-  }
   // The smallest number; the set isn't empty.
   int Premier() const {
     int i = 0;

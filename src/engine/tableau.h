@@ -103,7 +103,6 @@ struct Tableau {
   // Calls f(cell, its units' numbers - 1 by kind, its places there by kind) for every cell.
   template <class F>
   void ChaqueCase(F f) const;
-  void AmorceCases();
   void AmorceCase(int i, const int (&unites)[3], const int (&lieux)[3]);
   void Compte(int i, const int (&unites)[3]);
   void PlacesDesContenus();
