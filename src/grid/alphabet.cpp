@@ -9,9 +9,9 @@ Alphabet::Alphabet(TexteVue VmValeurs) : taille_(static_cast<int>(VmValeurs.size
     const char32_t symbole = symboles_[Rang(p)];
     const int premiere = premieres.try_emplace(Minuscule(symbole), p).first->second;
     egales_[Rang(premiere)].push_back(static_cast<std::int16_t>(p));
-    textes_.emplace_back(1, symbole);
     positions_.push_back(premiere);
-    codes_.try_emplace(Texte(1, symbole), p);
+    // The same symbol twice has two numbers and one text.
+    textes_.push_back(&codes_.try_emplace(Texte(1, symbole), p).first->first);
   }
   for (int p = 0; p < taille_; ++p) {
     const int premiere = positions_[Rang(p)];
@@ -24,7 +24,7 @@ Code Alphabet::Numero(TexteVue texte) {
   const auto [lieu, nouveau] = codes_.try_emplace(Texte(texte), static_cast<Code>(textes_.size()));
   if (nouveau) {
     const std::size_t position = texte.size() == 1 ? Cherche(symboles_, texte) : Texte::npos;
-    textes_.emplace_back(texte);
+    textes_.push_back(&lieu->first);
     positions_.push_back(position == Texte::npos ? -1 : static_cast<int>(position));
   }
   return lieu->second;

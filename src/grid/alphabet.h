@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
 #include <unordered_map>
 #include <vector>
 
@@ -21,6 +20,8 @@ inline constexpr Code kVide = -1;  // the empty text
 class Alphabet {
  public:
   explicit Alphabet(TexteVue VmValeurs);
+  Alphabet(const Alphabet&) = delete;
+  Alphabet& operator=(const Alphabet&) = delete;
 
   int Taille() const { return taille_; }
   const Texte& Symboles() const { return symboles_; }
@@ -28,7 +29,7 @@ class Alphabet {
   // The number of a text, made if it is new. kVide for the empty text.
   Code Numero(TexteVue texte);
   // The text of a number. The empty text for kVide.
-  const Texte& TexteDe(Code code) const { return code == kVide ? vide_ : textes_[Rang(code)]; }
+  const Texte& TexteDe(Code code) const { return code == kVide ? vide_ : *textes_[Rang(code)]; }
   // First position equal to this text; -1 where it is no single symbol.
   int Position(Code code) const { return code == kVide ? -1 : positions_[Rang(code)]; }
   // The text has more than one character.
@@ -48,9 +49,9 @@ class Alphabet {
   int taille_;
   Texte symboles_;
   Texte vide_;
-  std::deque<Texte> textes_;    // a deque: references to texts stay good while it grows
-  std::vector<int> positions_;  // of the texts
   std::unordered_map<Texte, Code> codes_;
+  std::vector<const Texte*> textes_;  // the keys of codes_, which stay where they are while it grows
+  std::vector<int> positions_;        // of the texts
   std::vector<std::vector<std::int16_t>> egales_;
 };
 
