@@ -10,10 +10,10 @@ namespace sudoku::SUDOKU_MOTEUR {
 // The N by N figures: k units of one kind that hold a symbol only in the same set of units of another kind.
 // The symbol goes from those other units outside the figure. All figures are found on the candidates as they
 // stand when Cherche begins, and act in the order of discovery: kind, unit, symbol, other kind.
-template <int W, int Cote>
+template <int W>
 class Figures {
  public:
-  explicit Figures(Tableau<W, Cote>& t) : t_(t) {}
+  explicit Figures(Tableau<W>& t) : t_(t) {}
 
   // One search over the grid. Symbols whose places haven't changed since the last one are left out. True if a
   // candidate went.
@@ -42,7 +42,7 @@ class Figures {
   bool Retire(const Figure& f) const;
   void Agit(const Figure& f);
 
-  Tableau<W, Cote>& t_;
+  Tableau<W>& t_;
   std::vector<Figure> figures_;
   bool resultat_ = false;
 };

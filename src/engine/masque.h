@@ -17,7 +17,7 @@ struct Masque {
   std::array<std::uint64_t, static_cast<std::size_t>(W)> mots{};
 
   // The numbers 0 to n-1.
-  static Masque Premiers(int n) {
+  static constexpr Masque Premiers(int n) {
     Masque m;
     for (int i = 0; i < W; ++i) {
       const int reste = n - 64 * i;
@@ -26,11 +26,11 @@ struct Masque {
     return m;
   }
 
-  std::uint64_t& operator[](int i) { return mots[static_cast<std::size_t>(i)]; }
-  std::uint64_t operator[](int i) const { return mots[static_cast<std::size_t>(i)]; }
+  constexpr std::uint64_t& operator[](int i) { return mots[static_cast<std::size_t>(i)]; }
+  constexpr std::uint64_t operator[](int i) const { return mots[static_cast<std::size_t>(i)]; }
 
   bool Contient(int n) const { return (((*this)[n >> 6] >> (n & 63)) & 1U) != 0; }
-  void Ajoute(int n) { (*this)[n >> 6] |= std::uint64_t{1} << (n & 63); }
+  constexpr void Ajoute(int n) { (*this)[n >> 6] |= std::uint64_t{1} << (n & 63); }
   void Enleve(int n) { (*this)[n >> 6] &= ~(std::uint64_t{1} << (n & 63)); }
 
   bool Vide() const {
@@ -48,6 +48,14 @@ struct Masque {
     int i = 0;
     while ((*this)[i] == 0) ++i;
     return 64 * i + std::countr_zero((*this)[i]);
+  }
+  // The smallest number that isn't below n; 64 W if there is none.
+  int PremierDepuis(int n) const {
+    int i = n >> 6;
+    if (i == W) return n;
+    std::uint64_t mot = (*this)[i] >> (n & 63) << (n & 63);
+    while (mot == 0 && ++i < W) mot = (*this)[i];
+    return mot == 0 ? 64 * W : 64 * i + std::countr_zero(mot);
   }
   bool Croise(const Masque& autre) const { return !(*this & autre).Vide(); }
   bool Dans(const Masque& autre) const { return Sauf(autre).Vide(); }

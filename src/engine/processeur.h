@@ -11,7 +11,8 @@ inline bool ProcesseurAvx2() {
 }
 inline bool ProcesseurAvx512() {
   return ProcesseurAvx2() && __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vl") &&
-         __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bitalg");
+         __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bitalg") &&
+         __builtin_cpu_supports("avx512vpopcntdq");
 }
 #endif
 

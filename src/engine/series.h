@@ -9,10 +9,10 @@ namespace sudoku::SUDOKU_MOTEUR {
 
 // The deductions within one unit, always in this order: hidden singles and locked candidates in one sweep
 // over the symbols, then hidden sets, then naked sets, of every size.
-template <int W, int Cote>
+template <int W>
 class Series {
  public:
-  explicit Series(Tableau<W, Cote>& t) : t_(t) {}
+  explicit Series(Tableau<W>& t) : t_(t) {}
 
   // One sweep over all units: for each number, block, row, column. Units none of whose cells changed in any
   // field since their own last run can only give nothing again and are left out. True if a candidate went.
@@ -47,7 +47,7 @@ class Series {
   bool MemesSymboles(const M& a, const M& b) const;
   int Cellule(int place) const { return serie_[place]; }
 
-  Tableau<W, Cote>& t_;
+  Tableau<W>& t_;
   int type_ = 0;
   int unite_ = 0;
   const std::int16_t* serie_ = nullptr;  // the cells of the unit

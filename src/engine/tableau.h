@@ -18,14 +18,9 @@ namespace sudoku::SUDOKU_MOTEUR {
 // A cell is "open" when its content doesn't count (it is empty, or the mode hides it). Only open cells have
 // candidates and places; the Possible of the others is their content, in Bloc::possibleTexte. Contents of
 // several symbols that count (`longs`) are the rare case that is done with texts.
-template <int W, int Cote>
+template <int W>
 struct Tableau {
   using M = Masque<W>;
-  static constexpr int kRacine = [] {
-    int s = 0;
-    while ((s + 1) * (s + 1) <= Cote) ++s;
-    return s;
-  }();
 
   GameState* jeu = nullptr;
   Bloc* bloc = nullptr;
@@ -35,9 +30,8 @@ struct Tableau {
   std::shared_ptr<const Alphabet> alphabetTenu;
   int cases = 0;
 
-  // Side of the grid and of its blocks: Cote where that isn't 0, so that loops and divisions know it.
-  int N() const { return Cote != 0 ? Cote : geo->N(); }
-  int S() const { return Cote != 0 ? kRacine : geo->S(); }
+  int N() const { return geo->N(); }
+  int S() const { return geo->S(); }
 
   M plein;                // all positions
   M premieres;            // first of equal positions
@@ -103,8 +97,9 @@ struct Tableau {
   // Calls f(cell, its units' numbers - 1 by kind, its places there by kind) for every cell.
   template <class F>
   void ChaqueCase(F f) const;
-  void AmorceCase(int i, const int (&unites)[3], const int (&lieux)[3]);
-  void Compte(int i, const int (&unites)[3]);
+  bool PoseContenus();
+  void Compte(Code code, const int (&unites)[3]);
+  void NoteSures();
   void PlacesDesContenus();
   void PlacesDansLaBande(int g, int s);
   void PlacesDansLesPiles(int s);
@@ -117,7 +112,6 @@ struct Tableau {
   M RetireTous(M liste, int type, int unite, int cellule) const;
   std::uint32_t Mots(const M& m);
 
-  bool saisies_ = false;                  // some cell has Etat 2
   std::vector<std::array<M, 3>> unites_;  // by symbol and type: the units that have it, their numbers - 1
 };
 

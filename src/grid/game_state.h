@@ -21,6 +21,11 @@ enum Mode : std::int32_t {
   kChargePartie = 7  // FRMParties asks for a game
 };
 
+// The content of a cell counts for the engine from Etat kDonnee up to this one.
+constexpr std::int32_t DernierEtatQuiCompte(std::int32_t mode) {
+  return mode == kSecondePasse ? kPossible : kProuvee;
+}
+
 // A library entry: a game on the file's grid. Grille is a state string, two characters a cell: the content (a
 // blank where empty) and Etat as a digit.
 struct ClsPartie {

@@ -30,16 +30,8 @@ bool Bloc::SansCandidat(int cellule) const {
 }
 
 bool Bloc::Compte(int cellule) const {
-  if (saisie[At(cellule)] == kVide) return false;
-  switch (etat[At(cellule)]) {
-    case kDonnee:
-    case kProuvee:
-      return true;
-    case kPossible:
-      return jeu->VgEtat == kSecondePasse;
-    default:
-      return false;
-  }
+  const std::int32_t e = etat[At(cellule)];
+  return saisie[At(cellule)] != kVide && e >= kDonnee && e <= DernierEtatQuiCompte(jeu->VgEtat);
 }
 
 bool Bloc::Permet(int cellule, Code code) const {

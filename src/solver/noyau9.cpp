@@ -5,14 +5,14 @@
 namespace sudoku {
 
 namespace noyau_base {
-void JeuSolve(Cases9& cases, Mode9 mode, Passe9& passe);
+void JeuSolve(Cases9& cases, Appui appui, Passe9& passe);
 }
 #if defined(SUDOKU_VERSIONS_X86)
 namespace noyau_avx2 {
-void JeuSolve(Cases9& cases, Mode9 mode, Passe9& passe);
+void JeuSolve(Cases9& cases, Appui appui, Passe9& passe);
 }
 namespace noyau_avx512 {
-void JeuSolve(Cases9& cases, Mode9 mode, Passe9& passe);
+void JeuSolve(Cases9& cases, Appui appui, Passe9& passe);
 }
 #endif
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "engine/cases9.h"
+#include "solver/cases9.h"
 
 namespace sudoku {
 
@@ -25,7 +25,7 @@ struct Passe9 {
 };
 
 // kSur before any supposition; with one, solutions rest on suppositions.
-using JeuSolve9 = void (*)(Cases9& cases, Mode9 mode, Passe9& passe);
+using JeuSolve9 = void (*)(Cases9& cases, Appui appui, Passe9& passe);
 
 // The versions that this machine runs, the fastest first; all give the same.
 std::vector<JeuSolve9> VersionsJeuSolve9();

@@ -78,7 +78,7 @@ void Travail9::Ecrit(Grille& grille) const {
 
 std::int16_t Travail9::JeuSolve(bool possibles) {
   if (!auGeneral_) {
-    jeuSolve_(cases_, base_ ? Mode9::kPossible : Mode9::kSur, passe_);
+    jeuSolve_(cases_, base_ ? Appui::kPossible : Appui::kSur, passe_);
     candidats_ = passe_.candidats;
     // The kernel stops at the first cell without candidates; the engine then says what is left to the others.
     const bool complete = !passe_.erronee && (passe_.verdict >= 0 || !possibles);
@@ -142,7 +142,7 @@ int Travail9::CelluleOuverte(int cellule, Essai& Possible) {
 bool Travail9::SymboleEnDouble() {
   if (auGeneral_) return general_.SymboleEnDouble();
   for (int u = 0; u < 9; ++u) {
-    if ((cases_.lignes[u] & cases_.colonnes[u] & cases_.carres[u]) != kTous) return true;
+    if ((cases_.symboles[0][u] & cases_.symboles[1][u] & cases_.symboles[2][u]) != kTous) return true;
   }
   return false;
 }

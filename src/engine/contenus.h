@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+
+namespace sudoku {
+
+// Kinds of units in the order in which the engine goes through those of one number.
+enum GenreUnite { kGenreCarre = 0, kGenreLigne = 1, kGenreColonne = 2 };
+
+template <class T, int n>
+using Liste = T[static_cast<std::size_t>(n)];
+
+// Words for a grid with blocks of side S, up to 8. Cells, symbols, units and places count from 0 here.
+template <int S>
+struct Largeur {
+  static constexpr int N = S * S;
+  // A set of symbols, of places in a unit, or of units of one kind.
+  using Bits = std::conditional_t<N <= 32, std::uint32_t, std::uint64_t>;
+  // The same, as it lies in memory side by side with others of its kind: N words and some to fill up.
+  using Mot = std::conditional_t<N <= 16, std::uint16_t, Bits>;
+  static constexpr int kVoies = N <= 16 ? 16 : N <= 32 ? 32 : (N + 7) / 8 * 8;
+  static constexpr std::size_t kAlignement = kVoies * sizeof(Mot) > 32 ? 64 : 32;
+};
+
+// What counts in the cells of a board. A cell is open when nothing in it counts.
+template <int S>
+struct Contenus {
+  using Mot = typename Largeur<S>::Mot;
+  static constexpr int N = Largeur<S>::N;
+  static constexpr int kVoies = Largeur<S>::kVoies;
+
+  // By kind: the symbols in each unit; words from N on stay 0.
+  alignas(Largeur<S>::kAlignement) Liste<Mot, kVoies> symboles[3];
+  // The same turned round, the units that have a symbol, by symbol; words from N on are all ones.
+  alignas(Largeur<S>::kAlignement) Liste<Mot, kVoies> unites[3];
+  Liste<Mot, N> ouvertes[3];  // places of open cells in each unit
+};
+
+// Which solutions deductions write: proved ones, where each unit leaves aside what is proved in it already,
+// or those that rest on unproved entries.
+enum class Appui { kSur, kPossible };
+
+}  // namespace sudoku

@@ -1,0 +1,329 @@
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <type_traits>
+#include <utility>
+
+#include "engine/contenus.h"
+
+#if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512BITALG__) && \
+    defined(__AVX512VPOPCNTDQ__)
+#define SUDOKU_VOIES_512
+#include <immintrin.h>
+#elif defined(__AVX2__)
+#include <immintrin.h>
+#elif defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
+// A lane for each symbol, place or unit of a kind, and the few operations that the deductions need, written
+// once in the compilers' vector extension; what that can't say well has a version for each instruction set.
+// Each version of the hot code has its own, in its own namespace SUDOKU_MOTEUR, so that no two of them share
+// a function.
+#define SUDOKU_EN_LIGNE [[gnu::always_inline]] inline
+
+namespace sudoku::SUDOKU_MOTEUR {
+namespace {
+
+template <int S>
+using MotDe = typename Largeur<S>::Mot;
+template <int S>
+using BitsDe = typename Largeur<S>::Bits;
+
+// Calls f with each of the numbers 0 to S - 1 as a constant.
+template <class F, int... k>
+SUDOKU_EN_LIGNE void ChaqueConstante(F f, std::integer_sequence<int, k...>) {
+  (f(std::integral_constant<int, k>()), ...);
+}
+template <int S, class F>
+SUDOKU_EN_LIGNE void ChaqueConstante(F f) {
+  ChaqueConstante(f, std::make_integer_sequence<int, S>());
+}
+
+// All lanes, in as many vector registers as they take.
+template <int S>
+struct Voies {
+  using Mot = MotDe<S>;
+  static constexpr std::size_t kTaille = Largeur<S>::kVoies * sizeof(Mot);
+#if defined(SUDOKU_VOIES_512)
+  static constexpr std::size_t kOctets = kTaille > 32 ? 64 : 32;
+#elif defined(__AVX2__)
+  static constexpr std::size_t kOctets = 32;
+#else
+  static constexpr std::size_t kOctets = 16;
+#endif
+  static constexpr std::size_t kRegistres = kTaille / kOctets;
+  static constexpr int kParRegistre = kOctets / sizeof(Mot);
+  typedef Mot Registre [[gnu::vector_size(kOctets)]];
+
+  Registre r[kRegistres];
+
+  // The registers that f(number of the register) gives.
+  template <class F>
+  SUDOKU_EN_LIGNE static Voies De(F f) {
+    return De(f, std::make_integer_sequence<int, static_cast<int>(kRegistres)>());
+  }
+  // Calls f with the number of each register.
+  template <class F>
+  SUDOKU_EN_LIGNE static void Chaque(F f) {
+    Chaque(f, std::make_integer_sequence<int, static_cast<int>(kRegistres)>());
+  }
+
+ private:
+  template <class F, int... i>
+  SUDOKU_EN_LIGNE static Voies De(F f, std::integer_sequence<int, i...>) {
+    return {{f(i)...}};
+  }
+  template <class F, int... i>
+  SUDOKU_EN_LIGNE static void Chaque(F f, std::integer_sequence<int, i...>) {
+    (f(i), ...);
+  }
+};
+
+// Register by register: a struct as a whole is moved in smaller pieces, which the next load would wait for.
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> Lit(const MotDe<S>* p) {
+  return Voies<S>::De([p](int i) {
+    typename Voies<S>::Registre registre;
+    std::memcpy(&registre, p + i * Voies<S>::kParRegistre, sizeof registre);
+    return registre;
+  });
+}
+template <int S>
+SUDOKU_EN_LIGNE void Range(MotDe<S>* p, const Voies<S>& v) {
+  Voies<S>::Chaque([&](int i) {
+    const typename Voies<S>::Registre registre = v.r[i];
+    std::memcpy(p + i * Voies<S>::kParRegistre, &registre, sizeof registre);
+  });
+}
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> Partout(BitsDe<S> n) {
+  return Voies<S>::De([n](int) { return typename Voies<S>::Registre{} + static_cast<MotDe<S>>(n); });
+}
+
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> operator&(const Voies<S>& a, const Voies<S>& b) {
+  return Voies<S>::De([&](int i) { return a.r[i] & b.r[i]; });
+}
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> operator|(const Voies<S>& a, const Voies<S>& b) {
+  return Voies<S>::De([&](int i) { return a.r[i] | b.r[i]; });
+}
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> operator^(const Voies<S>& a, const Voies<S>& b) {
+  return Voies<S>::De([&](int i) { return a.r[i] ^ b.r[i]; });
+}
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> operator-(const Voies<S>& a, const Voies<S>& b) {
+  return Voies<S>::De([&](int i) { return a.r[i] - b.r[i]; });
+}
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> operator~(const Voies<S>& a) {
+  return Voies<S>::De([&](int i) { return ~a.r[i]; });
+}
+template <int S>
+SUDOKU_EN_LIGNE Voies<S>& operator|=(Voies<S>& a, const Voies<S>& b) {
+  return a = a | b;
+}
+
+// Lanes all ones where that is so, 0 elsewhere.
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> Egales(const Voies<S>& a, const Voies<S>& b) {
+  return Voies<S>::De([&](int i) { return reinterpret_cast<typename Voies<S>::Registre>(a.r[i] == b.r[i]); });
+}
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> Nulles(const Voies<S>& v) {
+  return Egales(v, Voies<S>{});
+}
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> NonNulles(const Voies<S>& v) {
+  return Voies<S>::De([&](int i) { return reinterpret_cast<typename Voies<S>::Registre>(v.r[i] != 0); });
+}
+// Lanes that hold one symbol, place or unit.
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> Seules(const Voies<S>& v) {
+  return Nulles(v & (v - Partout<S>(1))) & NonNulles(v);
+}
+
+// A bit a lane of a register whose lanes are all ones or all zero.
+template <int S>
+SUDOKU_EN_LIGNE BitsDe<S> BitsDuRegistre(typename Voies<S>::Registre m) {
+#if defined(SUDOKU_VOIES_512)
+  constexpr std::size_t kOctets = sizeof(MotDe<S>);
+  if constexpr (kOctets == 2) return _mm256_movepi16_mask(reinterpret_cast<__m256i>(m));
+  if constexpr (kOctets == 4) return _mm512_movepi32_mask(reinterpret_cast<__m512i>(m));
+  if constexpr (kOctets == 8) return _mm512_movepi64_mask(reinterpret_cast<__m512i>(m));
+#elif defined(__AVX2__)
+  constexpr std::size_t kOctets = sizeof(MotDe<S>);
+  const auto v = reinterpret_cast<__m256i>(m);
+  if constexpr (kOctets == 2) {
+    const __m128i octets = _mm_packs_epi16(_mm256_castsi256_si128(v), _mm256_extracti128_si256(v, 1));
+    return static_cast<BitsDe<S>>(_mm_movemask_epi8(octets));
+  }
+  if constexpr (kOctets == 4) return static_cast<BitsDe<S>>(_mm256_movemask_ps(reinterpret_cast<__m256>(v)));
+  if constexpr (kOctets == 8) return static_cast<BitsDe<S>>(_mm256_movemask_pd(reinterpret_cast<__m256d>(v)));
+#elif defined(__SSE2__)
+  constexpr std::size_t kOctets = sizeof(MotDe<S>);
+  const auto v = reinterpret_cast<__m128i>(m);
+  if constexpr (kOctets == 2)
+    return static_cast<BitsDe<S>>(_mm_movemask_epi8(_mm_packs_epi16(v, _mm_setzero_si128())));
+  if constexpr (kOctets == 4) return static_cast<BitsDe<S>>(_mm_movemask_ps(reinterpret_cast<__m128>(v)));
+  if constexpr (kOctets == 8) return static_cast<BitsDe<S>>(_mm_movemask_pd(reinterpret_cast<__m128d>(v)));
+#else
+  BitsDe<S> bits = 0;
+  for (int i = 0; i < Voies<S>::kParRegistre; ++i) bits += m[i] & (BitsDe<S>{1} << i);
+  return bits;
+#endif
+}
+template <int S>
+SUDOKU_EN_LIGNE BitsDe<S> EnBits(const Voies<S>& masque) {
+  BitsDe<S> bits = 0;
+  Voies<S>::Chaque([&](int i) { bits |= BitsDuRegistre<S>(masque.r[i]) << (i * Voies<S>::kParRegistre); });
+  return bits;
+}
+
+// Bits of lanes by comparison. The newest instructions compare into bits at once, which the compilers don't
+// see behind a vector of lanes.
+#if defined(SUDOKU_VOIES_512)
+template <int S>
+SUDOKU_EN_LIGNE BitsDe<S> BitsEgales(const Voies<S>& a, const Voies<S>& b) {
+  BitsDe<S> bits = 0;
+  Voies<S>::Chaque([&](int i) {
+    BitsDe<S> egales = 0;
+    if constexpr (sizeof(MotDe<S>) == 2)
+      egales = _mm256_cmpeq_epi16_mask(reinterpret_cast<__m256i>(a.r[i]), reinterpret_cast<__m256i>(b.r[i]));
+    if constexpr (sizeof(MotDe<S>) == 4)
+      egales = _mm512_cmpeq_epi32_mask(reinterpret_cast<__m512i>(a.r[i]), reinterpret_cast<__m512i>(b.r[i]));
+    if constexpr (sizeof(MotDe<S>) == 8)
+      egales = _mm512_cmpeq_epi64_mask(reinterpret_cast<__m512i>(a.r[i]), reinterpret_cast<__m512i>(b.r[i]));
+    bits |= egales << (i * Voies<S>::kParRegistre);
+  });
+  return bits;
+}
+template <int S>
+SUDOKU_EN_LIGNE BitsDe<S> BitsNonNulles(const Voies<S>& v) {
+  BitsDe<S> bits = 0;
+  Voies<S>::Chaque([&](int i) {
+    BitsDe<S> non = 0;
+    if constexpr (sizeof(MotDe<S>) == 2)
+      non = _mm256_test_epi16_mask(reinterpret_cast<__m256i>(v.r[i]), reinterpret_cast<__m256i>(v.r[i]));
+    if constexpr (sizeof(MotDe<S>) == 4)
+      non = _mm512_test_epi32_mask(reinterpret_cast<__m512i>(v.r[i]), reinterpret_cast<__m512i>(v.r[i]));
+    if constexpr (sizeof(MotDe<S>) == 8)
+      non = _mm512_test_epi64_mask(reinterpret_cast<__m512i>(v.r[i]), reinterpret_cast<__m512i>(v.r[i]));
+    bits |= non << (i * Voies<S>::kParRegistre);
+  });
+  return bits;
+}
+#else
+template <int S>
+SUDOKU_EN_LIGNE BitsDe<S> BitsEgales(const Voies<S>& a, const Voies<S>& b) {
+  return EnBits(Egales(a, b));
+}
+template <int S>
+SUDOKU_EN_LIGNE BitsDe<S> BitsNonNulles(const Voies<S>& v) {
+  return EnBits(NonNulles(v));
+}
+#endif
+
+// Every lane is 0.
+template <int S>
+SUDOKU_EN_LIGNE bool Aucune(const Voies<S>& v) {
+  typename Voies<S>::Registre toutes{};
+  Voies<S>::Chaque([&](int i) { toutes |= v.r[i]; });
+#if defined(SUDOKU_VOIES_512)
+  if constexpr (sizeof toutes == 64)
+    return _mm512_test_epi64_mask(reinterpret_cast<__m512i>(toutes), reinterpret_cast<__m512i>(toutes)) == 0;
+#endif
+#if defined(__AVX2__)
+  if constexpr (sizeof toutes == 32)
+    return _mm256_testz_si256(reinterpret_cast<__m256i>(toutes), reinterpret_cast<__m256i>(toutes)) != 0;
+#endif
+  return BitsDuRegistre<S>(reinterpret_cast<typename Voies<S>::Registre>(toutes != 0)) == 0;
+}
+
+// Lanes all ones where their bit is set; those from N on are 0.
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> Etale(BitsDe<S> bits) {
+  struct Un {
+    alignas(64) Liste<MotDe<S>, Largeur<S>::kVoies> mots = {};
+    constexpr Un() {
+      for (int i = 0; i < Largeur<S>::N; ++i) mots[i] = static_cast<MotDe<S>>(BitsDe<S>{1} << i);
+    }
+  };
+  static constexpr Un kUn;
+  return NonNulles(Partout<S>(bits) & Lit<S>(kUn.mots));
+}
+
+// How many each lane holds.
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> Comptes(const Voies<S>& voies) {
+  using Registre = typename Voies<S>::Registre;
+  return Voies<S>::De([&](int i) {
+    Registre v = voies.r[i];
+    constexpr std::size_t kOctets = sizeof(MotDe<S>);
+#if defined(SUDOKU_VOIES_512)
+    if constexpr (kOctets == 2)
+      return reinterpret_cast<Registre>(_mm256_popcnt_epi16(reinterpret_cast<__m256i>(v)));
+    if constexpr (kOctets == 4)
+      return reinterpret_cast<Registre>(_mm512_popcnt_epi32(reinterpret_cast<__m512i>(v)));
+    if constexpr (kOctets == 8)
+      return reinterpret_cast<Registre>(_mm512_popcnt_epi64(reinterpret_cast<__m512i>(v)));
+#else
+    constexpr auto kTous = static_cast<MotDe<S>>(~MotDe<S>{0});
+    v = v - ((v >> 1) & static_cast<MotDe<S>>(kTous / 3));
+    v = (v & static_cast<MotDe<S>>(kTous / 5)) + ((v >> 2) & static_cast<MotDe<S>>(kTous / 5));
+    v = (v + (v >> 4)) & static_cast<MotDe<S>>(kTous / 17);
+    for (std::size_t pas = 8; pas < 8 * kOctets; pas *= 2) v += v >> static_cast<MotDe<S>>(pas);
+    return v & static_cast<MotDe<S>>(16 * kOctets - 1);
+#endif
+  });
+}
+
+// Lanes of more than n, all ones.
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> PlusDe(int n, const Voies<S>& v) {
+  return Voies<S>::De([&](int i) {
+    return reinterpret_cast<typename Voies<S>::Registre>(v.r[i] > static_cast<MotDe<S>>(n));
+  });
+}
+
+// Where the lanes of N = 9 take one register: lane i gets lane F()(i); lane 15 is 0 in every vector.
+template <class F, int... i>
+SUDOKU_EN_LIGNE Voies<3> Permute(const Voies<3>& v, F, std::integer_sequence<int, i...>) {
+  return {{__builtin_shufflevector(v.r[0], v.r[0], F()(i)...)}};
+}
+template <int S>
+constexpr bool kPermute = S == 3 && Voies<S>::kRegistres == 1;
+
+// Lane i gets lane i + d, 0 behind the last one.
+template <int S, int d>
+SUDOKU_EN_LIGNE Voies<S> Descend(const Voies<S>& v) {
+  if constexpr (kPermute<S>) {
+    return Permute(
+        v, [](int i) { return i + d < 9 ? i + d : 15; }, std::make_integer_sequence<int, 16>());
+  } else {
+    alignas(64) Liste<MotDe<S>, Largeur<S>::kVoies + d> suite = {};
+    Range<S>(suite, v);
+    return Lit<S>(suite + d);
+  }
+}
+
+// Lane i, below N, gets lane premiere + i / S * pas, the others 0.
+template <int S, int premiere, int pas>
+SUDOKU_EN_LIGNE Voies<S> Etire(const MotDe<S>* voies) {
+  if constexpr (kPermute<S>) {
+    return Permute(
+        Lit<S>(voies), [](int i) { return i < 9 ? premiere + i / 3 * pas : 15; },
+        std::make_integer_sequence<int, 16>());
+  } else {
+    alignas(64) Liste<MotDe<S>, Largeur<S>::kVoies> etirees = {};
+    for (int i = 0; i < Largeur<S>::N; ++i) etirees[i] = voies[premiere + i / S * pas];
+    return Lit<S>(etirees);
+  }
+}
+
+}  // namespace
+}  // namespace sudoku::SUDOKU_MOTEUR
