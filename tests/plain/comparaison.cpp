@@ -7,53 +7,46 @@
 namespace sudoku::plain {
 namespace {
 
+constexpr std::size_t kBoitesMax = 20;
 struct TropLong {};
 
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
-template <class A, class B>
-void Note(std::string& ecarts, const char* quoi, const A& simple, const B& rapide) {
-  if (simple == rapide) return;
-  const auto ecrit = [](const auto& v) {
-    if constexpr (std::is_convertible_v<decltype(v), TexteVue>) {
-      return '"' + VersUtf8(v) + '"';
-    } else {
-      return std::to_string(v);
-    }
-  };
-  ecarts += std::string("; ") + quoi + ": plain " + ecrit(simple) + ", engine " + ecrit(rapide);
-}
-
-// A grid as one text, the fields of each cell behind one another.
-Texte Image(const Grille& grille) {
+Texte Joint(const std::vector<Texte>& morceaux) {
   Texte texte;
-  for (std::size_t i = 1; i < grille.size(); ++i) {
-    const ClsPos& c = *grille[i];
-    for (const Texte& champ :
-         {Decimal(c.Etat), c.ValeurSaisie(), c.Possible, c.SolutionSure, c.SolutionPoss, c.Explications}) {
-      texte += champ + U"/";
-    }
-  }
+  for (const Texte& m : morceaux) texte += m + U"|";
+  return texte;
+}
+
+void Note(std::string& ecarts, const char* quoi, TexteVue simple, TexteVue rapide) {
+  if (simple == rapide) return;
+  ecarts += std::string("; ") + quoi + ": plain " + VersUtf8(simple) + ", engine " + VersUtf8(rapide);
+}
+
+void Note(std::string& ecarts, const char* quoi, std::int64_t simple, std::int64_t rapide) {
+  Note(ecarts, quoi, Decimal(simple), Decimal(rapide));
+}
+
+// What makes a cell, but for its sentences.
+Texte Fiche(const Jeu& jeu, const ClsPos& c) {
+  return Joint({Decimal(c.Index), Decimal(c.Unite[kLigne]), Decimal(c.Unite[kColonne]),
+                Decimal(c.Unite[kCarre]), Decimal(c.Etat), c.ValeurSaisie, Texte(jeu.Valeur(c)), c.Possible,
+                c.SolutionSure, c.SolutionPoss});
+}
+
+Texte Fiche(const sudoku::ClsPos& c) {
+  return Joint({Decimal(c.Index()), Decimal(c.Ligne()), Decimal(c.Colonne()), Decimal(c.Carre()),
+                Decimal(c.Etat()), c.ValeurSaisie(), c.Valeur(), c.Possible(), c.SolutionSure(),
+                c.SolutionPoss()});
+}
+
+Texte Image(const Jeu& jeu) {
+  Texte texte;
+  for (const Case& c : jeu.VmGrille) texte += Fiche(jeu, *c) + c->Explications;
   return texte;
 }
 
 Texte Image(const sudoku::Grille& grille) {
   Texte texte;
-  for (int i = 1; i <= grille.Borne(); ++i) {
-    const sudoku::ClsPos c = grille(i);
-    for (const Texte& champ : {Decimal(c.Etat()), c.ValeurSaisie(), c.Possible(), c.SolutionSure(),
-                               c.SolutionPoss(), sudoku::Explications(grille, i)}) {
-      texte += champ + U"/";
-    }
-  }
-  return texte;
-}
-
-Texte Joint(const std::vector<Texte>& boites) {
-  Texte texte;
-  for (const Texte& b : boites) texte += b + U"|";
+  for (int i = 1; i <= grille.Borne(); ++i) texte += Fiche(grille(i)) + sudoku::Explications(grille, i);
   return texte;
 }
 
@@ -63,17 +56,15 @@ std::string Genre(TexteVue phrase) {
   if (Contient(phrase, U"éléments")) return "cachée";
   if (Contient(phrase, U"La séquence")) return "nue";
   if (!Contient(phrase, U"exclut sa présence")) return "confinée";
-  const auto type = [&](TexteVue devant) {
-    return Contient(phrase, Texte(devant) += U"colonnes") ? " 0"
-           : Contient(phrase, Texte(devant) += U"lignes") ? " 1"
-                                                          : " 2";
+  const auto type = [&](const Texte& devant) {
+    return Contient(phrase, devant + U"colonnes") ? " 0" : Contient(phrase, devant + U"lignes") ? " 1" : " 2";
   };
   return std::string("figure") + type(U"des ") + type(U"dans les ");
 }
 
 // Runs `f`; true if it was given up.
 template <class F>
-bool Borne(F f) {
+bool Abandonne(F f) {
   try {
     f();
   } catch (const TropLong&) {
@@ -84,19 +75,20 @@ bool Borne(F f) {
 
 }  // namespace
 
-Paire::Paire(std::size_t boitesMax) : boitesMax_(boitesMax) {
-  simple_.Message = [this](TexteVue texte) { Ouvre(boitesSimple_, texte, Image(simple_.VmGrille)); };
+Paire::Paire() {
+  simple_.Message = [this](TexteVue texte) { Ouvre(boitesSimple_, texte, Image(simple_)); };
   rapide_.Message = [this](TexteVue texte) { Ouvre(boitesRapide_, texte, Image(rapide_.VmGrille)); };
 }
 
 void Paire::Ouvre(std::vector<Texte>& boites, TexteVue texte, const Texte& grille) const {
   boites.push_back(avecGrille_ ? Texte(texte) + U" " + grille : Texte(texte));
-  if (boites.size() > boitesMax_) throw TropLong{};
+  if (boites.size() > kBoitesMax) throw TropLong{};
 }
 
 std::string Paire::Fait(const Action& action) {
   boitesSimple_.clear();
   boitesRapide_.clear();
+  std::string ecarts;
   switch (action.genre) {
     case Action::Genre::kCharge:
       Charge(action.plateau);
@@ -111,13 +103,13 @@ std::string Paire::Fait(const Action& action) {
       Remplit();
       break;
     case Action::Genre::kRecopie:
-      if (const std::string ecarts = Recopie(); !ecarts.empty()) return ecarts;
+      ecarts = Recopie();
       break;
     case Action::Genre::kJoue:
-      if (const std::string ecarts = Joue(action); !ecarts.empty()) return ecarts;
+      ecarts = Joue(action);
       break;
   }
-  return Compare();
+  return ecarts.empty() ? Compare() : ecarts;
 }
 
 void Paire::Charge(const Plateau& plateau) {
@@ -132,7 +124,7 @@ void Paire::Charge(const Plateau& plateau) {
   moteur_.Evaluation(rapide_.VmGrille, 1);
   for (std::size_t i = 0; i < plateau.cases.size(); ++i) {
     const Contenu& c = plateau.cases[i];
-    simple_.VmGrille[i + 1]->Load(c.valeur, c.etat);
+    simple_.VmGrille[i]->Load(c.valeur, c.etat);
     rapide_.VmGrille(static_cast<int>(i + 1)).Load(c.valeur, c.etat);
   }
   simple_.VgEtat = rapide_.VgEtat = plateau.mode;
@@ -146,7 +138,7 @@ void Paire::Evalue(int passes) {
 // As the board does it: in other modes than grid entry and play nothing is evaluated, a complete grid ends
 // it.
 void Paire::Saisit(int index, TexteVue texte) {
-  simple_.DonneValeur(*simple_.VmGrille[At(index)], texte);
+  simple_.DonneValeur(*simple_.VmGrille[static_cast<std::size_t>(index - 1)], texte);
   rapide_.VmGrille(index).Valeur(texte);
   if (simple_.VgEtat != kEntree && simple_.VgEtat != kJeu) return;
   Evalue(simple_.VgEtat == kEntree ? 1 : 2);
@@ -154,13 +146,11 @@ void Paire::Saisit(int index, TexteVue texte) {
 }
 
 void Paire::Remplit() {
-  for (std::size_t i = 1; i < simple_.VmGrille.size(); ++i) {
-    ClsPos& c = *simple_.VmGrille[i];
-    sudoku::ClsPos rapide = rapide_.VmGrille(static_cast<int>(i));
-    const Texte solution = c.SolutionSure.empty() ? c.SolutionPoss : c.SolutionSure;
-    if (solution.empty() || (c.SolutionSure.empty() && !c.ValeurSaisie().empty())) continue;
-    simple_.DonneValeur(c, solution);
-    rapide.Valeur(solution);
+  for (const Case& c : simple_.VmGrille) {
+    const Texte solution = c->SolutionSure.empty() ? c->SolutionPoss : c->SolutionSure;
+    if (solution.empty() || (c->SolutionSure.empty() && !c->ValeurSaisie.empty())) continue;
+    simple_.DonneValeur(*c, solution);
+    rapide_.VmGrille(c->Index).Valeur(solution);
   }
   Evalue(2);
 }
@@ -169,7 +159,7 @@ std::string Paire::Recopie() {
   Grille simple = simple_.GrilleCopy(simple_.VmGrille);
   sudoku::Grille rapide;
   sudoku::GrilleCopy(rapide_.VmGrille, rapide);
-  std::string ecarts = Compare(simple, rapide);
+  const std::string ecarts = Compare(simple, rapide);
   verdictSimple_ = simple_.Evaluation(simple, 2);
   verdictRapide_ = moteur_.Evaluation(rapide, 2);
   return ecarts.empty() ? Compare(simple, rapide) : ecarts;
@@ -179,8 +169,8 @@ std::string Paire::Joue(const Action& action) {
   simple_.VgSilence = rapide_.VgSilence = action.silence;
   avecGrille_ = !action.contenus;
   AutoDriver& pilote = action.contenus ? autoContenus_ : auto_;
-  const bool rapide = Borne([&] { pilote.JeuAuto(action.reset, action.guess); });
-  const bool simple = Borne([&] { simple_.JeuAuto(action.reset, action.guess); });
+  const bool rapide = Abandonne([&] { pilote.JeuAuto(action.reset, action.guess); });
+  const bool simple = Abandonne([&] { simple_.JeuAuto(action.reset, action.guess); });
   simple_.VgSilence = rapide_.VgSilence = false;
   avecGrille_ = true;
   abandonnee_ = rapide && simple;
@@ -190,12 +180,11 @@ std::string Paire::Joue(const Action& action) {
 // After a run that owes no more; then the other fields are made good.
 std::string Paire::CompareContenus() {
   std::string ecarts;
-  for (std::size_t i = 1; i < simple_.VmGrille.size(); ++i) {
-    const sudoku::ClsPos rapide = rapide_.VmGrille(static_cast<int>(i));
-    Note(ecarts, "ValeurSaisie", simple_.VmGrille[i]->ValeurSaisie(), rapide.ValeurSaisie());
-    Note(ecarts, "Etat", simple_.VmGrille[i]->Etat, rapide.Etat());
+  for (const Case& c : simple_.VmGrille) {
+    Note(ecarts, "ValeurSaisie", c->ValeurSaisie, rapide_.VmGrille(c->Index).ValeurSaisie());
+    Note(ecarts, "Etat", c->Etat, rapide_.VmGrille(c->Index).Etat());
   }
-  if (simple_.VmGrilleEtat.size() > 1 && rapide_.VmGrilleEtat.Borne() > 0) {
+  if (!simple_.VmGrilleEtat.empty() && rapide_.VmGrilleEtat.Borne() > 0) {
     simple_.Evaluation(simple_.VmGrilleEtat, 2);
     moteur_.Evaluation(rapide_.VmGrilleEtat, 2);
   }
@@ -211,11 +200,10 @@ std::string Paire::Compare() {
   Note(ecarts, "verdict", verdictSimple_, verdictRapide_);
   Note(ecarts, "VgEtat", simple_.VgEtat, rapide_.VgEtat);
   Note(ecarts, "VsResolu", simple_.VsResolu, rapide_.VsResolu);
-  Note(ecarts, "cells of VmGrilleEtat", std::max<std::size_t>(simple_.VmGrilleEtat.size(), 1) - 1,
-       At(rapide_.VmGrilleEtat.Borne()));
+  Note(ecarts, "cells of VmGrilleEtat", std::ssize(simple_.VmGrilleEtat), rapide_.VmGrilleEtat.Borne());
   ecarts += Compare(simple_.VmGrille, rapide_.VmGrille);
   if (!ecarts.empty() || simple_.VmGrilleEtat.empty()) return ecarts;
-  const bool memes = simple_.VmGrilleEtat[1] == simple_.VmGrille[1];
+  const bool memes = simple_.VmGrilleEtat[0] == simple_.VmGrille[0];
   Note(ecarts, "cells shared", memes, rapide_.VmGrille.MemesCases(rapide_.VmGrilleEtat));
   return memes ? ecarts : ecarts + Compare(simple_.VmGrilleEtat, rapide_.VmGrilleEtat);
 }
@@ -224,27 +212,13 @@ std::string Paire::Compare() {
 // them.
 std::string Paire::Compare(const Grille& simple, const sudoku::Grille& rapide) {
   const int pas = simple_.VmTaille > 25 ? 97 : 1;
-  for (int i = 1; i < static_cast<int>(simple.size()); ++i) {
-    std::string ecarts = CompareCase(*simple[At(i)], rapide(i));
-    if (ecarts.empty() && i % pas == 0) ecarts = ComparePhrases(*simple[At(i)], rapide);
-    if (!ecarts.empty()) return "; cell " + std::to_string(i) + ecarts;
+  for (const Case& c : simple) {
+    std::string ecarts;
+    Note(ecarts, "fields", Fiche(simple_, *c), Fiche(rapide(c->Index)));
+    if (ecarts.empty() && c->Index % pas == 0) ecarts = ComparePhrases(*c, rapide);
+    if (!ecarts.empty()) return "; cell " + std::to_string(c->Index) + ecarts;
   }
   return {};
-}
-
-std::string Paire::CompareCase(const ClsPos& simple, const sudoku::ClsPos& rapide) {
-  std::string ecarts;
-  Note(ecarts, "Index", simple.Index, rapide.Index());
-  Note(ecarts, "Ligne", simple.Ligne, rapide.Ligne());
-  Note(ecarts, "Colonne", simple.Colonne, rapide.Colonne());
-  Note(ecarts, "Carre", simple.Carre, rapide.Carre());
-  Note(ecarts, "Etat", simple.Etat, rapide.Etat());
-  Note(ecarts, "ValeurSaisie", simple.ValeurSaisie(), rapide.ValeurSaisie());
-  Note(ecarts, "Valeur", simple_.Valeur(simple), TexteVue(rapide.Valeur()));
-  Note(ecarts, "Possible", simple.Possible, rapide.Possible());
-  Note(ecarts, "SolutionSure", simple.SolutionSure, rapide.SolutionSure());
-  Note(ecarts, "SolutionPoss", simple.SolutionPoss, rapide.SolutionPoss());
-  return ecarts;
 }
 
 std::string Paire::ComparePhrases(const ClsPos& simple, const sudoku::Grille& rapide) {

@@ -18,7 +18,7 @@ struct Action {
     kSaisit,   // `texte` typed into cell `nombre`, and the evaluation that the mode asks for
     kRemplit,  // what the last evaluation found written into the cells, and an evaluation with two passes
     kRecopie,  // a copy of the grid evaluated with two passes, the grid itself left alone
-    kJoue      // automatic play
+    kJoue      // automatic play, given up where it opens more than a few boxes
   };
   Genre genre;
   int nombre = 0;
@@ -27,29 +27,23 @@ struct Action {
   bool contenus = false;                               // kJoue, by a driver that owes contents and Etat alone
   Plateau plateau = {};                                // kCharge
 };
-using Partie = std::vector<Action>;
 
 // The two sides. They live on from one grid to the next, as in the program.
-class Paire {
+class Paire : private PlateauAuto {
  public:
-  // A run of the solver that opens more boxes than this is given up; both sides have to give up.
-  explicit Paire(std::size_t boitesMax);
+  Paire();
   // Carries the step out on both. What differs then, in words; nothing if nothing.
   std::string Fait(const Action& action);
 
   const Jeu& Simple() const { return simple_; }
-  // The last step was a run that was given up: nothing but kCharge can follow.
+  // The last step was a run that both sides gave up: nothing but kCharge can follow.
   bool Abandonnee() const { return abandonnee_; }
   // How many sentences of each kind were compared, and how many boxes of each text.
   const std::map<std::string, int>& Bilan() const { return bilan_; }
 
  private:
-  struct Ecran : PlateauAuto {
-    explicit Ecran(GameState& jeu) : jeu_(jeu) {}
-    void Affiche() override {}
-    void Message(TexteVue texte) override { jeu_.Message(texte); }
-    GameState& jeu_;
-  };
+  void Affiche() override {}
+  void Message(TexteVue texte) override { rapide_.Message(texte); }
 
   void Ouvre(std::vector<Texte>& boites, TexteVue texte, const Texte& grille) const;
   void Charge(const Plateau& plateau);
@@ -61,20 +55,17 @@ class Paire {
   std::string Compare();
   std::string Compare(const Grille& simple, const sudoku::Grille& rapide);
   std::string CompareContenus();
-  std::string CompareCase(const ClsPos& simple, const sudoku::ClsPos& rapide);
   std::string ComparePhrases(const ClsPos& simple, const sudoku::Grille& rapide);
 
   Jeu simple_;
   GameState rapide_;
   Evaluateur moteur_{rapide_};
-  Ecran ecran_{rapide_};
-  AutoDriver auto_{rapide_, moteur_, ecran_};
-  AutoDriver autoContenus_{rapide_, moteur_, ecran_, Lecture::kContenus};
+  AutoDriver auto_{rapide_, moteur_, *this};
+  AutoDriver autoContenus_{rapide_, moteur_, *this, Lecture::kContenus};
   // The boxes that the last step opened, each with the grid that stood on the board.
   std::vector<Texte> boitesSimple_, boitesRapide_;
   bool avecGrille_ = true;
   int verdictSimple_ = 0, verdictRapide_ = 0;
-  std::size_t boitesMax_;
   bool abandonnee_ = false;
   std::map<std::string, int> bilan_;
 };

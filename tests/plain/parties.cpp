@@ -52,86 +52,30 @@ Action Evaluation(Hasard& hasard, const Jeu& jeu) {
   return {.genre = Genre::kEvalue, .nombre = une ? 1 : 2};
 }
 
-Action Run(Hasard& hasard) {
-  return {.genre = Genre::kJoue,
-          .reset = !hasard.UneFoisSur(3),
-          .guess = hasard.Pourcent(70),
-          .silence = hasard.UneFoisSur(4),
-          .contenus = hasard.UneFoisSur(3)};
-}
-
 Action Tire(Hasard& hasard, const Genres& genres, const Jeu& jeu) {
-  if (genres.solveur && hasard.Pourcent(70)) return Run(hasard);
-  switch (hasard.Entier(8)) {
-    case 0:
-      return Evaluation(hasard, jeu);
-    case 1:
-      return {.genre = Genre::kRecopie};
-    case 2:
-    case 3:
-      if (jeu.VgEtat != kEntree) return {.genre = Genre::kRemplit};
-      break;
-    case 4:
-      if (jeu.VmTaille <= 9 && hasard.UneFoisSur(4))
-        return {.genre = Genre::kJoue, .reset = true, .silence = true};
-      break;
-    default:
-      break;
+  if (genres.solveur && hasard.Pourcent(70)) {
+    return {.genre = Genre::kJoue,
+            .reset = !hasard.UneFoisSur(3),
+            .guess = hasard.Pourcent(70),
+            .silence = hasard.UneFoisSur(4),
+            .contenus = hasard.UneFoisSur(3)};
+  }
+  const int choix = hasard.Entier(8);
+  if (choix == 0) return Evaluation(hasard, jeu);
+  if (choix == 1) return {.genre = Genre::kRecopie};
+  if (choix <= 3 && jeu.VgEtat != kEntree) return {.genre = Genre::kRemplit};
+  if (choix == 4 && jeu.VmTaille <= 9 && hasard.UneFoisSur(4)) {
+    return {.genre = Genre::kJoue, .reset = true, .silence = true};
   }
   const int cellule = 1 + hasard.Entier(jeu.VmTaille * jeu.VmTaille);
   return {.genre = Genre::kSaisit,
           .nombre = cellule,
-          .texte = SaisieAuHasard(hasard, jeu.VmValeurs, jeu.VmGrille[At(cellule)]->Possible)};
+          .texte = SaisieAuHasard(hasard, jeu.VmValeurs, jeu.VmGrille[At(cellule - 1)]->Possible)};
 }
 
-std::string Decrit(const Action& a) {
-  switch (a.genre) {
-    case Genre::kCharge:
-      return "board, " + plain::Decrit(a.plateau);
-    case Genre::kEvalue:
-      return "evaluation, passes " + std::to_string(a.nombre);
-    case Genre::kSaisit:
-      return "type \"" + VersUtf8(a.texte) + "\" into cell " + std::to_string(a.nombre);
-    case Genre::kRemplit:
-      return "fill in, evaluation";
-    case Genre::kRecopie:
-      return "copy, evaluation of the copy";
-    case Genre::kJoue:
-      break;
-  }
-  return std::string("automatic play, reset ") + (a.reset ? "1" : "0") + ", guess " + (a.guess ? "1" : "0") +
-         ", silence " + (a.silence ? "1" : "0") + (a.contenus ? ", contents alone" : "");
-}
-
-bool Ecart(const Partie& partie, std::size_t boitesMax) {
-  return !Rejoue(partie, boitesMax).empty();
-}
-
-// Empties the board's cells one by one, then makes those left givens, where the difference stays.
-void ReduitPlateau(Partie& partie, std::size_t rang, std::size_t boitesMax) {
-  for (std::size_t i = 0; i < partie[rang].plateau.cases.size(); ++i) {
-    for (const Contenu& plus : {Contenu{}, Contenu{partie[rang].plateau.cases[i].valeur, kDonnee}}) {
-      Partie essai = partie;
-      if (essai[rang].plateau.cases[i] == plus) break;
-      essai[rang].plateau.cases[i] = plus;
-      if (!Ecart(essai, boitesMax)) continue;
-      partie = essai;
-      break;
-    }
-  }
-}
-
-}  // namespace
-
-std::string Decrit(const Partie& partie) {
-  std::string texte;
-  for (const Action& action : partie) texte += "  " + Decrit(action) + "\n";
-  return texte;
-}
-
-std::string JoueAuHasard(std::uint64_t graine, const Genres& genres, Paire& paire, Partie& jouee) {
+// Plays random game number `graine`; `jouee` receives its steps. What differs, or nothing.
+std::string Joue(std::uint64_t graine, const Genres& genres, Paire& paire, Partie& jouee) {
   Hasard hasard(graine);
-  jouee.clear();
   const auto fait = [&](Action action) {
     jouee.push_back(std::move(action));
     return paire.Fait(jouee.back());
@@ -147,8 +91,66 @@ std::string JoueAuHasard(std::uint64_t graine, const Genres& genres, Paire& pair
   return {};
 }
 
-std::string Rejoue(const Partie& partie, std::size_t boitesMax) {
-  Paire paire(boitesMax);
+// Takes the shorter game if it still shows a difference.
+bool Garde(Partie& partie, const Partie& essai) {
+  if (essai.empty() || essai[0].genre != Genre::kCharge || Rejoue(essai).empty()) return false;
+  partie = essai;
+  return true;
+}
+
+void Reduit(Partie& partie) {
+  for (std::size_t avant = 0; avant != partie.size();) {
+    avant = partie.size();
+    for (std::size_t i = partie.size(); i-- > 0;) {
+      Partie essai = partie;
+      essai.erase(essai.begin() + static_cast<std::ptrdiff_t>(i));
+      Garde(partie, essai);
+    }
+  }
+  for (std::size_t rang = 0; rang < partie.size(); ++rang) {
+    for (std::size_t i = 0; i < partie[rang].plateau.cases.size(); ++i) {
+      Partie essai = partie;
+      essai[rang].plateau.cases[i] = {};
+      Garde(partie, essai);
+    }
+  }
+}
+
+std::string Decrit(const Action& a) {
+  static const char* const noms[] = {"board", "evaluation", "type", "fill in", "copy", "automatic play"};
+  std::string texte = std::string("  ") + noms[static_cast<int>(a.genre)];
+  if (a.nombre > 0) texte += " " + std::to_string(a.nombre) + " \"" + VersUtf8(a.texte) + "\"";
+  if (a.reset) texte += " reset";
+  if (a.guess) texte += " guess";
+  if (a.silence) texte += " silence";
+  if (a.contenus) texte += " contents";
+  if (a.genre != Genre::kCharge) return texte + "\n";
+  texte += " " + VersUtf8(a.plateau.symboles) + ", mode " + std::to_string(a.plateau.mode) + ":";
+  for (std::size_t i = 0; i < a.plateau.cases.size(); ++i) {
+    const Contenu& c = a.plateau.cases[i];
+    if (c == Contenu{}) continue;
+    texte += " " + std::to_string(i + 1) + "=\"" + VersUtf8(c.valeur) + "\"/" + std::to_string(c.etat);
+  }
+  return texte + "\n";
+}
+
+}  // namespace
+
+std::string JoueAuHasard(std::uint64_t premiere, std::uint64_t parties, const Genres& genres, Paire& paire) {
+  for (std::uint64_t graine = premiere; graine < premiere + parties; ++graine) {
+    Partie jouee;
+    const std::string ecarts = Joue(graine, genres, paire, jouee);
+    if (ecarts.empty()) continue;
+    const std::string ou = "game " + std::to_string(graine) + ecarts + "\n";
+    if (Rejoue(jouee).empty()) return ou + "only after the games before it\n" + Decrit(jouee);
+    Reduit(jouee);
+    return ou + Decrit(jouee) + Rejoue(jouee);
+  }
+  return {};
+}
+
+std::string Rejoue(const Partie& partie) {
+  Paire paire;
   for (const Action& action : partie) {
     if (paire.Abandonnee() && action.genre != Genre::kCharge) continue;
     if (std::string ecarts = paire.Fait(action); !ecarts.empty()) return ecarts;
@@ -156,19 +158,10 @@ std::string Rejoue(const Partie& partie, std::size_t boitesMax) {
   return {};
 }
 
-Partie Reduit(Partie partie, std::size_t boitesMax) {
-  for (std::size_t avant = 0; avant != partie.size();) {
-    avant = partie.size();
-    for (std::size_t i = partie.size(); i-- > 0;) {
-      Partie essai = partie;
-      essai.erase(essai.begin() + static_cast<std::ptrdiff_t>(i));
-      if (!essai.empty() && essai[0].genre == Genre::kCharge && Ecart(essai, boitesMax)) partie = essai;
-    }
-  }
-  for (std::size_t i = 0; i < partie.size(); ++i) {
-    if (partie[i].genre == Genre::kCharge) ReduitPlateau(partie, i, boitesMax);
-  }
-  return partie;
+std::string Decrit(const Partie& partie) {
+  std::string texte;
+  for (const Action& action : partie) texte += Decrit(action);
+  return texte;
 }
 
 }  // namespace sudoku::plain

@@ -5,8 +5,7 @@
 // Random games, and what one does with a game that shows a difference.
 namespace sudoku::plain {
 
-// For a failure's message.
-std::string Decrit(const Partie& partie);
+using Partie = std::vector<Action>;
 
 // What games are made of.
 struct Genres {
@@ -15,13 +14,15 @@ struct Genres {
   bool solveur = false;  // whole runs of the solver, most of the time
 };
 
-// Plays one random game of up to three boards; `jouee` receives its steps. What differs, or nothing.
-std::string JoueAuHasard(std::uint64_t graine, const Genres& genres, Paire& paire, Partie& jouee);
+// Plays random games number `premiere` and on, of up to three boards each. At the first difference it stops
+// and tells it, with the shortest game found that shows it, steps left out and cells emptied; nothing if
+// there is none.
+std::string JoueAuHasard(std::uint64_t premiere, std::uint64_t parties, const Genres& genres, Paire& paire);
 
-// Plays the steps on a pair of its own.
-std::string Rejoue(const Partie& partie, std::size_t boitesMax);
+// Plays the steps on a pair of its own. What differs, or nothing.
+std::string Rejoue(const Partie& partie);
 
-// The shortest game found that still shows a difference: steps left out, cells emptied.
-Partie Reduit(Partie partie, std::size_t boitesMax);
+// For a failure's message.
+std::string Decrit(const Partie& partie);
 
 }  // namespace sudoku::plain

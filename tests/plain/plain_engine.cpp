@@ -1,34 +1,21 @@
 #include "plain/plain_engine.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace sudoku::plain {
 
-void ClsPos::Load(TexteVue valeur, int etat) {
-  VmValeur = valeur;
-  Etat = etat;
-}
-
 TexteVue Jeu::Valeur(const ClsPos& c) const {
-  switch (c.Etat) {
-    case kDonnee:
-    case kSure:
-      return c.VmValeur;
-    case kEssai:
-      return VgEtat == kSecondePasse ? TexteVue(c.VmValeur) : TexteVue();
-    default:
-      return {};
-  }
+  const bool compte = c.Etat == kDonnee || c.Etat == kSure || (c.Etat == kEssai && VgEtat == kSecondePasse);
+  return compte ? TexteVue(c.ValeurSaisie) : TexteVue();
 }
 
 void Jeu::DonneValeur(ClsPos& c, TexteVue valeur) {
   if (VgEtat == kFini) VgEtat = kJeu;
+  const bool possible = Contient(c.Possible, valeur);
   if (valeur.empty()) {
     c.Load(U"", kSure);
-    return;
-  }
-  const bool possible = Contient(c.Possible, valeur);
-  if (VgEtat == kEntree) {
+  } else if (VgEtat == kEntree) {
     if (possible && (c.SolutionSure.empty() || Egal(c.SolutionSure, valeur))) {
       c.Load(valeur, kDonnee);
     } else {
@@ -41,67 +28,44 @@ void Jeu::DonneValeur(ClsPos& c, TexteVue valeur) {
   }
 }
 
-Case Jeu::Cellule(int index) const {
-  const int n = VmTaille;
-  const int s = static_cast<int>(std::sqrt(static_cast<double>(n)));
-  auto c = std::make_shared<ClsPos>();
-  c->Index = index;
-  c->Colonne = (index - 1) % n + 1;
-  c->Ligne = (index - 1) / n + 1;
-  c->Carre = (c->Ligne - 1) / s * s + (c->Colonne - 1) / s + 1;
-  return c;
-}
-
-bool Jeu::JeuVierge(TexteVue valeurs) {
-  const double r = std::sqrt(static_cast<double>(valeurs.size()));
-  if (valeurs.empty() || valeurs.size() > 169 || std::floor(r) != r) return false;
+void Jeu::JeuVierge(TexteVue valeurs) {
   VgEtat = kEntree;
   VmValeurs = valeurs;
   VmTaille = static_cast<int>(valeurs.size());
-  VmGrille.assign(1, nullptr);
+  VmGrille.clear();
   VmGrilleEtat.clear();
   VsResolu = false;
-  for (auto& type : unites_) type.assign(static_cast<std::size_t>(VmTaille) + 1, {});
-  for (int i = 1; i <= VmTaille * VmTaille; ++i) {
-    const Case c = Cellule(i);
-    VmGrille.push_back(c);
-    unites_[kColonne][static_cast<std::size_t>(c->Colonne)].push_back(i);
-    unites_[kLigne][static_cast<std::size_t>(c->Ligne)].push_back(i);
-    unites_[kCarre][static_cast<std::size_t>(c->Carre)].push_back(i);
+  for (auto& type : unites_) type.assign(valeurs.size() + 1, {});
+  const int n = VmTaille;
+  const int s = static_cast<int>(std::lround(std::sqrt(n)));
+  for (int i = 0; i < n * n; ++i) {
+    const int ligne = i / n, colonne = i % n, carre = ligne / s * s + colonne / s;
+    VmGrille.push_back(std::make_shared<ClsPos>());
+    VmGrille.back()->Index = i + 1;
+    for (const auto& [type, num] : {std::pair{kColonne, colonne}, {kLigne, ligne}, {kCarre, carre}}) {
+      VmGrille.back()->Unite[type] = num + 1;
+      unites_[type][static_cast<std::size_t>(num + 1)].push_back(i);
+    }
   }
   Evaluation(VmGrille, 1);
-  return true;
 }
 
 Grille Jeu::GrilleCopy(const Grille& source) const {
-  Grille copie(1);
-  for (std::size_t i = 1; i < source.size(); ++i) {
-    copie.push_back(Cellule(static_cast<int>(i)));
-    const ClsPos& de = *source[i];
-    ClsPos& vers = *copie.back();
-    vers.Load(de.ValeurSaisie(), de.Etat);
-    vers.Possible = de.Possible;
-    vers.SolutionSure = de.SolutionSure;
-    vers.SolutionPoss = de.SolutionPoss;
-    vers.Explications = de.Explications;
-  }
+  Grille copie;
+  for (const Case& c : source) copie.push_back(std::make_shared<ClsPos>(*c));
   return copie;
 }
 
 int Jeu::NbARemplir(const Grille& grille) const {
-  int nombre = 0;
-  for (std::size_t i = 1; i < grille.size(); ++i) {
-    const ClsPos& c = *grille[i];
-    if (c.ValeurSaisie().empty() && !(c.SolutionSure.empty() && c.SolutionPoss.empty())) ++nombre;
-  }
-  return nombre;
+  return static_cast<int>(std::ranges::count_if(grille, [](const Case& c) {
+    return c->ValeurSaisie.empty() && !(c->SolutionSure.empty() && c->SolutionPoss.empty());
+  }));
 }
 
 // Steps 3 to 5 of a visit: revises Etat and gives what the cell adds to the count.
 int Jeu::Juge(ClsPos& c, bool relevable) const {
-  const Texte& saisie = c.ValeurSaisie();
-  if (c.Etat == kDonnee || c.Etat == kSure) return saisie.empty() ? 0 : 1;
-  const bool possible = Contient(c.Possible, saisie);
+  if (c.Etat == kDonnee || c.Etat == kSure) return c.ValeurSaisie.empty() ? 0 : 1;
+  const bool possible = Contient(c.Possible, c.ValeurSaisie);
   if (c.Etat == kFausse && possible && relevable) c.Etat = kEssai;
   if (c.Etat != kEssai) return 0;
   if (!possible) {
@@ -109,13 +73,13 @@ int Jeu::Juge(ClsPos& c, bool relevable) const {
     return 0;
   }
   if (c.SolutionSure.empty()) return 1;
-  c.Etat = Egal(c.SolutionSure, saisie) ? kSure : kFausse;
+  c.Etat = Egal(c.SolutionSure, c.ValeurSaisie) ? kSure : kFausse;
   return c.Etat == kSure ? 1 : 0;
 }
 
 std::optional<int> Jeu::GrilleCheck(const Grille& grille, std::vector<int>& releves) {
   int nombre = 0;
-  for (std::size_t i = 1; i < grille.size(); ++i) {
+  for (std::size_t i = 0; i < grille.size(); ++i) {
     ClsPos& c = *grille[i];
     if (c.Possible.empty()) return -1;
     const int avant = c.Etat;
@@ -159,59 +123,45 @@ void Jeu::Passes(Grille& grille, int passes, bool suite) {
 // The cell scan; whether there are unproved entries.
 bool Jeu::ParcoursCases(Grille& grille, bool suite) {
   bool saisies = false;
-  for (std::size_t i = 1; i < grille.size(); ++i) {
-    ClsPos& c = *grille[i];
-    if (c.Etat == kEssai) saisies = true;
+  for (const Case& c : grille) {
+    if (c->Etat == kEssai) saisies = true;
     if (!suite) {
-      c.Explications.clear();
-      c.SolutionPoss.clear();
-      if (VgEtat != kSecondePasse) c.SolutionSure.clear();
-      ListePossibles(static_cast<int>(i), grille);
+      c->Explications.clear();
+      c->SolutionPoss.clear();
+      if (VgEtat != kSecondePasse) c->SolutionSure.clear();
+      c->Possible = ListePossibles(*c, grille);
     }
-    if (c.Possible.size() == 1) {
-      (VgEtat == kEntree || VgEtat == kJeu ? c.SolutionSure : c.SolutionPoss) = c.Possible;
-    }
+    if (c->Possible.size() == 1) Trouve(*c, c->Possible);
   }
   return saisies;
 }
 
 bool Jeu::ParcoursSeries(Grille& grille) {
   bool change = false;
-  Serie serie(static_cast<std::size_t>(VmTaille) + 1);
-  for (int s = 1; s <= VmTaille; ++s) {
+  for (int num = 1; num <= VmTaille; ++num) {
     for (const int type : {kCarre, kLigne, kColonne}) {
-      GetSerie(type, s, serie, grille);
-      if (TestSerie(serie, type, grille)) change = true;
+      if (TestSerie(type, num, grille)) change = true;
     }
   }
   return change;
 }
 
-void Jeu::ListePossibles(int pos, Grille& grille) {
-  ClsPos& c = *grille[static_cast<std::size_t>(pos)];
-  if (!Valeur(c).empty()) {
-    c.Possible = c.ValeurSaisie();
-    return;
+Texte Jeu::ListePossibles(const ClsPos& c, const Grille& grille) const {
+  if (!Valeur(c).empty()) return c.ValeurSaisie;
+  Texte possible = VmValeurs;
+  for (const int type : {kCarre, kLigne, kColonne}) {
+    for (const Case& autre : GetSerie(type, c.Unite[type], grille)) {
+      const TexteVue valeur = autre->Index == c.Index ? TexteVue() : Valeur(*autre);
+      if (valeur.size() > 1 || (valeur.size() == 1 && Porte(possible, valeur[0]))) {
+        possible = Sans(possible, valeur);
+      }
+    }
   }
-  Serie serie(static_cast<std::size_t>(VmTaille) + 1);
-  c.Possible = VmValeurs;
-  GetSerie(kCarre, c.Carre, serie, grille);
-  c.Possible = RetireTous(c.Possible, serie, pos);
-  GetSerie(kLigne, c.Ligne, serie, grille);
-  c.Possible = RetireTous(c.Possible, serie, pos);
-  GetSerie(kColonne, c.Colonne, serie, grille);
-  c.Possible = RetireTous(c.Possible, serie, pos);
+  return possible;
 }
 
-Texte Jeu::RetireTous(TexteVue liste, const Serie& serie, int pos) const {
-  Texte copie(liste);
-  for (std::size_t i = 1; i < serie.size(); ++i) {
-    if (serie[i]->Index == pos) continue;
-    const TexteVue valeur = Valeur(*serie[i]);
-    if (valeur.empty()) continue;
-    if (valeur.size() == 1 ? Porte(copie, valeur[0]) : Contient(copie, valeur)) copie = Sans(copie, valeur);
-  }
-  return copie;
+void Jeu::Trouve(ClsPos& c, TexteVue symbole) const {
+  (VgEtat == kEntree || VgEtat == kJeu ? c.SolutionSure : c.SolutionPoss) = symbole;
 }
 
 }  // namespace sudoku::plain

@@ -3,7 +3,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <string>
+#include <set>
 #include <vector>
 
 #include "text/texte.h"
@@ -20,26 +20,26 @@ inline constexpr int kEntree = 1, kJeu = 2, kSecondePasse = 3, kFini = 4;
 inline constexpr int kColonne = 0, kLigne = 1, kCarre = 2;
 
 struct ClsPos {
-  int Index = 0, Ligne = 0, Colonne = 0, Carre = 0;
-  Texte Possible, SolutionSure, SolutionPoss, Explications;
-  int Etat = 0;
-  Texte VmValeur;
+  int Index = 0, Etat = 0;
+  int Unite[3] = {};  // the numbers of its column, row and block, by type
+  Texte ValeurSaisie, Possible, SolutionSure, SolutionPoss, Explications;
 
-  const Texte& ValeurSaisie() const { return VmValeur; }
-  void Load(TexteVue valeur, int etat);
+  void Load(TexteVue valeur, int etat) {
+    ValeurSaisie = valeur;
+    Etat = etat;
+  }
 };
 
 using Case = std::shared_ptr<ClsPos>;
-using Grille = std::vector<Case>;  // indices 0 to N*N, element 0 empty
-using Serie = std::vector<Case>;   // positions 1 to N, element 0 empty
-using Tirets = std::string;        // a dash list: "-3-7"
+using Serie = std::vector<Case>;   // a unit, or some of its cells
+using Grille = std::vector<Case>;  // all cells: cell i at position i - 1
 
 // Where symbol Symbole can go in unit Unite of type T1, seen through the units of type T2.
 struct NxNEmpreinte {
   int Unite = 0;
   char32_t Symbole = 0;
   int T2 = 0, T1 = 0;
-  Tirets Unites, Cases;
+  std::set<int> Unites, Cases;
 };
 
 struct TSupposition {
@@ -47,13 +47,6 @@ struct TSupposition {
   Texte Essais, Valeur, Possible;
 };
 using Pile = std::vector<TSupposition>;
-
-// The entries of a dash list; its canonical form.
-std::vector<int> Nombres(const Tirets& liste);
-Tirets GetCombi(const Tirets& liste);
-
-// Contient for one symbol: most of the time goes there, so the lower case comes from a table.
-bool Porte(TexteVue texte, char32_t symbole);
 
 // One game with all that the rules read and write.
 class Jeu {
@@ -67,8 +60,8 @@ class Jeu {
   // Every box that opens.
   std::function<void(TexteVue)> Message = [](TexteVue) {};
 
-  // A new grid in mode 1, evaluated once; false, and nothing changed, for symbols that no grid can have.
-  bool JeuVierge(TexteVue valeurs);
+  // A new grid in mode 1, evaluated once.
+  void JeuVierge(TexteVue valeurs);
 
   TexteVue Valeur(const ClsPos& c) const;
   void DonneValeur(ClsPos& c, TexteVue valeur);
@@ -79,7 +72,6 @@ class Jeu {
   void JeuAuto(bool reset, bool guess);
 
  private:
-  Case Cellule(int index) const;
   int NbARemplir(const Grille& grille) const;
   // The verdict; nothing when a judgement changed and the grid is to be evaluated again.
   std::optional<int> GrilleCheck(const Grille& grille, std::vector<int>& releves);
@@ -88,22 +80,20 @@ class Jeu {
   void Passes(Grille& grille, int passes, bool suite);
   bool ParcoursCases(Grille& grille, bool suite);
   bool ParcoursSeries(Grille& grille);
-  void ListePossibles(int pos, Grille& grille);
-  Texte RetireTous(TexteVue liste, const Serie& serie, int pos) const;
+  Texte ListePossibles(const ClsPos& c, const Grille& grille) const;
+  // Writes the symbol found for a cell where the mode has it.
+  void Trouve(ClsPos& c, TexteVue symbole) const;
 
-  void GetSerie(int type, int num, Serie& serie, const Grille& grille) const;
-  std::vector<Case> GetLocations(const Serie& serie, char32_t symbole) const;
+  Serie GetSerie(int type, int num, const Grille& grille) const;
+  Serie GetLocations(const Serie& serie, char32_t symbole) const;
   bool IsLocated(const Serie& serie, char32_t symbole) const;
 
-  bool TestSerie(const Serie& serie, int type, Grille& grille);
+  bool TestSerie(int type, int num, const Grille& grille);
   Texte ResteAPlacer(const Serie& serie) const;
-  void SeuleCase(ClsPos& c, char32_t symbole, int type) const;
-  bool Confine(const std::vector<Case>& locs, char32_t symbole, int type, Grille& grille) const;
-  bool SequencesCachees(const Serie& serie, int type, const std::vector<Tirets>& places,
-                        Grille& grille) const;
-  bool SequencesNues(const Serie& serie, int type) const;
-  bool Inference(int type, int num, char32_t symbole, const std::vector<Case>& locs, Grille& grille,
+  bool Inference(int type, int num, char32_t symbole, const Serie& locs, const Grille& grille,
                  const Texte& origine) const;
+  bool SequencesCachees(const Texte& unite, const std::vector<Serie>& places) const;
+  bool SequencesNues(const Texte& unite, const Serie& serie) const;
 
   bool NxN(const Grille& grille);
   std::vector<NxNEmpreinte> Empreintes(const Grille& grille) const;
@@ -116,11 +106,23 @@ class Jeu {
   Texte MessageFinal(int verdict, const Pile& supp) const;
   bool UniteBrisee(const Grille& grille) const;
 
-  std::vector<std::vector<int>> unites_[3];  // by type and number: the indexes, ascending
+  std::vector<std::vector<int>> unites_[3];  // by type and number: the positions in a grid, ascending
 };
 
-// Takes `valeur` out of the candidates of `c`, ignoring case; sets `trouve` if one went, and then explains.
-void Retire(ClsPos& c, TexteVue valeur, bool& trouve, TexteVue explication);
+// Contient for one symbol: most of the time goes there, so the lower case comes from a table.
+bool Porte(TexteVue texte, char32_t symbole);
+
+// Takes `symbole` out of the candidates of `c`, ignoring case; True if it was there, and then it is
+// explained.
+bool Retire(ClsPos& c, char32_t symbole, TexteVue explication);
 void Explique(ClsPos& c, TexteVue texte);
+
+// "3, 7, 12".
+template <class Nombres>
+Texte Virgules(const Nombres& nombres) {
+  Texte texte;
+  for (const int n : nombres) texte += (texte.empty() ? U"" : U", ") + Decimal(n);
+  return texte;
+}
 
 }  // namespace sudoku::plain

@@ -7,15 +7,12 @@ int Jeu::JeuSolve(Grille& grille) {
     const int resultat = Evaluation(grille, 2);
     if (resultat == -1) return -1;
     bool fini = true;
-    for (std::size_t i = 1; i < grille.size(); ++i) {
-      ClsPos& c = *grille[i];
-      if (!c.SolutionSure.empty() && !Egal(c.ValeurSaisie(), c.SolutionSure)) {
-        DonneValeur(c, Texte(c.SolutionSure));
-        fini = false;
-      } else if (c.ValeurSaisie().empty() && !c.SolutionPoss.empty()) {
-        DonneValeur(c, Texte(c.SolutionPoss));
-        fini = false;
-      }
+    for (const Case& c : grille) {
+      const bool sure = !c->SolutionSure.empty() && !Egal(c->ValeurSaisie, c->SolutionSure);
+      const bool poss = c->ValeurSaisie.empty() && !c->SolutionPoss.empty();
+      if (!sure && !poss) continue;
+      DonneValeur(*c, Texte(sure ? c->SolutionSure : c->SolutionPoss));
+      fini = false;
     }
     if (fini) return resultat;
   }
@@ -40,24 +37,25 @@ bool Jeu::GuessResult(int resultat, Pile& supp) {
 // The next supposition; false when it finds no cell for one.
 bool Jeu::Guess(Grille& grille, const Grille& base, Pile& supp) {
   grille = GrilleCopy(base);
+  const auto suppose = [&](const TSupposition& s) {
+    DonneValeur(*grille[static_cast<std::size_t>(s.Index - 1)], s.Valeur);
+  };
+  for (std::size_t niveau = 1; niveau < supp.size(); ++niveau) {
+    if (!supp[niveau].Valeur.empty()) suppose(supp[niveau]);
+  }
   if (supp.size() > 1) {
-    for (std::size_t niveau = 1; niveau < supp.size(); ++niveau) {
-      const TSupposition& s = supp[niveau];
-      if (!s.Valeur.empty()) DonneValeur(*grille[static_cast<std::size_t>(s.Index)], s.Valeur);
-    }
     TSupposition& haut = supp.back();
     if (haut.Valeur.empty()) {
       haut.Valeur = haut.Possible.substr(haut.Essais.size(), 1);
-      DonneValeur(*grille[static_cast<std::size_t>(haut.Index)], haut.Valeur);
+      suppose(haut);
       return true;
     }
     JeuSolve(grille);
   }
-  for (std::size_t i = static_cast<std::size_t>(supp.back().Index) + 1; i < grille.size(); ++i) {
-    ClsPos& c = *grille[i];
-    if (c.Possible.size() <= 1) continue;
-    supp.push_back({static_cast<int>(i), {}, c.Possible.substr(0, 1), c.Possible});
-    DonneValeur(c, supp.back().Valeur);
+  for (const Case& c : grille) {
+    if (c->Index <= supp.back().Index || c->Possible.size() <= 1) continue;
+    supp.push_back({c->Index, {}, c->Possible.substr(0, 1), c->Possible});
+    suppose(supp.back());
     return true;
   }
   return false;
@@ -66,9 +64,9 @@ bool Jeu::Guess(Grille& grille, const Grille& base, Pile& supp) {
 // No cell is left to suppose a symbol for: wrong entries of the player that stand in the way of their cells'
 // only candidates give way to them.
 void Jeu::CorrigeFausses(const Grille& grille, const Grille& base) {
-  for (std::size_t i = 1; i < grille.size(); ++i) {
+  for (std::size_t i = 0; i < grille.size(); ++i) {
     ClsPos& c = *grille[i];
-    if (!base[i]->ValeurSaisie().empty() && c.Etat == kFausse && c.Possible.size() == 1) {
+    if (!base[i]->ValeurSaisie.empty() && c.Etat == kFausse && c.Possible.size() == 1) {
       DonneValeur(c, Texte(c.Possible));
     }
   }
@@ -76,14 +74,13 @@ void Jeu::CorrigeFausses(const Grille& grille, const Grille& base) {
 
 // A symbol of the grid stands twice in a unit; contents that are no symbol don't count.
 bool Jeu::UniteBrisee(const Grille& grille) const {
-  for (const auto& type : unites_) {
-    for (const std::vector<int>& unite : type) {
+  for (const int type : {kColonne, kLigne, kCarre}) {
+    for (int num = 1; num <= VmTaille; ++num) {
       Texte vus;
-      for (const int index : unite) {
-        const Texte& valeur = grille[static_cast<std::size_t>(index)]->ValeurSaisie();
-        if (valeur.size() != 1 || !Contient(VmValeurs, valeur)) continue;
-        if (Contient(vus, valeur)) return true;
-        vus += valeur;
+      for (const Case& c : GetSerie(type, num, grille)) {
+        if (c->ValeurSaisie.size() != 1 || !Contient(VmValeurs, c->ValeurSaisie)) continue;
+        if (Contient(vus, c->ValeurSaisie)) return true;
+        vus += c->ValeurSaisie;
       }
     }
   }
@@ -124,12 +121,11 @@ void Jeu::JeuAuto(bool reset, bool guess) {
   const bool resolu = tranche && verdict == 0;
   if (resolu) VsResolu = true;
   if (VgSilence) {
-    if (resolu) VmGrilleEtat = travail;
     VgEtat = kJeu;
-    return;
+  } else {
+    VmGrille = travail;
+    Message(tranche ? MessageFinal(verdict, supp) : U"Non résolu");
   }
-  VmGrille = travail;
-  Message(tranche ? MessageFinal(verdict, supp) : U"Non résolu");
   if (resolu) VmGrilleEtat = travail;
 }
 

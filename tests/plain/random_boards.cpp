@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 namespace sudoku::plain {
 namespace {
@@ -24,32 +25,27 @@ char32_t AutreCasse(char32_t c) {
   return c >= U'a' && c <= U'z' ? c - 0x20 : c;
 }
 
-// Rows and columns shuffled within bands, bands shuffled.
-std::vector<int> Ordre(Hasard& hasard, int s) {
-  std::vector<int> bandes, ordre;
-  for (int b = 0; b < s; ++b) bandes.push_back(b);
-  hasard.Melange(bandes);
-  for (const int b : bandes) {
-    std::vector<int> lignes;
-    for (int k = 0; k < s; ++k) lignes.push_back(b * s + k);
-    hasard.Melange(lignes);
-    ordre.insert(ordre.end(), lignes.begin(), lignes.end());
+// Two symbols change places in cells that hang together, which leaves no unit with one of them twice.
+void Echange(Hasard& hasard, int n, int s, std::vector<int>& grille) {
+  const int a = hasard.Entier(n), b = (a + 1 + hasard.Entier(n - 1)) % n;
+  std::vector<int> reste;
+  for (int i = 0; i < n * n; ++i) {
+    if (grille[At(i)] == a || grille[At(i)] == b) reste.push_back(i);
   }
-  return ordre;
-}
-
-// A full grid without a symbol twice in a unit: each row is the one above, shifted; then shuffled.
-std::vector<int> GrillePleine(Hasard& hasard, int n) {
-  const int s = static_cast<int>(std::lround(std::sqrt(n)));
-  std::vector<int> noms;
-  for (int p = 0; p < n; ++p) noms.push_back(p);
-  hasard.Melange(noms);
-  std::vector<int> pleine;
-  const std::vector<int> lignes = Ordre(hasard, s), colonnes = Ordre(hasard, s);
-  for (const int r : lignes) {
-    for (const int c : colonnes) pleine.push_back(noms[At((r % s * s + r / s + c) % n)]);
+  hasard.Melange(reste);
+  std::vector<int> chaine{reste.back()};
+  reste.pop_back();
+  // NOLINTNEXTLINE(modernize-loop-convert): the chain grows on the way
+  for (std::size_t k = 0; k < chaine.size(); ++k) {
+    const int i = chaine[k];
+    const auto loin = std::partition(reste.begin(), reste.end(), [&](int j) {
+      const bool carre = i / n / s == j / n / s && i % n / s == j % n / s;
+      return i / n != j / n && i % n != j % n && !carre;
+    });
+    chaine.insert(chaine.end(), loin, reste.end());
+    reste.erase(loin, reste.end());
   }
-  return pleine;
+  for (const int i : chaine) grille[At(i)] = a + b - grille[At(i)];
 }
 
 Texte Symbole(Hasard& hasard, TexteVue symboles) {
@@ -59,88 +55,39 @@ Texte Symbole(Hasard& hasard, TexteVue symboles) {
 // Neighbours in `symboles`, several symbols at random, one written twice, one in the other case, a stranger.
 Texte TexteEtrange(Hasard& hasard, TexteVue symboles) {
   const int n = static_cast<int>(symboles.size());
-  switch (hasard.Entier(6)) {
-    case 0:
-    case 1:
-      return Texte(symboles.substr(At(hasard.Entier(n)), At(2 + hasard.Entier(3))));
-    case 2:
-      return Symbole(hasard, symboles) + Symbole(hasard, symboles);
-    case 3: {
-      const Texte deux = Symbole(hasard, symboles);
-      return deux + deux + (hasard.UneFoisSur(2) ? Symbole(hasard, symboles) : Texte());
-    }
-    case 4:
-      return Texte(1, AutreCasse(Symbole(hasard, symboles)[0]));
-    default:
-      return hasard.UneFoisSur(2) ? U"ß" : Symbole(hasard, symboles) + U"?";
-  }
+  const int genre = hasard.Entier(6);
+  const Texte un = Symbole(hasard, symboles);
+  if (genre <= 1) return Texte(symboles.substr(At(hasard.Entier(n)), At(2 + hasard.Entier(3))));
+  if (genre == 2) return un + Symbole(hasard, symboles);
+  if (genre == 3) return un + un + (hasard.UneFoisSur(2) ? Symbole(hasard, symboles) : Texte());
+  if (genre == 4) return Texte(1, AutreCasse(un[0]));
+  return hasard.UneFoisSur(2) ? U"ß" : un + U"?";
 }
 
-// The places of unit u, seen as a row, a column or a block.
-int CaseDe(int forme, int u, int place, int n, int s) {
-  const int ligne = forme == 0 ? u : forme == 1 ? place : u / s * s + place / s;
-  const int colonne = forme == 0 ? place : forme == 1 ? u : u % s * s + place % s;
-  return ligne * n + colonne;
-}
-
-// Closes the cells that are the only open ones of a unit: a symbol would be settled there.
-void FermeSeules(std::vector<bool>& ouvertes, int n, int s) {
-  for (int tour = 0; tour < 3; ++tour) {
-    for (int u = 0; u < 3 * n; ++u) {
-      std::vector<int> seules;
-      for (int p = 0; p < n; ++p) {
-        const int i = CaseDe(u / n, u % n, p, n, s);
-        if (ouvertes[At(i)]) seules.push_back(i);
-      }
-      if (seules.size() == 1) ouvertes[At(seules[0])] = false;
-    }
-  }
-}
-
-// Which cells stay open in a board that few deductions can enter: some at random, but k units of a kind,
-// often neighbours, only in the same k places (blocks: in the same few lines), so that a figure of size k is
-// there.
-std::vector<bool> Motif(Hasard& hasard, int n) {
-  const int s = static_cast<int>(std::lround(std::sqrt(n)));
-  const int forme = hasard.Entier(3), densite = 15 + hasard.Entier(75);
-  std::vector<bool> ouvertes;
-  for (int i = 0; i < n * n; ++i) ouvertes.push_back(hasard.Pourcent(densite));
-  for (int figures = hasard.Entier(3); figures > 0 && n > 1; --figures) {
-    const int k = 2 + hasard.Entier(std::min(4, n - 1));
-    const int debut = hasard.Entier(n), ecart = hasard.UneFoisSur(2) ? 1 : 1 + hasard.Entier(n - 1);
-    std::vector<int> places;
-    for (int m = 0; m < k; ++m)
-      places.push_back(forme == 2 ? hasard.Entier(std::min(n, 2 * s)) : hasard.Entier(n));
-    for (int m = 0; m < k; ++m) {
-      const int u = (debut + m * ecart) % n;
-      for (int p = 0; p < n; ++p) ouvertes[At(CaseDe(forme, u, p, n, s))] = false;
-      for (const int p : places) {
-        const int dans = forme == 2 ? p / s * s + hasard.Entier(s) : p;
-        ouvertes[At(CaseDe(forme, u, dans, n, s))] = true;
-      }
-    }
-  }
-  if (!hasard.UneFoisSur(4)) FermeSeules(ouvertes, n, s);
-  return ouvertes;
-}
-
-// Symbols that stand nowhere, two at least, are possible in every open cell: no cell and hardly a symbol is
-// settled at once. The others are scattered over the closed cells.
-std::vector<Contenu> RemplitMotif(Hasard& hasard, const Texte& symboles, int n) {
-  Texte usages = symboles;
+// A board that few deductions can enter. Symbols that stand nowhere, two at least, are possible in every open
+// cell: no cell and hardly a symbol is settled at once. The others are scattered over the closed cells. Some
+// neighbouring rows or columns may be open in the same few places alone, so that figures stand there.
+void Disperse(Hasard& hasard, Plateau& plateau) {
+  const int n = static_cast<int>(plateau.symboles.size());
+  Texte usages = plateau.symboles;
   hasard.Melange(usages);
   usages.resize(At(1 + hasard.Entier(hasard.UneFoisSur(2) ? std::min(n, 2) : std::max(1, n - 2))));
   const int etats = hasard.UneFoisSur(3) ? 1 + hasard.Entier(40) : 0;
   const bool etranges = hasard.UneFoisSur(8);
-  std::vector<Contenu> cases;
-  for (const bool ouverte : Motif(hasard, n)) {
+  const int densite = 15 + hasard.Entier(75), lignes = hasard.Entier(5), debut = hasard.Entier(n);
+  const bool couchees = hasard.UneFoisSur(2);
+  std::set<int> places;
+  for (int k = 0; k < lignes; ++k) places.insert(hasard.Entier(n));
+  for (int i = 0; i < n * n; ++i) {
+    const int ligne = couchees ? i / n : i % n, place = couchees ? i % n : i / n;
+    const bool figure = ligne >= debut && ligne < debut + lignes;
+    const bool ouverte = figure ? places.contains(place) : hasard.Pourcent(densite);
     Contenu c;
     if (!ouverte || hasard.UneFoisSur(40)) c.valeur = Symbole(hasard, usages);
     if (etranges && !ouverte && hasard.UneFoisSur(10)) c.valeur = TexteEtrange(hasard, usages);
     if (!c.valeur.empty() && hasard.Pourcent(etats)) c.etat = 1 + hasard.Entier(3);
-    cases.push_back(c);
+    plateau.cases.push_back(c);
   }
-  return cases;
 }
 
 // How one board is filled. Percentages are of cells, but `fautes`, `etrangers`: of the filled cells.
@@ -151,15 +98,8 @@ struct Recette {
 
 Recette RecetteAuHasard(Hasard& hasard) {
   Recette r;
-  switch (hasard.Entier(10)) {
-    case 0:
-      break;
-    case 1:
-      r.remplies = 92 + hasard.Entier(9);
-      break;
-    default:
-      r.remplies = 10 + hasard.Entier(60);
-  }
+  const int genre = hasard.Entier(10);
+  if (genre > 0) r.remplies = genre == 1 ? 92 + hasard.Entier(9) : 10 + hasard.Entier(60);
   if (hasard.UneFoisSur(4)) r.fautes = hasard.UneFoisSur(3) ? 100 : 1 + hasard.Entier(30);
   if (hasard.UneFoisSur(2)) r.entrees = 3 + hasard.Entier(50);
   if (hasard.UneFoisSur(4)) r.etrangers = 2 + hasard.Entier(40);
@@ -195,6 +135,14 @@ void Remplit(Hasard& hasard, const Recette& recette, Plateau& plateau) {
 
 }  // namespace
 
+std::vector<int> GrillePleine(Hasard& hasard, int n) {
+  const int s = static_cast<int>(std::lround(std::sqrt(n)));
+  std::vector<int> grille;
+  for (int i = 0; i < n * n; ++i) grille.push_back((i / n % s * s + i / n / s + i % n) % n);
+  for (int k = n > 1 ? 4 * n : 0; k > 0; --k) Echange(hasard, n, s, grille);
+  return grille;
+}
+
 Texte SymbolesAuHasard(Hasard& hasard, int n) {
   Texte symboles = Distincts(n);
   switch (hasard.Entier(10)) {
@@ -227,10 +175,10 @@ Plateau PlateauAuHasard(Hasard& hasard, int n) {
   plateau.symboles = SymbolesAuHasard(hasard, n);
   plateau.mode = hasard.UneFoisSur(4) ? 1 : 2;
   if (hasard.UneFoisSur(2)) {
-    plateau.cases = RemplitMotif(hasard, plateau.symboles, n);
-    return plateau;
+    Disperse(hasard, plateau);
+  } else {
+    Remplit(hasard, RecetteAuHasard(hasard), plateau);
   }
-  Remplit(hasard, RecetteAuHasard(hasard), plateau);
   return plateau;
 }
 
@@ -247,30 +195,11 @@ Plateau PlateauAResoudre(Hasard& hasard, int n) {
 
 Texte SaisieAuHasard(Hasard& hasard, TexteVue symboles, TexteVue possible) {
   const int n = static_cast<int>(possible.size());
-  switch (hasard.Entier(10)) {
-    case 0:
-      return {};
-    case 1:
-      return Symbole(hasard, symboles);
-    case 2:
-      return TexteEtrange(hasard, symboles);
-    case 3:
-      if (n > 1) return Texte(possible.substr(At(hasard.Entier(n - 1)), 2));
-      [[fallthrough]];
-    default:
-      return Symbole(hasard, n > 0 ? possible : symboles);
-  }
-}
-
-std::string Decrit(const Plateau& plateau) {
-  std::string texte =
-      "symbols " + VersUtf8(plateau.symboles) + ", mode " + std::to_string(plateau.mode) + ":";
-  for (std::size_t i = 0; i < plateau.cases.size(); ++i) {
-    const Contenu& c = plateau.cases[i];
-    if (c == Contenu{}) continue;
-    texte += " " + std::to_string(i + 1) + "=\"" + VersUtf8(c.valeur) + "\"/" + std::to_string(c.etat);
-  }
-  return texte;
+  const int genre = hasard.Entier(10);
+  if (genre == 0) return {};
+  if (genre == 2) return TexteEtrange(hasard, symboles);
+  if (genre == 3 && n > 1) return Texte(possible.substr(At(hasard.Entier(n - 1)), 2));
+  return Symbole(hasard, genre == 1 || n == 0 ? symboles : possible);
 }
 
 }  // namespace sudoku::plain

@@ -39,6 +39,9 @@ struct Plateau {
   std::vector<Contenu> cases;  // cell i at position i - 1
 };
 
+// A full grid without a symbol twice in a unit: positions of symbols, from 0, row by row.
+std::vector<int> GrillePleine(Hasard& hasard, int n);
+
 // N symbols: plain ones mostly; else letters that differ by case alone, repeated symbols, foreign ones.
 Texte SymbolesAuHasard(Hasard& hasard, int n);
 
@@ -51,8 +54,5 @@ Plateau PlateauAResoudre(Hasard& hasard, int n);
 
 // What a player could type or paste into a cell, given what is possible there.
 Texte SaisieAuHasard(Hasard& hasard, TexteVue symboles, TexteVue possible);
-
-// For a failure's message: everything that makes the board.
-std::string Decrit(const Plateau& plateau);
 
 }  // namespace sudoku::plain
