@@ -1,10 +1,10 @@
 #include "partie.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "cible.h"
-#include "storage/sud_text.h"
 
 namespace sudoku::fuzz {
 namespace {
@@ -18,6 +18,12 @@ constexpr TexteVue kSymboles[] = {
 constexpr TexteVue kTextes[] = {U"1",    U"12",    U"a",          U"",        U"x",   U"34",   U"é",
                                 U"-",    U" ",     U"\x7F",       U"\"",      U"\\",  U"\x1F", U"\x80€",
                                 U"🙂", U"Marie", U"une-partie", U"Échec ★", U"\r\n"};
+
+// What ends the program, and blanks as contents: a file has them for empty cells.
+bool Ecourte(const std::string& ligne) {
+  return ligne == "click MnuQuit" || ligne == "close FRMSudoku" || ligne.find("\" ") != std::string::npos ||
+         ligne.find(". 0#") != std::string::npos;
+}
 
 std::string Guillemets(TexteVue texte) {
   return VersUtf8(Cite(texte));
@@ -37,7 +43,13 @@ Partie::Partie(Octets& octets, FichiersMemoire& fichiers, std::string depart, bo
   entree_.exceptions(std::ios::badbit);  // lets the end of the program pass
 }
 
+void Partie::Longue(int commandes) {
+  restantes_ = commandes;
+  longue_ = true;
+}
+
 Partie::int_type Partie::underflow() {
+  avant(restantes_);
   const Boite* const boite = session_.LeSysteme().Dessus();
   if (boite == nullptr) Verifie();
   if (restantes_-- == 0) throw FinDuProgramme();
@@ -45,6 +57,7 @@ Partie::int_type Partie::underflow() {
     ligne_ = std::exchange(depart_, "");
   } else if (!octets_.Epuise()) {
     ligne_ = Commande();
+    if (longue_ && Ecourte(ligne_)) ligne_ = "click MnuStart";
   } else if (boite != nullptr && boite->genre == GenreBoite::kMessage) {
     ligne_ = "answer ok";  // the solver may have more of them
   } else {
@@ -56,25 +69,58 @@ Partie::int_type Partie::underflow() {
 }
 
 void Partie::Verifie() {
+  constexpr std::streamoff kAssez = 20'000;  // of a long game, the end will do
   VerifieFichier();
   if (const std::string rompu = invariants_.Rompu(); !rompu.empty()) Echoue(sortie_.str() + rompu);
+  if (sortie_.tellp() > kAssez) sortie_.str("");
+  const std::int32_t etat = std::exchange(etatAvant_, Jeu().VgEtat);
+  if (Jeu().VgEtat == kTermine && etat != kTermine) ++fins;
 }
 
-// A save that went through is there to the last game.
+// After a save that went through, another program loads the file, taking the grid without a game.
 void Partie::VerifieFichier() {
   const auto nom = fichiers_.PrendSauve();
   if (!nom) return;
-  const LectureSud lu = LitSud(fichiers_[*nom]);
-  const bool entiere = !lu.erreur && lu.VmValeurs == Jeu().VmGrille.Symboles() &&
-                       lu.VgParties.size() == Jeu().VgParties.size() && lu.VgScores &&
-                       lu.VgScores->size() == Jeu().VgScores.size();
-  if (!entiere) Echoue(sortie_.str() + "le fichier sauvé ne se relit pas");
+  ++relectures;
+  FichiersMemoire fichiers = fichiers_;
+  fichiers.Panne(0);
+  std::ostringstream sortie;
+  SystemeSansEcran systeme(sortie, fichiers, [] { return false; });
+  Programme relu(systeme);
+  relu.Demarre(U"\"" + *nom + U"\"");
+  const std::string difference = Difference(relu);
+  if (!difference.empty()) Echoue(sortie_.str() + "le fichier sauvé ne se relit pas : " + difference);
+}
+
+std::string Partie::Difference(Programme& relu) {
+  const GameState& ici = Jeu();
+  const GameState& la = relu.Principale().Jeu();
+  if (la.VmGrille.Symboles() != ici.VmGrille.Symboles()) return "symboles";
+  const auto memePartie = [](const ClsPartie& a, const ClsPartie& b) {
+    return a.Nom == b.Nom && a.Grille == b.Grille;
+  };
+  const auto memeScore = [](const TypScore& a, const TypScore& b) {
+    return a.Nom == b.Nom && std::abs(a.Temps - std::max(b.Temps, 0.0)) < 0.6 / 86400;
+  };
+  if (!std::ranges::equal(la.VgParties, ici.VgParties, memePartie)) return "parties";
+  if (!std::ranges::equal(la.VgScores, ici.VgScores, memeScore)) return "scores";
+  for (int i = 1; i <= la.VmGrille.Borne(); ++i) {
+    const ClsPos cellule = ici.VmGrille(i);
+    Texte donnee = cellule.Etat() == kDonnee ? cellule.ValeurSaisie().substr(0, 1) : Texte();
+    if (donnee == U" ") donnee.clear();  // in a file, a blank is an empty cell
+    if (la.VmGrille(i).ValeurSaisie() != donnee || la.VmGrille(i).Etat() != kDonnee) return "données";
+  }
+  return {};
 }
 
 std::string Partie::Commande() {
   const Boite* const boite = session_.LeSysteme().Dessus();
   if (boite != nullptr && octets_.Tire(8) != 0) return Reponse(boite->genre);
-  switch (octets_.Tire(32)) {
+  const int genre = octets_.Tire(32);
+  if (genre >= 20) return Tape();
+  if (genre >= 14) return Clique();
+  if (genre >= 12) return Montre();
+  switch (genre) {
     case 0:
       return "tick";
     case 1:
@@ -94,7 +140,7 @@ std::string Partie::Commande() {
       return "registre \"SOFTWARE\\\\Microsoft\\\\Shared Tools" +
              std::string(octets_.Un({"\\\\MSINFO\" \"PATH\" ", " Location\" \"MSINFO\" "})) + Chemin();
     case 7:
-      fichiers_.Panne(octets_.Tire(8));
+      fichiers_.Panne(octets_.Tire(longue_ ? 1 : 8));
       return "show state";
     case 8:
       return "start " + Chemin();
@@ -102,20 +148,8 @@ std::string Partie::Commande() {
       return "answer " + std::string(octets_.Un({"ok", "oui", "non", "annuler", "\"1234\"", "peut-être"}));
     case 10:
       return LigneBrute();
-    case 11:
-      return DansFenetre();
-    case 12:
-    case 13:
-      return Montre();
-    case 14:
-    case 15:
-    case 16:
-    case 17:
-    case 18:
-    case 19:
-      return Clique();
     default:
-      return Tape();
+      return DansFenetre();
   }
 }
 
@@ -126,19 +160,14 @@ std::string Partie::LigneBrute() {
 }
 
 std::string Partie::Reponse(GenreBoite genre) {
-  switch (genre) {
-    case GenreBoite::kMessage:
-      return "answer ok";
-    case GenreBoite::kQuestion:
-      return octets_.Tire(4) == 0 ? "answer non" : "answer oui";
-    case GenreBoite::kSaisie:
-      return octets_.Tire(8) == 0 ? "answer annuler" : "answer " + Guillemets(Choisit(octets_, kSymboles));
-    case GenreBoite::kFichier:
-      return octets_.Tire(8) == 0 ? "answer annuler" : "answer " + Chemin();
-    case GenreBoite::kFenetre:
-      break;
+  if (genre == GenreBoite::kMessage) return "answer ok";
+  if (genre == GenreBoite::kQuestion) return octets_.Tire(4) == 0 ? "answer non" : "answer oui";
+  if (genre == GenreBoite::kFenetre) {
+    ++fenetres;
+    return DansFenetre();
   }
-  return DansFenetre();
+  if (octets_.Tire(8) == 0) return "answer annuler";
+  return "answer " + (genre == GenreBoite::kSaisie ? Guillemets(Choisit(octets_, kSymboles)) : Chemin());
 }
 
 std::string Partie::DansFenetre() {
@@ -188,7 +217,7 @@ std::string Partie::Montre() {
   }
 }
 
-// A symbol of the grid, one that is possible there, or anything.
+// A symbol of the grid, one that is possible there, the next of the solution where one is known, or anything.
 std::string Partie::Tape() {
   const Grille& grille = Jeu().VmGrille;
   if (grille.Borne() == 0) return "click MnuInit";
@@ -196,6 +225,12 @@ std::string Partie::Tape() {
   const std::string debut = "type " + std::to_string(i) + " ";
   const int genre = octets_.Tire(256);
   if (genre >= 0xE0) return debut + Chaine();
+  if (genre >= 0xA0 && genre < 0xC0 && Jeu().VsResolu && Jeu().VmGrilleEtat.Borne() == grille.Borne()) {
+    for (int k = 1; k <= grille.Borne(); ++k) {
+      const Texte& juste = Jeu().VmGrilleEtat(k).ValeurSaisie();
+      if (grille(k).ValeurSaisie() != juste) return "type " + std::to_string(k) + " " + Guillemets(juste);
+    }
+  }
   const Texte symboles = genre < 0x60 ? grille.Symboles() : grille(i).Possible();
   if (symboles.empty()) return debut + "\"\"";
   return debut + Guillemets(TexteVue(symboles).substr(static_cast<std::size_t>(genre % 32) % symboles.size(),
@@ -223,7 +258,7 @@ bool Partie::ResoutVite() {
   const Grille& grille = Jeu().VmGrille;
   int vides = 0;
   for (int i = 1; i <= grille.Borne(); ++i) vides += grille(i).ValeurSaisie().empty() ? 1 : 0;
-  return vides <= 50;
+  return vides <= (longue_ ? 16 : 50);
 }
 
 }  // namespace sudoku::fuzz

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <sstream>
 #include <string>
 
@@ -19,11 +20,21 @@ class Partie : private std::streambuf {
   // `depart` is the first line of the session. etatsDuJeu: as for Invariants.
   Partie(Octets& octets, FichiersMemoire& fichiers, std::string depart, bool etatsDuJeu);
   void Joue() { session_.Joue(); }
+  // Many commands instead of a few hundred: the program isn't ended, nothing is typed that a file can't keep,
+  // no supposition is made where many cells are open, and the disk doesn't fail, for every save that fails
+  // leaves a copy.
+  void Longue(int commandes);
+
+  // Called before each command, with the number of those left.
+  std::function<void(int)> avant = [](int) {};
+  // How often a game came to its end, a saved file was read back, a window was answered.
+  int fins = 0, relectures = 0, fenetres = 0;
 
  private:
   int_type underflow() override;
   void Verifie();
   void VerifieFichier();
+  std::string Difference(Programme& relu);
 
   std::string Commande();
   std::string LigneBrute();
@@ -43,6 +54,8 @@ class Partie : private std::streambuf {
   std::string depart_;
   std::string ligne_;
   int restantes_ = 300;
+  bool longue_ = false;
+  std::int32_t etatAvant_ = kSansGrille;
   std::istream entree_{this};
   std::ostringstream sortie_;
   Session session_{entree_, sortie_, fichiers_};

@@ -46,7 +46,7 @@ class Joueur {
   // The user makes `texte` of the box of cell i.
   void Tape(int i, TexteVue texte) { programme_.Principale().LaFenetre().plateau.Saisit(i, texte); }
   void Clique(const char* article) { programme_.Principale().LaFenetre().TrouveArticle(article)->Click(); }
-  const Plateau& LePlateau() { return programme_.Principale().LaFenetre().plateau; }
+  Programme& LeProgramme() { return programme_; }
   GameState& Jeu() { return programme_.Principale().Jeu(); }
   std::string Sortie() const { return sortie_.str(); }
   bool AVu(const std::string& texte) const { return Sortie().find(texte) != std::string::npos; }

@@ -16,10 +16,14 @@ std::string Invariants::Rompu() {
   const Plateau& plateau = LePlateau();
   if (plateau.Cases() != Jeu().VmGrille.Borne()) return "autant de boîtes que de cases";
   if (Jeu().VmCase > plateau.Cases()) return "VmCase hors du plateau";
-  if (plateau.Constructions() != construction_) redessin_ = plateau.Redessins();
-  construction_ = plateau.Constructions();
   // A grid just made is not painted, and stays so where loading its cells fails: its boxes are new.
-  if (plateau.Redessins() == redessin_) return {};
+  if (plateau.Constructions() != construction_) {
+    redessin_ = plateau.Redessins();
+    neuf_ = true;
+    for (int i = 1; i <= plateau.Cases(); ++i) neuf_ = neuf_ && plateau.TxtCase(i).Text.empty();
+  }
+  construction_ = plateau.Constructions();
+  if (neuf_ && plateau.Redessins() == redessin_) return {};
   const Grille& grille = Jeu().VgSilence ? Jeu().VmGrilleEtat : Jeu().VmGrille;
   for (int i = 1; i <= grille.Borne(); ++i) {
     if (std::string rompu = BoiteRompue(grille, i); !rompu.empty()) return rompu;
@@ -33,6 +37,9 @@ std::string Invariants::EtatRompu() const {
     return "VgEtat " + std::to_string(etat);
   }
   const Grille& grille = Jeu().VmGrille;
+  if (etat != kSansGrille && grille.N() != Jeu().VmTaille) return "VmTaille";
+  if (LePlateau().Cadres() != grille.N()) return "autant de cadres que de carrés";
+  if (Jeu().VmPartie >= static_cast<int>(Jeu().VgParties.size())) return "VmPartie";
   for (int i = 1; i <= grille.Borne() && etatsDuJeu_; ++i) {
     if (grille(i).Etat() >= kPossible && grille(i).ValeurSaisie().empty()) return Case(i, "vide et jugée");
   }

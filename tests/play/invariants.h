@@ -28,6 +28,7 @@ class Invariants {
   bool etatsDuJeu_;
   std::uint32_t construction_ = 0;
   std::uint32_t redessin_ = 0;
+  bool neuf_ = false;
 };
 
 }  // namespace sudoku
