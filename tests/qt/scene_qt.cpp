@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
@@ -62,6 +63,12 @@ void SceneQt::Pas() {
   const bool vue = modale != nullptr && modale->windowHandle()->isExposed();
   if (!vue && (modale != nullptr || papier_.Dessus() != nullptr)) return Planifie();
   const Boite* boite = papier_.Dessus();
+  if (boite != nullptr && boite->fenetre == nullptr && boite->genre != GenreBoite::kFichier) {
+    const auto* texte = modale->findChild<QLabel*>();
+    const bool titre = titre_.empty() || modale->windowTitle() == VersQt(titre_);
+    const bool tel = texte->textFormat() == Qt::PlainText && texte->text() == VersQt(texte_);
+    if (!titre || !tel) sortie_ << "! à l'écran : boîte\n";
+  }
   const bool suite = avance_();
   if (!suite) {
     if (papier_.Dessus() == nullptr) return QApplication::exit();
@@ -122,10 +129,6 @@ QWidget* SceneQt::Trouve(const Fenetre& fenetre, const std::string& nom) {
   return FenetreDe(fenetre)->findChild<QWidget*>(QString::fromStdString(nom));
 }
 
-void SceneQt::Demarre(const std::function<void()>& depart) {
-  Execute(depart);
-}
-
 // Into the box that has the focus as a person does it; into another one at once, for the session moves no
 // focus by it.
 void SceneQt::Saisit(Fenetre& fenetre, int Index, TexteVue texte) {
@@ -161,10 +164,6 @@ void SceneQt::Touche(Fenetre& fenetre, int KeyCode) {
   if (fenetre.KeyDown) Execute([&] { fenetre.KeyDown(KeyCode); });
 }
 
-void SceneQt::Sonne(Minuterie& minuterie) {
-  Execute(minuterie.Timer);
-}
-
 void SceneQt::Choisit(Fenetre& fenetre, ArticleMenu& article) {
   FenetreDe(fenetre)->findChild<QAction*>(QString::fromStdString(article.Name))->trigger();
 }
@@ -183,10 +182,6 @@ void SceneQt::Presse(Fenetre& fenetre, Element& bouton, bool souris) {
 void SceneQt::Relache(Fenetre& fenetre, Element& bouton, bool souris) {
   QWidget* widget = Trouve(fenetre, bouton.Name);
   souris ? QTest::mouseRelease(widget, Qt::LeftButton) : QTest::keyRelease(widget, Qt::Key_Space);
-}
-
-void SceneQt::Ferme(Fenetre& fenetre) {
-  FenetreDe(fenetre)->close();
 }
 
 void SceneQt::Selectionne(Fenetre& fenetre, Element& liste, int position) {
@@ -217,16 +212,19 @@ void SceneQt::DoubleClique(Fenetre& fenetre, Element& liste) {
 // ---- what opens: printed on paper, shown on the screen
 
 void SceneQt::Message(TexteVue texte, TexteVue titre) {
+  Note(texte, titre);
   montre_ = [&](Boite&) { SystemeQt::Message(texte, titre); };
   papier_.Message(texte, titre);
 }
 
 bool SceneQt::Question(TexteVue texte) {
+  Note(texte, {});
   montre_ = [&](Boite& boite) { boite.oui = SystemeQt::Question(texte); };
   return papier_.Question(texte);
 }
 
 Texte SceneQt::Saisie(TexteVue texte, TexteVue titre, TexteVue defaut) {
+  Note(texte, titre);
   montre_ = [&](Boite& boite) { boite.texte = SystemeQt::Saisie(texte, titre, defaut); };
   return papier_.Saisie(texte, titre, defaut);
 }
@@ -250,10 +248,6 @@ void SceneQt::Ajoute(Fenetre& fenetre) {
   for (Minuterie& minuterie : fenetre.minuteries) minuterie.Interval = kJour;
   papier_.Ajoute(fenetre);
   SystemeQt::Ajoute(fenetre);
-}
-
-std::optional<ValeurRegistre> SceneQt::Registre(std::uint32_t racine, TexteVue cle, TexteVue valeur) {
-  return papier_.Registre(racine, cle, valeur);
 }
 
 void SceneQt::Fin() {
