@@ -23,24 +23,16 @@ struct Observation {
 };
 Observation* observation = nullptr;  // null: calls pass as they are
 
-template <class Fonction>
-Fonction* Suivante(const char* nom) {
-  return reinterpret_cast<Fonction*>(dlsym(RTLD_NEXT, nom));
-}
-
 // The name within the watched folder; nothing for a path elsewhere.
 std::optional<std::string> Nom(const std::string& chemin) {
-  if (observation == nullptr) return std::nullopt;
-  if (!chemin.starts_with(observation->dossier + "/")) return std::nullopt;
+  if (observation == nullptr || !chemin.starts_with(observation->dossier + "/")) return std::nullopt;
   const std::string nom = chemin.substr(observation->dossier.size() + 1);
   return nom.empty() ? "." : nom;
 }
 
 std::optional<std::string> Nom(int fd) {
-  if (observation == nullptr) return std::nullopt;
-  const auto place = observation->ouverts.find(fd);
-  if (place == observation->ouverts.end()) return std::nullopt;
-  return place->second;
+  if (observation == nullptr || !observation->ouverts.contains(fd)) return std::nullopt;
+  return observation->ouverts.at(fd);
 }
 
 [[noreturn]] void Meurt() {
@@ -59,22 +51,22 @@ Panne Note(const char* appel, const std::optional<std::string>& nom) {
   return panne;
 }
 
-// A call that carries no bytes.
-template <class Reel>
-int Simple(Panne panne, Reel reel) {
-  if (panne == Panne::kEchec) return -1;
-  const int resultat = reel();
+template <class Fonction>
+Fonction* Suivante(const char* nom) {
+  return reinterpret_cast<Fonction*>(dlsym(RTLD_NEXT, nom));
+}
+
+// The call itself, unless the plan has something else for it.
+template <class Fonction, class... Arguments>
+auto Fait(Panne panne, Fonction* reel, Arguments... arguments) {
+  if (panne == Panne::kEchec) return decltype(reel(arguments...)){-1};
+  const auto resultat = reel(arguments...);
   if (panne == Panne::kMortPendant) Meurt();
   return resultat;
 }
 
-template <class Reel>
-ssize_t Transfere(Panne panne, std::size_t taille, Reel reel) {
-  if (panne == Panne::kEchec) return -1;
-  const bool partiel = panne != Panne::kAucune && taille > 1;
-  const ssize_t resultat = reel(partiel ? taille / 2 : taille);
-  if (panne == Panne::kMortPendant) Meurt();
-  return resultat;
+std::size_t Taille(Panne panne, std::size_t taille) {
+  return panne == Panne::kAucune ? taille : (taille + 1) / 2;
 }
 
 }  // namespace
@@ -95,8 +87,7 @@ int open(const char* chemin, int mode, ...) {
   const mode_t droits = (mode & O_CREAT) != 0 ? va_arg(reste, mode_t) : 0;
   va_end(reste);
   const auto nom = Nom(std::string(chemin));
-  const int fd = Simple(Note("open", nom),
-                        [&] { return Suivante<int(const char*, int, ...)>("open")(chemin, mode, droits); });
+  const int fd = Fait(Note("open", nom), Suivante<decltype(open)>("open"), chemin, mode, droits);
   if (nom && fd >= 0) observation->ouverts[fd] = *nom;
   return fd;
 }
@@ -106,41 +97,37 @@ int close(int fd) {
   const Panne panne = Note("close", nom);
   if (nom) observation->ouverts.erase(fd);
   // The descriptor goes even when closing fails.
-  const int resultat = Simple(panne == Panne::kEchec ? Panne::kAucune : panne,
-                              [&] { return Suivante<int(int)>("close")(fd); });
+  const int resultat =
+      Fait(panne == Panne::kEchec ? Panne::kAucune : panne, Suivante<decltype(close)>("close"), fd);
   if (panne != Panne::kEchec) return resultat;
   errno = observation->plan.code;
   return -1;
 }
 
 int fstat(int fd, struct stat* infos) noexcept {
-  return Simple(Note("fstat", Nom(fd)), [&] { return Suivante<int(int, struct stat*)>("fstat")(fd, infos); });
+  return Fait(Note("fstat", Nom(fd)), Suivante<decltype(fstat)>("fstat"), fd, infos);
 }
 
 int fsync(int fd) {
-  return Simple(Note("fsync", Nom(fd)), [&] { return Suivante<int(int)>("fsync")(fd); });
+  return Fait(Note("fsync", Nom(fd)), Suivante<decltype(fsync)>("fsync"), fd);
 }
 
 int ftruncate(int fd, off_t taille) noexcept {
-  return Simple(Note("ftruncate", Nom(fd)),
-                [&] { return Suivante<int(int, off_t)>("ftruncate")(fd, taille); });
+  return Fait(Note("ftruncate", Nom(fd)), Suivante<decltype(ftruncate)>("ftruncate"), fd, taille);
 }
 
 int unlink(const char* chemin) noexcept {
-  return Simple(Note("unlink", Nom(std::string(chemin))),
-                [&] { return Suivante<int(const char*)>("unlink")(chemin); });
+  return Fait(Note("unlink", Nom(std::string(chemin))), Suivante<decltype(unlink)>("unlink"), chemin);
 }
 
 ssize_t read(int fd, void* tampon, std::size_t taille) {
-  return Transfere(Note("read", Nom(fd)), taille, [&](std::size_t n) {
-    return Suivante<ssize_t(int, void*, std::size_t)>("read")(fd, tampon, n);
-  });
+  const Panne panne = Note("read", Nom(fd));
+  return Fait(panne, Suivante<decltype(read)>("read"), fd, tampon, Taille(panne, taille));
 }
 
 ssize_t write(int fd, const void* tampon, std::size_t taille) {
-  return Transfere(Note("write", Nom(fd)), taille, [&](std::size_t n) {
-    return Suivante<ssize_t(int, const void*, std::size_t)>("write")(fd, tampon, n);
-  });
+  const Panne panne = Note("write", Nom(fd));
+  return Fait(panne, Suivante<decltype(write)>("write"), fd, tampon, Taille(panne, taille));
 }
 
 }  // extern "C"

@@ -88,116 +88,109 @@ class Scene {
   std::string dossier_;
 };
 
-std::vector<std::string> AppelsDUneSauvegarde(const Depart& depart) {
-  return Scene(depart).Sauve({});
+// Calls `essai` for each call of a save that nothing disturbs, with its number and what it is.
+template <class Essai>
+void PourChaqueAppel(const Depart& depart, Essai essai) {
+  int rang = 0;
+  for (const std::string& appel : Scene(depart).Sauve({})) {
+    SCOPED_TRACE(depart.nom + ": "s + std::to_string(++rang) + " " + appel);
+    essai(rang, appel);
+  }
+}
+
+// A save that went through: the new file, and nothing beside it but what was there.
+void VerifieReussite(const Depart& depart, Plan plan) {
+  Scene scene(depart);
+  scene.Sauve(plan);
+  EXPECT_EQ(LitOctets(scene.Fichier()), kNouveau);
+  const auto copies = depart.vieilleCopie ? std::vector{"jeu.sud"s, "jeu.sud~"s} : std::vector{"jeu.sud"s};
+  EXPECT_EQ(scene.Noms(), copies);
+  EXPECT_TRUE(scene.RienDePerdu());
 }
 
 TEST(Sauvegarde, SansPanneRemplaceLeFichierEtOteSaCopie) {
-  for (const Depart& depart : kDeparts) {
-    Scene scene(depart);
-    scene.Sauve({});
-    EXPECT_EQ(LitOctets(scene.Fichier()), kNouveau) << depart.nom;
-    const auto attendus =
-        depart.vieilleCopie ? std::vector{"jeu.sud"s, "jeu.sud~"s} : std::vector{"jeu.sud"s};
-    EXPECT_EQ(scene.Noms(), attendus) << depart.nom;
-    EXPECT_TRUE(scene.RienDePerdu()) << depart.nom;
-  }
+  for (const Depart& depart : kDeparts) VerifieReussite(depart, {});
 }
 
 // What a power cut leaves depends on what was on the disk by then.
 TEST(Sauvegarde, CopieSurLeDisqueAvantDeViderNouveauSurLeDisqueAvantDOter) {
-  const auto faits = AppelsDUneSauvegarde(kDeparts[0]);
-  std::size_t place = 0;
-  for (const std::string etape : {"write jeu.sud~", "fsync jeu.sud~", "fsync .", "ftruncate jeu.sud",
-                                  "write jeu.sud", "fsync jeu.sud", "close jeu.sud", "unlink jeu.sud~"}) {
-    const auto trouve = std::find(faits.begin() + static_cast<std::ptrdiff_t>(place), faits.end(), etape);
-    ASSERT_NE(trouve, faits.end()) << etape;
-    place = static_cast<std::size_t>(trouve - faits.begin());
-  }
-  EXPECT_EQ(std::ranges::count(faits, "ftruncate jeu.sud"), 1);
-  EXPECT_EQ(std::ranges::count(faits, "write jeu.sud"), 1) << "one write for the whole text";
+  auto faits = Scene(kDeparts[0]).Sauve({});
+  std::erase_if(faits, [](const std::string& appel) {
+    return appel.starts_with("open") || appel.starts_with("fstat") || appel.starts_with("read") ||
+           (appel.starts_with("close") && appel != "close jeu.sud");
+  });
+  ASSERT_GE(faits.size(), 9U);
+  faits.resize(9);
+  EXPECT_EQ(faits, (std::vector{"write jeu.sud~"s, "fsync jeu.sud~"s, "fsync ."s, "close jeu.sud"s,
+                                "ftruncate jeu.sud"s, "write jeu.sud"s, "fsync jeu.sud"s, "close jeu.sud"s,
+                                "unlink jeu.sud~"s}));
 }
 
 // After a failed call: a report and the game as the steps before left it, or a save that is whole. Then
 // saving again succeeds.
 void VerifieEchec(const Depart& depart, Plan plan) {
+  SCOPED_TRACE(plan.code);
   Scene scene(depart);
   const auto faits = scene.Sauve(plan);
-  const std::string ou = depart.nom + ": "s + std::to_string(plan.rang) + " " +
-                         faits[static_cast<std::size_t>(plan.rang) - 1] + ", code " +
-                         std::to_string(plan.code);
   Joueur& joueur = scene.joueur;
-  EXPECT_TRUE(scene.RienDePerdu()) << ou;
+  EXPECT_TRUE(scene.RienDePerdu());
   const bool signale = joueur.AVu("message \"FRMSudoku.JeuSave : 75 - Erreur d'accès au chemin/fichier\"");
   // From here on the file is being written: nothing that fails on it may go unsaid.
   const auto vide = std::ranges::find(faits, "ftruncate jeu.sud");
   const auto echec = faits.begin() + plan.rang - 1;
-  if (echec >= vide && echec->ends_with(" jeu.sud")) {
-    EXPECT_TRUE(signale) << ou;
-  }
-  if (!signale) {
-    EXPECT_EQ(LitOctets(scene.Fichier()), kNouveau) << ou;
-  }
+  EXPECT_TRUE(signale || echec < vide || !echec->ends_with(" jeu.sud"));
+  EXPECT_TRUE(signale || LitOctets(scene.Fichier()) == kNouveau);
   const bool nommee = joueur.reponses.empty();
-  EXPECT_EQ(joueur.Jeu().VgParties.size(), nommee ? 3U : 2U) << ou;
-  EXPECT_EQ(joueur.Jeu().VmPartie, nommee ? 2 : 0) << ou;
-  EXPECT_EQ(joueur.Jeu().VgEtat, kJeu) << ou;
-  EXPECT_EQ(joueur.Jeu().VmNom, DepuisUtf8(scene.Fichier())) << ou;
-  EXPECT_TRUE(joueur.Jeu().VmGrille(2).ValeurSaisie() == U"2") << ou;
+  EXPECT_EQ(joueur.Jeu().VgParties.size(), nommee ? 3U : 2U);
+  EXPECT_EQ(joueur.Jeu().VmPartie, nommee ? 2 : 0);
+  EXPECT_EQ(joueur.Jeu().VgEtat, kJeu);
+  EXPECT_EQ(joueur.Jeu().VmNom, DepuisUtf8(scene.Fichier()));
+  EXPECT_EQ(joueur.Jeu().VmGrille(2).ValeurSaisie(), U"2");
 
   scene.Sauve({});
-  EXPECT_EQ(LitOctets(scene.Fichier()), kNouveau) << ou << ", second save";
+  EXPECT_EQ(LitOctets(scene.Fichier()), kNouveau) << "second save";
 }
 
 TEST(Sauvegarde, ChaqueAppelEchoueTourATour) {
   for (const Depart& depart : kDeparts) {
-    const int nombre = static_cast<int>(AppelsDUneSauvegarde(depart).size());
-    for (int rang = 1; rang <= nombre; ++rang) {
-      for (const int code : {ENOSPC, EACCES, EIO, ENOENT}) {
-        VerifieEchec(depart, {Panne::kEchec, rang, code});
-      }
-    }
+    PourChaqueAppel(depart, [&](int rang, const std::string&) {
+      for (const int code : {ENOSPC, EACCES, EIO, ENOENT}) VerifieEchec(depart, {Panne::kEchec, rang, code});
+    });
   }
 }
 
 TEST(Sauvegarde, AppelsInterrompusOuPartielsNEmpechentRien) {
-  const auto faits = AppelsDUneSauvegarde(kDeparts[0]);
-  for (int rang = 1; rang <= static_cast<int>(faits.size()); ++rang) {
-    const std::string& appel = faits[static_cast<std::size_t>(rang) - 1];
-    if (!appel.starts_with("read") && !appel.starts_with("write")) continue;
-    for (const Plan plan : {Plan{Panne::kEchec, rang, EINTR}, Plan{Panne::kCourt, rang, 0}}) {
-      Scene scene(kDeparts[0]);
-      scene.Sauve(plan);
-      EXPECT_EQ(LitOctets(scene.Fichier()), kNouveau) << rang << " " << appel;
-      EXPECT_EQ(scene.Noms(), std::vector{"jeu.sud"s}) << rang << " " << appel;
-    }
-  }
+  PourChaqueAppel(kDeparts[0], [&](int rang, const std::string& appel) {
+    if (!appel.starts_with("read") && !appel.starts_with("write")) return;
+    VerifieReussite(kDeparts[0], {Panne::kEchec, rang, EINTR});
+    VerifieReussite(kDeparts[0], {Panne::kCourt, rang, 0});
+  });
 }
 
-// The process dies at each call; another one then loads what is there and saves.
+// The process dies at the call; another one then loads what is there and saves.
+void VerifieMort(const Depart& depart, Plan plan) {
+  Scene scene(depart);
+  scene.SauveEtMeurt(plan);
+  EXPECT_TRUE(scene.RienDePerdu());
+  if (depart.fichier && LitOctets(scene.Fichier()).empty()) {
+    Joueur suivant;
+    suivant.Demarre(scene.Fichier());
+    EXPECT_TRUE(
+        suivant.AVu("62 - L'entrée dépasse la fin de fichier (la version précédente est conservée dans " +
+                    scene.Fichier() + "~)"))
+        << suivant.Sortie();
+  }
+  scene.Sauve({});
+  EXPECT_EQ(LitOctets(scene.Fichier()), kNouveau);
+  EXPECT_TRUE(scene.RienDePerdu());
+}
+
 TEST(Sauvegarde, MortAChaqueAppel) {
   for (const Depart& depart : kDeparts) {
-    const auto faits = AppelsDUneSauvegarde(depart);
-    for (int rang = 1; rang <= static_cast<int>(faits.size()); ++rang) {
-      for (const Panne panne : {Panne::kMortAvant, Panne::kMortPendant}) {
-        const std::string ou =
-            depart.nom + ": "s + std::to_string(rang) + " " + faits[static_cast<std::size_t>(rang) - 1];
-        Scene scene(depart);
-        scene.SauveEtMeurt({panne, rang, 0});
-        EXPECT_TRUE(scene.RienDePerdu()) << ou;
-        if (depart.fichier && LitOctets(scene.Fichier()).empty()) {
-          Joueur suivant;
-          suivant.Demarre(scene.Fichier());
-          EXPECT_TRUE(suivant.AVu(
-              "62 - L'entrée dépasse la fin de fichier (la version précédente est conservée dans " +
-              scene.Fichier() + "~)"))
-              << ou << suivant.Sortie();
-        }
-        scene.Sauve({});
-        EXPECT_EQ(LitOctets(scene.Fichier()), kNouveau) << ou;
-        EXPECT_TRUE(scene.RienDePerdu()) << ou;
-      }
-    }
+    PourChaqueAppel(depart, [&](int rang, const std::string&) {
+      VerifieMort(depart, {Panne::kMortAvant, rang, 0});
+      VerifieMort(depart, {Panne::kMortPendant, rang, 0});
+    });
   }
 }
 
