@@ -21,6 +21,10 @@ importe $ligne 1234 '1  4\n  2 \n 3  \n4  1\n'
 importe $ligne 1234 '+---+---+\n|1 .|_ 4|\n|* 0|2 .|\n+---+---+\n|. 3|. .|\n|4 .|. 1|\n+---+---+\n'
 importe $ligne 1234 '# commentaire\n1..4\n..2.\n.3..\n4..1'
 importe $ligne 1234 '\xef\xbb\xbf1..4\n..2.\n.3..\n4..1'
+importe $ligne 1234 '+--+--+\n|1 | 4|\n|  |2 |\n+--+--+\n| 3|  |\n|4 | 1|\n+--+--+'
+importe $ligne 1234 '1 . | . 4\r\n. . | 2 .\r\n----+----\r\n. 3 | . .\r\n4 . | . 1\r\n'
+importe $ligne 1234 '\n1..4\n\n..2.\n.3..\n4..1\n\n'
+importe '0010-0.0 0 0 0 00010-0.00010-0.0' '01-.' '01-._*  01-.01-.'
 importe 'a..D..B..c..d..a' abCD 'a..D ..B. .c.. d..a'
 importe 'é..0..-..+..0..é' 'é-+0' 'é..0\n..-.\n.+..\n0..é'
 importe $'.0 0 040 0 020 0 030 0 040 0 0.0' '.234' '.0 0 040 0 020 0 030 0 040 0 0.0'
@@ -50,6 +54,10 @@ refuse() {
 refuse '1..4\n..2.\n.3..\n4..' 1234 '16 cases sur une ligne ou 4 lignes de 4'
 refuse '1..4\n..2.\n.3..\n4..5' 1234 "ce n'est pas une grille"
 refuse '1..4\n..2.\n.3..\n4..1\n1..4' 1234 "ce n'est pas une grille"
+refuse '1..4..2..3..4..' 1234 "ce n'est pas une grille"
+refuse '1..4..2..3..4..11' 1234 "ce n'est pas une grille"
+refuse '1..4..2.\n.3..4..1' 1234 "ce n'est pas une grille"
+refuse '1..4\n..2.\n.3..' 1234 "ce n'est pas une grille"
 refuse '' 1234 "ce n'est pas une grille"
 refuse '\xff' 1 "ce n'est pas une grille"
 head -c 70000000 /dev/zero > gros

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QFile>
+#include <QClipboard>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -20,17 +20,15 @@ QString TexteDe(QWidget& boite) {
   return boite.findChild<QLabel*>()->text();
 }
 
-// Tests on two platforms may run at once.
-std::string Fichier(const char* nom) {
-  return testing::TempDir() + nom + "-" + QGuiApplication::platformName().toStdString() + ".sud";
-}
-
 // Symbols 1234, six givens that leave one solution: 1234 3412 2143 4321.
 const std::string kGrilleFacile("1234\r\n10 0 04030 010 020 0 030 030 0 0\r\n\0", 41);
 
 TEST(Fenetres, UneGrilleSaisieEtJoueeJusquAuxScores) {
   JoueurQt j;
   j.Demarre();
+  QApplication::clipboard()->setText(QStringLiteral("1"));
+  j.Touche(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(j.LePlateau().Cases(), 0) << "a grid can't be pasted where there is none";
   j.NouvelleGrille(QStringLiteral("1234"));
   EXPECT_FALSE(j.Ecran().Editeur().isVisible()) << "no box has the focus after a new grid";
   j.Touche(Qt::Key_Tab);
@@ -81,7 +79,7 @@ void SauveEtQuitte(const std::string& fichier) {
 }
 
 TEST(Fenetres, SauveQuitteEtRouvreParLaLigneDeCommande) {
-  const std::string fichier = Fichier("reprise");
+  const std::string fichier = FichierDEssai("reprise");
   EcritOctets(fichier, kGrilleFacile);
   EXPECT_EXIT(SauveEtQuitte(fichier), testing::ExitedWithCode(0), "");
   JoueurQt j;
@@ -96,12 +94,12 @@ TEST(Fenetres, SauveQuitteEtRouvreParLaLigneDeCommande) {
   j.Demarre(fichier);
   EXPECT_TRUE(j.ToutEstVenu());
   EXPECT_EQ(j.Grille(), "12.43.1.2..3.3..");
-  EXPECT_TRUE(QFile::remove(QString::fromStdString(fichier)));
+  EXPECT_TRUE(std::filesystem::remove(fichier));
 }
 
 TEST(Fenetres, LeDialogueDeFichierSauveEtCharge) {
-  const std::string fichier = Fichier("dialogue");
-  QFile::remove(QString::fromStdString(fichier));
+  const std::string fichier = FichierDEssai("dialogue");
+  std::filesystem::remove(fichier);
   const QString sans = QString::fromStdString(fichier).chopped(4);
   JoueurQt j;
   j.Demarre();
@@ -112,7 +110,7 @@ TEST(Fenetres, LeDialogueDeFichierSauveEtCharge) {
     j.Touche(Qt::Key_Return);
   });
   j.Menu(Qt::Key_J, Qt::Key_S);
-  EXPECT_TRUE(QFile::exists(QString::fromStdString(fichier))) << "the program adds .sud";
+  EXPECT_TRUE(std::filesystem::exists(fichier)) << "the program adds .sud";
   j.Quand("question", [&](QWidget&) { j.Touche(Qt::Key_O, Qt::AltModifier); });
   j.Quand("fichier", [&](QWidget& boite) {
     EXPECT_EQ(boite.windowTitle(), QStringLiteral("Chargement du jeu"));
@@ -120,11 +118,11 @@ TEST(Fenetres, LeDialogueDeFichierSauveEtCharge) {
   });
   j.Menu(Qt::Key_J, Qt::Key_C);
   EXPECT_TRUE(j.ToutEstVenu());
-  EXPECT_TRUE(QFile::remove(QString::fromStdString(fichier)));
+  EXPECT_TRUE(std::filesystem::remove(fichier));
 }
 
 TEST(Fenetres, LApercuTientAussiLongtempsQueLeBouton) {
-  const std::string fichier = Fichier("assistant");
+  const std::string fichier = FichierDEssai("assistant");
   EcritOctets(fichier, kGrilleFacile);
   JoueurQt j;
   j.Demarre(fichier);
@@ -158,7 +156,7 @@ TEST(Fenetres, LApercuTientAussiLongtempsQueLeBouton) {
   EXPECT_FALSE(j.Assistant().isVisible());
   EXPECT_EQ(j.Grille(), avant) << "hiding ends it";
   QTest::mousePress(bouton, Qt::LeftButton);  // and the game may end while it is held
-  EXPECT_TRUE(QFile::remove(QString::fromStdString(fichier)));
+  EXPECT_TRUE(std::filesystem::remove(fichier));
 }
 
 TEST(Fenetres, LaBoiteAProposSeFermeParEchappement) {

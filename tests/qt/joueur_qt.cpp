@@ -34,6 +34,10 @@ void Attends(const std::function<bool()>& condition, const char* quoi) {
   }
 }
 
+std::string FichierDEssai(const char* nom) {
+  return testing::TempDir() + nom + "-" + QGuiApplication::platformName().toStdString() + ".sud";
+}
+
 JoueurQt::JoueurQt() : programme_(systeme_) {}
 
 void JoueurQt::Demarre(const std::string& fichier) {

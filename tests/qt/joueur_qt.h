@@ -65,4 +65,7 @@ class JoueurQt {
 // Lets events through until the condition holds; the test fails if it never does.
 void Attends(const std::function<bool()>& condition, const char* quoi);
 
+// The path of a game file for a test; tests on two platforms may run at once.
+std::string FichierDEssai(const char* nom);
+
 }  // namespace sudoku
