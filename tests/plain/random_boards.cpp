@@ -139,7 +139,7 @@ std::vector<int> GrillePleine(Hasard& hasard, int n) {
   const int s = static_cast<int>(std::lround(std::sqrt(n)));
   std::vector<int> grille;
   for (int i = 0; i < n * n; ++i) grille.push_back((i / n % s * s + i / n / s + i % n) % n);
-  for (int k = n > 1 ? 4 * n : 0; k > 0; --k) Echange(hasard, n, s, grille);
+  for (int k = n > 1 ? std::min(4 * n, 64) : 0; k > 0; --k) Echange(hasard, n, s, grille);
   return grille;
 }
 
