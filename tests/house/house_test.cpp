@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -57,17 +56,13 @@ const Noms kInterfaces = {
     "storage/game_file.h DialogueFichier",
 };
 
+// The files of code below a folder.
 std::vector<fs::path> Fichiers(const fs::path& dossier) {
   std::vector<fs::path> fichiers;
   for (const auto& entree : fs::recursive_directory_iterator(kRacine / dossier)) {
-    if (entree.is_regular_file()) fichiers.push_back(entree.path());
+    if (Noms{".h", ".inc", ".cpp"}.contains(entree.path().extension())) fichiers.push_back(entree.path());
   }
-  std::sort(fichiers.begin(), fichiers.end());
   return fichiers;
-}
-
-bool EstCode(const fs::path& fichier) {
-  return fichier.extension() == ".h" || fichier.extension() == ".inc" || fichier.extension() == ".cpp";
 }
 
 std::vector<std::string> Lignes(const fs::path& fichier) {
@@ -81,10 +76,6 @@ std::string Relatif(const fs::path& fichier) {
   return fs::relative(fichier, kRacine / "src").string();
 }
 
-std::string Entree(const std::string& fichier, const std::string& interface) {
-  return fichier + " " + interface;
-}
-
 // A folder, and all that its arrows lead to.
 void Atteint(const std::string& dossier, Noms& atteints) {
   if (!atteints.insert(dossier).second) return;
@@ -93,25 +84,24 @@ void Atteint(const std::string& dossier, Noms& atteints) {
 
 // The folders that this file may include.
 Noms Permis(const fs::path& fichier) {
-  const std::string dossier = fichier.parent_path().filename().string();
-  Noms departs = {dossier};
-  if (dossier == "apps") {
-    departs.clear();
-    for (const auto& [debut, dossiers] : kProgrammes) {
-      if (fichier.filename().string().starts_with(debut)) departs = dossiers;
-    }
-  }
+  const std::string dossier = fichier.parent_path().filename();
   Noms permis;
-  for (const std::string& depart : departs) Atteint(depart, permis);
-  if (dossier == "apps") permis.insert("apps");
+  if (dossier != "apps") {
+    Atteint(dossier, permis);
+    return permis;
+  }
+  for (const auto& [debut, dossiers] : kProgrammes) {
+    if (!fichier.filename().string().starts_with(debut)) continue;
+    for (const std::string& depart : dossiers) Atteint(depart, permis);
+  }
+  permis.insert("apps");
   return permis;
 }
 
 TEST(Maison, InclusionsSelonLesFleches) {
   const std::regex inclusion(R"re(^\s*#\s*include\s*"([^"/]*)(/?)[^"]*")re");
   for (const fs::path& fichier : Fichiers("src")) {
-    if (!EstCode(fichier)) continue;
-    const std::string dossier = fichier.parent_path().filename().string();
+    const std::string dossier = fichier.parent_path().filename();
     ASSERT_TRUE(dossier == "apps" || kFleches.contains(dossier))
         << Relatif(fichier) << ": a folder without arrows";
     const Noms permis = Permis(fichier);
@@ -127,7 +117,7 @@ TEST(Maison, QtResteDansSonDossier) {
   const std::regex inclusion(R"(^\s*#\s*include\s*<Q)");
   for (const fs::path& fichier : Fichiers("src")) {
     const std::string nom = Relatif(fichier);
-    if (!EstCode(fichier) || nom.starts_with("qt/") || nom == "apps/sudoku.cpp") continue;
+    if (nom.starts_with("qt/") || nom == "apps/sudoku.cpp") continue;
     for (const std::string& ligne : Lignes(fichier)) {
       EXPECT_FALSE(std::regex_search(ligne, inclusion)) << nom << ": " << ligne;
     }
@@ -142,19 +132,18 @@ TEST(Maison, AppelsContreLesFleches) {
   Noms trouvees;
   for (const fs::path& fichier : Fichiers("src")) {
     const std::string nom = Relatif(fichier);
-    const std::string dossier = fichier.parent_path().filename().string();
+    const std::string dossier = fichier.parent_path().filename();
     // The platform is an interface as a whole; above the logic there is nobody to call up to.
-    if (fichier.extension() != ".h" || !kFleches.contains(dossier) || dossier == "platform" ||
-        dossier == "qt" || dossier == "headless") {
-      continue;
-    }
+    const bool dehors =
+        dossier == "platform" || dossier == "qt" || dossier == "headless" || dossier == "apps";
+    if (dehors || fichier.extension() != ".h") continue;
     std::string courante;
     for (const std::string& ligne : Lignes(fichier)) {
       std::smatch trouve;
       if (std::regex_search(ligne, trouve, classe)) courante = trouve[1];
-      if (std::regex_search(ligne, virtuelle)) trouvees.insert(Entree(nom, courante));
+      if (std::regex_search(ligne, virtuelle)) trouvees.insert(nom + " " + courante);
       if (std::regex_search(ligne, trouve, fonction)) {
-        trouvees.insert(Entree(nom, trouve[1].matched ? trouve[1] : trouve[2]));
+        trouvees.insert(nom + " " + trouve[1].str() + trouve[2].str());
       }
     }
   }
@@ -166,7 +155,6 @@ TEST(Maison, FichiersCourts) {
   constexpr std::size_t kLignesMain = 60;
   for (const char* const dossier : {"src", "tests", "bench", "fuzz"}) {
     for (const fs::path& fichier : Fichiers(dossier)) {
-      if (!EstCode(fichier)) continue;
       const bool programme = Relatif(fichier).starts_with("apps/sudoku");
       EXPECT_LE(Lignes(fichier).size(), programme ? kLignesMain : kLignes) << fichier;
     }

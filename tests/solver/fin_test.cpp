@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <numeric>
+#include <vector>
 
 #include "grid/game_state.h"
 #include "plain/random_boards.h"
@@ -54,16 +56,14 @@ class Compteur : public PlateauAuto {
   int Cases() const { return jeu_.VmGrille.Borne(); }
   int Boites() const { return boites_; }
   std::uint64_t ReprisesMax() const { return reprisesMax_; }
-  std::uint64_t ToursMax() const { return toursMax_; }
   void Affiche() override {}
   void Message(TexteVue) override;
 
  private:
   std::uint64_t N() const { return static_cast<std::uint64_t>(jeu_.VmGrille.N()); }
   std::uint64_t BorneReprises() const { return 1 + N() * N() * (2 * N() + 2); }
-  std::uint64_t BorneTours() const { return 1 + 2 * N() * N() * N() + Textes(); }
-  std::uint64_t Textes() const;
-  std::uint64_t PlusLong() const;
+  // The lengths of what the cells hold.
+  std::vector<std::uint64_t> Longueurs() const;
 
   GameState jeu_;
   Evaluateur moteur_{jeu_};
@@ -72,30 +72,23 @@ class Compteur : public PlateauAuto {
   std::uint64_t parBoite_ = 0;
   int boites_ = 0;
   std::uint64_t reprisesMax_ = 0;
-  std::uint64_t toursMax_ = 0;
 };
 
-std::uint64_t Compteur::Textes() const {
-  std::uint64_t somme = 0;
-  for (int i = 1; i <= Cases(); ++i) somme += jeu_.VmGrille(i).ValeurSaisie().size();
-  return somme;
-}
-
-std::uint64_t Compteur::PlusLong() const {
-  std::uint64_t longueur = N();
-  for (int i = 1; i <= Cases(); ++i)
-    longueur = std::max<std::uint64_t>(longueur, jeu_.VmGrille(i).ValeurSaisie().size());
-  return longueur;
+std::vector<std::uint64_t> Compteur::Longueurs() const {
+  std::vector<std::uint64_t> longueurs;
+  for (int i = 1; i <= Cases(); ++i) longueurs.push_back(jeu_.VmGrille(i).ValeurSaisie().size());
+  return longueurs;
 }
 
 void Compteur::Evalue(int passes) {
-  const std::uint64_t reprises = moteur_.Reprises();
-  const std::uint64_t tours = moteur_.Tours();
+  const std::uint64_t reprisesAvant = moteur_.Reprises(), toursAvant = moteur_.Tours();
+  const std::vector<std::uint64_t> longueurs = Longueurs();
+  const auto textes = std::accumulate(longueurs.begin(), longueurs.end(), std::uint64_t{0});
   moteur_.Evaluation(jeu_.VmGrille, passes);
-  ASSERT_LE(moteur_.Reprises() - reprises, BorneReprises());
-  ASSERT_LE(moteur_.Tours() - tours, (moteur_.Reprises() - reprises) * 2 * BorneTours());
-  reprisesMax_ = std::max(reprisesMax_, moteur_.Reprises() - reprises);
-  toursMax_ = std::max(toursMax_, moteur_.Tours() - tours);
+  const std::uint64_t reprises = moteur_.Reprises() - reprisesAvant;
+  ASSERT_LE(reprises, BorneReprises());
+  ASSERT_LE(moteur_.Tours() - toursAvant, reprises * 2 * (1 + 2 * N() * N() * N() + textes));
+  reprisesMax_ = std::max(reprisesMax_, reprises);
 }
 
 void Compteur::Message(TexteVue) {
@@ -106,7 +99,7 @@ void Compteur::Message(TexteVue) {
 
 void Compteur::Resous() {
   const std::uint64_t reprises = moteur_.Reprises();
-  parBoite_ = 1 + N() * N() * (1 + PlusLong());
+  parBoite_ = 1 + N() * N() * (1 + std::max(N(), std::ranges::max(Longueurs())));
   toursVus_ = 0;
   boites_ = 0;
   const Grille joueuse = jeu_.VmGrille;

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "joueur.h"
 #include "play/invariants.h"
 
@@ -71,18 +69,6 @@ TEST_F(FichierDeJeu, SymbolesQuAucuneGrilleNAccepte) {
     EXPECT_EQ(Rompu(joueur), "") << symboles;
     EXPECT_EQ(joueur.Jeu().VmValeurs, U"1234") << symboles;
     EXPECT_EQ(joueur.Jeu().VmTaille, 4) << symboles;
-  }
-}
-
-TEST_F(FichierDeJeu, OctetsAuHasard) {
-  std::mt19937 hasard(20261124);
-  const std::string octets = "\0\0\r\n\n-  0011223349xé\x1F\xEF\xBB\xBF:"s;
-  for (int essai = 0; essai < 400; ++essai) {
-    std::string contenu = essai % 2 == 0 ? "1234\r\n" : "";
-    for (auto n = hasard() % 200; n > 0; --n) contenu += octets[hasard() % octets.size()];
-    Joueur joueur;
-    Charge(joueur, contenu, 1);
-    ASSERT_EQ(Rompu(joueur), "") << testing::PrintToString(contenu) << joueur.Sortie();
   }
 }
 

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "storage/state_string.h"
 #include "storage/temps.h"
 
 namespace sudoku {
@@ -66,34 +65,22 @@ TEST(LitSud, ChaqueFormeEtCeQuiResteLu) {
   for (const auto& c : cas) EXPECT_EQ(Resume(LitSud(c.octets)), c.resume) << testing::PrintToString(c.octets);
 }
 
-// What a file makes of itself when it is read and written again.
-std::string Recopie(const std::string& octets) {
-  const LectureSud lu = LitSud(octets);
-  return EcritSud(*lu.VmValeurs, *lu.grille, lu.VgParties, *lu.VgScores);
-}
-
 TEST(EcritSud, RelitEtRecritALOctetPourToutesLesTailles) {
   for (const std::size_t N : {1U, 4U, 9U, 16U, 25U, 169U}) {
     for (const char32_t premier : {U'-', U'!', U'À', U'Œ', U'α', U'\x10300'}) {
-      Texte symboles;
+      Texte symboles, grille, etats;
       for (std::size_t i = 0; i < N; ++i) symboles += premier + static_cast<char32_t>(i);
-      GameState jeu;
-      Grille grille = Grille::Nouvelle(jeu, symboles);
-      for (int i = 1; i <= grille.Borne(); i += 3) {
-        grille(i).Load(symboles.substr(static_cast<std::size_t>(i) % symboles.size(), 1), i % 4);
+      for (std::size_t i = 0; i < N * N; ++i) {
+        grille += {i % 2 == 0 ? symboles[i % N] : U' ', U'0'};
+        etats += {i % 3 == 0 ? symboles[i % N] : U' ', static_cast<char32_t>(U'0' + i % 4)};
       }
-      const std::vector<ClsPartie> parties = {{}, {U"Œuvre-d'été €", ChaineEtats(grille)}, {U"", U""}};
-      const std::vector<TypScore> scores = {{}, {U"Jean-Luc", Jours(197'000)}, {U"", Jours(90'609'000)}};
-      const std::string octets = EcritSud(symboles, ChaineInitiale(grille), parties, scores);
+      const std::string octets = EcritSud(symboles, grille, {{}, {U"Œuvre-d'été €", etats}, {U"", U""}},
+                                          {{}, {U"Jean-Luc", Jours(197'000)}, {U"", Jours(90'609'000)}});
       const LectureSud lu = LitSud(octets);
-      EXPECT_EQ(lu.erreur, std::nullopt);
-      EXPECT_EQ(lu.VmValeurs, symboles);
-      ASSERT_EQ(lu.VgParties.size(), 3U);
-      EXPECT_EQ(lu.VgParties[1].Nom, parties[1].Nom);
-      EXPECT_EQ(lu.VgParties[1].Grille, parties[1].Grille);
-      EXPECT_EQ(lu.VgScores->at(1).Nom, scores[1].Nom);
-      EXPECT_EQ(lu.VgScores->at(1).Temps, scores[1].Temps);
-      EXPECT_TRUE(Recopie(octets) == octets) << N << " symboles depuis " << std::uint32_t(premier);
+      ASSERT_EQ(lu.erreur, std::nullopt);
+      EXPECT_EQ(Resume(lu), VersUtf8(symboles + U"|" + grille + U"|Œuvre-d'été €=" + etats +
+                                     U"|=|scores Jean-Luc=00:03:17 =25:10:09"));
+      EXPECT_EQ(EcritSud(*lu.VmValeurs, *lu.grille, lu.VgParties, *lu.VgScores), octets);
     }
   }
 }
@@ -107,53 +94,22 @@ TEST(EcritSud, ExempleALOctet) {
   EXPECT_EQ(EcritSud(U"1", U" 0", {{}}, {{}}), "1\r\n 0\r\n\0"s);
 }
 
-std::string Repete(const std::string& morceau, std::size_t fois) {
-  std::string texte;
-  for (std::size_t i = 0; i < fois; ++i) texte += morceau;
-  return texte;
-}
-
 TEST(LitSud, PlusDEntreesQuAucunJeu) {
+  std::string parties, scores;
+  for (std::size_t i = 0; i < kEntreesMax; ++i) {
+    parties += "-\n";
+    scores += "-0:00:00\0"s;
+  }
   const std::string debut = "1\n 0\n";
-  const LectureSud plein = LitSud(debut + Repete("-\n", kEntreesMax));
+  const LectureSud plein = LitSud(debut + parties + "\0"s + scores);
   EXPECT_EQ(plein.erreur, std::nullopt);
   EXPECT_EQ(plein.VgParties.size(), kEntreesMax + 1);
-  const LectureSud parties = LitSud(debut + Repete("-\n", kEntreesMax + 1));
-  EXPECT_EQ(parties.erreur, kIndiceHorsSelection);
-  EXPECT_EQ(parties.VgParties.size(), kEntreesMax + 1);
-  const LectureSud scores = LitSud(debut + "\0"s + Repete("-0:00:00\0"s, kEntreesMax + 1));
-  EXPECT_EQ(scores.erreur, kIndiceHorsSelection);
-  EXPECT_FALSE(scores.VgScores);
-}
-
-TEST(ChaineEtats, EcritEtChargeLesCases) {
-  GameState jeu;
-  Grille grille = Grille::Nouvelle(jeu, U"1234");
-  grille(1).Load(U"1", kDonnee);
-  grille(2).Load(U"34", kPossible);
-  grille(3).Load(U"", kProuvee);
-  grille(16).Load(U"4", kErronee);
-  EXPECT_EQ(ChaineEtats(grille), U"1032 1 0 0 0 0 0 0 0 0 0 0 0 043");
-  EXPECT_EQ(ChaineInitiale(grille), U"10 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0");
-  EXPECT_TRUE(Jouee(grille));
-
-  Grille autre = Grille::Nouvelle(jeu, U"1234");
-  EXPECT_FALSE(Jouee(autre));
-  ChargeCases(autre, ChaineEtats(grille) + U"excédent");
-  EXPECT_EQ(ChaineEtats(autre), ChaineEtats(grille));
-}
-
-TEST(ChargeCases, GardeLesCasesDAvantLaFaute) {
-  const struct {
-    TexteVue chaine, cases;
-  } cas[] = {{U"", U" "},   {U"1", U" "},  {U"1x", U" "}, {U"1٣", U" "},
-             {U"10", U"1"}, {U"1 ", U" "}, {U"19", U"1"}};
-  for (const auto& c : cas) {
-    GameState jeu;
-    const Grille grille = Grille::Nouvelle(jeu, U"abcd");
-    EXPECT_THROW(ChargeCases(grille, c.chaine), Erreur) << VersUtf8(c.chaine);
-    EXPECT_EQ(ChaineEtats(grille).substr(0, 1), c.cases) << VersUtf8(c.chaine);
-  }
+  const LectureSud trop = LitSud(debut + parties + "-\n");
+  EXPECT_EQ(trop.erreur, kIndiceHorsSelection);
+  EXPECT_EQ(trop.VgParties.size(), kEntreesMax + 1);
+  const LectureSud tropDeScores = LitSud(debut + "\0"s + scores + "-0:00:00\0"s);
+  EXPECT_EQ(tropDeScores.erreur, kIndiceHorsSelection);
+  EXPECT_FALSE(tropDeScores.VgScores);
 }
 
 }  // namespace

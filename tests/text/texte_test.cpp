@@ -24,12 +24,6 @@ TEST(Texte, SansEnleveDeGaucheADroiteUneSeuleFois) {
   for (const auto& c : cas) EXPECT_EQ(Sans(c.texte, c.retire), c.reste) << VersUtf8(c.texte);
 }
 
-TEST(Texte, TiretsEntreLesSymboles) {
-  EXPECT_EQ(AvecTirets(U"128"), U"1-2-8");
-  EXPECT_EQ(AvecTirets(U"1"), U"1");
-  EXPECT_EQ(AvecTirets(U""), U"");
-}
-
 TEST(Texte, Utf8MalForme) {
   EXPECT_EQ(DepuisUtf8("a\xC3\xA9\xFF\xE2\x82"), U"aé\xFFFD\xFFFD\xFFFD");
   EXPECT_EQ(DepuisUtf8Strict("a\xC3\xA9"), Texte(U"aé"));
