@@ -84,10 +84,11 @@ extern "C" {
 int open(const char* chemin, int mode, ...) {
   va_list reste;
   va_start(reste, mode);
+  // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): the line above has begun it
   const mode_t droits = (mode & O_CREAT) != 0 ? va_arg(reste, mode_t) : 0;
   va_end(reste);
   const auto nom = Nom(std::string(chemin));
-  const int fd = Fait(Note("open", nom), Suivante<decltype(open)>("open"), chemin, mode, droits);
+  const int fd = Fait(Note("open", nom), Suivante<int(const char*, int, ...)>("open"), chemin, mode, droits);
   if (nom && fd >= 0) observation->ouverts[fd] = *nom;
   return fd;
 }

@@ -141,9 +141,10 @@ TEST(Maison, AppelsContreLesFleches) {
     for (const std::string& ligne : Lignes(fichier)) {
       std::smatch trouve;
       if (std::regex_search(ligne, trouve, classe)) courante = trouve[1];
-      if (std::regex_search(ligne, virtuelle)) trouvees.insert(nom + " " + courante);
+      if (std::regex_search(ligne, virtuelle)) trouvees.insert(std::string(nom).append(" ").append(courante));
       if (std::regex_search(ligne, trouve, fonction)) {
-        trouvees.insert(nom + " " + trouve[1].str() + trouve[2].str());
+        const std::string champ = trouve[1].matched ? trouve[1] : trouve[2];
+        trouvees.insert(std::string(nom).append(" ").append(champ));
       }
     }
   }

@@ -63,7 +63,7 @@ void SceneQt::Pas() {
   const bool vue = modale != nullptr && modale->windowHandle()->isExposed();
   if (!vue && (modale != nullptr || papier_.Dessus() != nullptr)) return Planifie();
   const Boite* boite = papier_.Dessus();
-  if (boite != nullptr && boite->fenetre == nullptr && boite->genre != GenreBoite::kFichier) {
+  if (vue && boite != nullptr && boite->fenetre == nullptr && boite->genre != GenreBoite::kFichier) {
     const auto* texte = modale->findChild<QLabel*>();
     const bool titre = titre_.empty() || modale->windowTitle() == VersQt(titre_);
     const bool tel = texte->textFormat() == Qt::PlainText && texte->text() == VersQt(texte_);

@@ -78,8 +78,9 @@ TEST(EcritSud, RelitEtRecritALOctetPourToutesLesTailles) {
                                           {{}, {U"Jean-Luc", Jours(197'000)}, {U"", Jours(90'609'000)}});
       const LectureSud lu = LitSud(octets);
       ASSERT_EQ(lu.erreur, std::nullopt);
-      EXPECT_EQ(Resume(lu), VersUtf8(symboles + U"|" + grille + U"|Œuvre-d'été €=" + etats +
-                                     U"|=|scores Jean-Luc=00:03:17 =25:10:09"));
+      Texte attendu = symboles;
+      attendu.append(U"|").append(grille).append(U"|Œuvre-d'été €=").append(etats);
+      EXPECT_EQ(Resume(lu), VersUtf8(attendu.append(U"|=|scores Jean-Luc=00:03:17 =25:10:09")));
       EXPECT_EQ(EcritSud(*lu.VmValeurs, *lu.grille, lu.VgParties, *lu.VgScores), octets);
     }
   }
