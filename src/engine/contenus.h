@@ -9,8 +9,10 @@ namespace sudoku {
 // Kinds of units in the order in which the engine goes through those of one number.
 enum GenreUnite { kGenreCarre = 0, kGenreLigne = 1, kGenreColonne = 2 };
 
-template <class T, int n>
-using Liste = T[static_cast<std::size_t>(n)];
+// A number of elements, for the bounds of an array.
+constexpr std::size_t Taille(int n) {
+  return static_cast<std::size_t>(n);
+}
 
 // Words for a grid with blocks of side S, up to 8. Cells, symbols, units and places count from 0 here.
 template <int S>
@@ -32,10 +34,10 @@ struct Contenus {
   static constexpr int kVoies = Largeur<S>::kVoies;
 
   // By kind: the symbols in each unit; words from N on stay 0.
-  alignas(Largeur<S>::kAlignement) Liste<Mot, kVoies> symboles[3];
+  alignas(Largeur<S>::kAlignement) Mot symboles[3][Taille(kVoies)];
   // The same turned round, the units that have a symbol, by symbol; words from N on are all ones.
-  alignas(Largeur<S>::kAlignement) Liste<Mot, kVoies> unites[3];
-  Liste<Mot, N> ouvertes[3];  // places of open cells in each unit
+  alignas(Largeur<S>::kAlignement) Mot unites[3][Taille(kVoies)];
+  Mot ouvertes[3][Taille(N)];  // places of open cells in each unit
 };
 
 // Which solutions deductions write: proved ones, where each unit leaves aside what is proved in it already,

@@ -104,12 +104,12 @@ class Deductions {
   Appui appui_ = Appui::kSur;
 
   // Candidates by unit and place, places by unit and symbol; lanes from N on stay 0.
-  alignas(64) Liste<Liste<Mot, kVoies>, kUnites> candidats_;
-  alignas(64) Liste<Liste<Mot, kVoies>, kUnites> places_;
-  Liste<Bits, kUnites> prouves_;         // by unit: symbols proved in it, contents aside
-  Liste<std::uint8_t, N * N> solution_;  // symbol + 1
-  Liste<Bits, N> resolues_;              // by row: cells with a solution
-  Liste<Bits, N> seuls_;          // by row: cells that came down to one candidate since the last Releve
+  alignas(64) Mot candidats_[Taille(kUnites)][Taille(kVoies)];
+  alignas(64) Mot places_[Taille(kUnites)][Taille(kVoies)];
+  Bits prouves_[Taille(kUnites)];         // by unit: symbols proved in it, contents aside
+  std::uint8_t solution_[Taille(N * N)];  // symbol + 1
+  Bits resolues_[Taille(N)];              // by row: cells with a solution
+  Bits seuls_[Taille(N)];         // by row: cells that came down to one candidate since the last Releve
   Masque<kMotsUnites<S>> sales_;  // units some cell of which changed since their own last run
   Bits symbolesSales_ = 0;        // symbols whose places changed since the last search for figures
   bool contradiction_ = false;

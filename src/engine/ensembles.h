@@ -31,8 +31,8 @@ SUDOKU_EN_LIGNE BitsDe<S> Ensembles(const Voies<S>& cles, const Voies<S>& compte
     return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
   } else {
     // Lanes with the same count together: most are seen to be too few before any two are compared.
-    alignas(64) Liste<MotDe<S>, Largeur<S>::kVoies> c;
-    alignas(64) Liste<MotDe<S>, Largeur<S>::kVoies> n;
+    alignas(64) MotDe<S> c[Taille(Largeur<S>::kVoies)];
+    alignas(64) MotDe<S> n[Taille(Largeur<S>::kVoies)];
     Range<S>(c, cles);
     Range<S>(n, comptes);
     BitsDe<S> debuts = 0;

@@ -20,7 +20,7 @@ template <int S>
 struct Lieu {
   std::uint8_t unite[3] = {};
   std::uint8_t place[3] = {};
-  Liste<std::uint64_t, kMotsUnites<S>> unites = {};  // the three of them
+  std::uint64_t unites[Taille(kMotsUnites<S>)] = {};  // the three of them
 };
 
 // The parts that a unit shares with units of other kinds: 2S for a block, S for a line.
@@ -31,7 +31,7 @@ struct Croisements {
     typename Largeur<S>::Bits horsDeIci = 0;  // places of this unit outside the part
     typename Largeur<S>::Bits horsDeLa = 0;   // of the other one
   };
-  Liste<Un, 2 * S> un;
+  Un un[Taille(2 * S)];
 };
 
 template <int S>
@@ -39,12 +39,12 @@ struct TousLesLieux {
   static constexpr int N = S * S;
   using Bits = typename Largeur<S>::Bits;
 
-  Bits tous = 0;               // symbols, places, units of a kind
-  Liste<Bits, S> groupe = {};  // places in a row of a block, of a line
-  Liste<Bits, S> residu = {};  // places in a column of a block
-  Liste<Lieu<S>, N * N> lieux;
-  Liste<Liste<std::uint16_t, N>, 3 * N> cellules = {};
-  Liste<Croisements<S>, 3 * N> croisements;
+  Bits tous = 0;                // symbols, places, units of a kind
+  Bits groupe[Taille(S)] = {};  // places in a row of a block, of a line
+  Bits residu[Taille(S)] = {};  // places in a column of a block
+  Lieu<S> lieux[Taille(N * N)];
+  std::uint16_t cellules[Taille(3 * N)][Taille(N)] = {};
+  Croisements<S> croisements[Taille(3 * N)];
 
   constexpr TousLesLieux() : lieux(), croisements() {
     for (int i = 0; i < N; ++i) {

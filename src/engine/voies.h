@@ -56,7 +56,7 @@ struct Voies {
 #endif
   static constexpr std::size_t kRegistres = kTaille / kOctets;
   static constexpr int kParRegistre = kOctets / sizeof(Mot);
-  typedef Mot Registre [[gnu::vector_size(kOctets)]];
+  using Registre [[gnu::vector_size(kOctets)]] = Mot;
 
   Registre r[kRegistres];
 
@@ -248,7 +248,7 @@ SUDOKU_EN_LIGNE bool Aucune(const Voies<S>& v) {
 template <int S>
 SUDOKU_EN_LIGNE Voies<S> Etale(BitsDe<S> bits) {
   struct Un {
-    alignas(64) Liste<MotDe<S>, Largeur<S>::kVoies> mots = {};
+    alignas(64) MotDe<S> mots[Taille(Largeur<S>::kVoies)] = {};
     constexpr Un() {
       for (int i = 0; i < Largeur<S>::N; ++i) mots[i] = static_cast<MotDe<S>>(BitsDe<S>{1} << i);
     }
@@ -305,7 +305,7 @@ SUDOKU_EN_LIGNE Voies<S> Descend(const Voies<S>& v) {
     return Permute(
         v, [](int i) { return i + d < 9 ? i + d : 15; }, std::make_integer_sequence<int, 16>());
   } else {
-    alignas(64) Liste<MotDe<S>, Largeur<S>::kVoies + d> suite = {};
+    alignas(64) MotDe<S> suite[Taille(Largeur<S>::kVoies + d)] = {};
     Range<S>(suite, v);
     return Lit<S>(suite + d);
   }
@@ -319,7 +319,7 @@ SUDOKU_EN_LIGNE Voies<S> Etire(const MotDe<S>* voies) {
         Lit<S>(voies), [](int i) { return i < 9 ? premiere + i / 3 * pas : 15; },
         std::make_integer_sequence<int, 16>());
   } else {
-    alignas(64) Liste<MotDe<S>, Largeur<S>::kVoies> etirees = {};
+    alignas(64) MotDe<S> etirees[Taille(Largeur<S>::kVoies)] = {};
     for (int i = 0; i < Largeur<S>::N; ++i) etirees[i] = voies[premiere + i / S * pas];
     return Lit<S>(etirees);
   }

@@ -6,8 +6,10 @@ namespace sudoku {
 
 void Cases9::Vide() {
   *this = Cases9{};
-  for (auto& deUnGenre : unites) std::fill(deUnGenre + 9, deUnGenre + 16, std::uint16_t{0xFFFF});
-  for (auto& deUnGenre : ouvertes) std::ranges::fill(deUnGenre, std::uint16_t{0x1FF});
+  for (int g = 0; g < 3; ++g) {
+    std::fill_n(&unites[g][9], kVoies - 9, std::uint16_t{0xFFFF});
+    std::fill_n(&ouvertes[g][0], 9, std::uint16_t{0x1FF});
+  }
 }
 
 void Cases9::Pose(int cellule, int symbole) {
