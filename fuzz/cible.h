@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdlib>
+#include <iostream>
 #include <string>
 #include <string_view>
 
@@ -10,6 +12,9 @@ namespace sudoku::fuzz {
 void Joue(std::string_view octets);
 
 // Says what is wrong and ends the process.
-[[noreturn]] void Echoue(const std::string& quoi);
+[[noreturn]] inline void Echoue(const std::string& quoi) {
+  std::cerr << quoi << std::endl;
+  std::abort();
+}
 
 }  // namespace sudoku::fuzz

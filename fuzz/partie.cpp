@@ -171,20 +171,15 @@ std::string Partie::Reponse(GenreBoite genre) {
 }
 
 std::string Partie::DansFenetre() {
-  switch (octets_.Tire(8)) {
-    case 0:
-      return std::string("edit ") + octets_.Un({"LstSave ", "LstSave ", "LstLoad "}) + Chaine();
-    case 1:
-      return "select LstSave " + std::to_string(octets_.Tire(5) - 2);
-    case 2:
-      return "select LstLoad " + std::to_string(octets_.Tire(5) - 2);
-    case 3:
-      return std::string("click ") + octets_.Un({"BtDel", "BtDel", "BtSysInfo"});
-    case 4:
-      return std::string("dblclick ") + octets_.Un({"LstLoad", "LstSave"});
-    default:
-      return "key " + std::string(octets_.Un({"13", "27"}));
+  const int genre = octets_.Tire(8);
+  if (genre == 0) return std::string("edit ") + octets_.Un({"LstSave ", "LstSave ", "LstLoad "}) + Chaine();
+  if (genre <= 2) {
+    return std::string("select ") + (genre == 1 ? "LstSave " : "LstLoad ") +
+           std::to_string(octets_.Tire(5) - 2);
   }
+  if (genre == 3) return std::string("click ") + octets_.Un({"BtDel", "BtDel", "BtSysInfo"});
+  if (genre == 4) return std::string("dblclick ") + octets_.Un({"LstLoad", "LstSave"});
+  return "key " + std::string(octets_.Un({"13", "27"}));
 }
 
 std::string Partie::Clique() {
@@ -198,23 +193,18 @@ std::string Partie::Clique() {
 }
 
 std::string Partie::Montre() {
-  switch (octets_.Tire(8)) {
-    case 0:
-      return "show cell " + Case();
-    case 1:
-      return "show file " + Chemin();
-    case 2:
-      return "show TxtCase(" + Case() + ")";
-    case 3:
-      return "show Box(" + Case() + ")";
-    case 4:
-      return std::string("show ") +
-             octets_.Un({"FRMSudoku", "FRMHelp", "FRMParties", "Tmr", "LblChrono", "ChkRep", "MnuStart",
-                         "Mnu1", "TxtTips", "BtOK", "PicIco", "Line1(0)"});
-    default:
-      return std::string("show ") + octets_.Un({"state", "grid", "etats", "menus", "LstLoad", "LstSave",
-                                                "scores", "library", "boxes", "LblInfos"});
+  const int genre = octets_.Tire(8);
+  if (genre == 0) return "show cell " + Case();
+  if (genre == 1) return "show file " + Chemin();
+  if (genre == 2) return "show TxtCase(" + Case() + ")";
+  if (genre == 3) return "show Box(" + Case() + ")";
+  if (genre == 4) {
+    return std::string("show ") +
+           octets_.Un({"FRMSudoku", "FRMHelp", "FRMParties", "Tmr", "LblChrono", "ChkRep", "MnuStart", "Mnu1",
+                       "TxtTips", "BtOK", "PicIco", "Line1(0)"});
   }
+  return std::string("show ") + octets_.Un({"state", "grid", "etats", "menus", "LstLoad", "LstSave", "scores",
+                                            "library", "boxes", "LblInfos"});
 }
 
 // A symbol of the grid, one that is possible there, the next of the solution where one is known, or anything.

@@ -75,6 +75,20 @@ bool Abandonne(F f) {
 
 }  // namespace
 
+void Pose(const Plateau& plateau, GameState& jeu, Evaluateur& moteur) {
+  jeu.VgEtat = kEntree;
+  jeu.VmValeurs = plateau.symboles;
+  jeu.VmTaille = static_cast<std::int16_t>(plateau.symboles.size());
+  jeu.VmGrille = sudoku::Grille::Nouvelle(jeu, plateau.symboles);
+  jeu.VmGrilleEtat = {};
+  jeu.VsResolu = false;
+  moteur.Evaluation(jeu.VmGrille, 1);
+  for (std::size_t i = 0; i < plateau.cases.size(); ++i) {
+    jeu.VmGrille(static_cast<int>(i + 1)).Load(plateau.cases[i].valeur, plateau.cases[i].etat);
+  }
+  jeu.VgEtat = plateau.mode;
+}
+
 Paire::Paire() {
   simple_.Message = [this](TexteVue texte) { Ouvre(boitesSimple_, texte, Image(simple_)); };
   rapide_.Message = [this](TexteVue texte) { Ouvre(boitesRapide_, texte, Image(rapide_.VmGrille)); };
@@ -115,19 +129,11 @@ std::string Paire::Fait(const Action& action) {
 void Paire::Charge(const Plateau& plateau) {
   abandonnee_ = false;
   simple_.JeuVierge(plateau.symboles);
-  rapide_.VgEtat = kEntree;
-  rapide_.VmValeurs = plateau.symboles;
-  rapide_.VmTaille = static_cast<std::int16_t>(plateau.symboles.size());
-  rapide_.VmGrille = sudoku::Grille::Nouvelle(rapide_, plateau.symboles);
-  rapide_.VmGrilleEtat = {};
-  rapide_.VsResolu = false;
-  moteur_.Evaluation(rapide_.VmGrille, 1);
   for (std::size_t i = 0; i < plateau.cases.size(); ++i) {
-    const Contenu& c = plateau.cases[i];
-    simple_.VmGrille[i]->Load(c.valeur, c.etat);
-    rapide_.VmGrille(static_cast<int>(i + 1)).Load(c.valeur, c.etat);
+    simple_.VmGrille[i]->Load(plateau.cases[i].valeur, plateau.cases[i].etat);
   }
-  simple_.VgEtat = rapide_.VgEtat = plateau.mode;
+  simple_.VgEtat = plateau.mode;
+  Pose(plateau, rapide_, moteur_);
 }
 
 void Paire::Evalue(int passes) {

@@ -28,6 +28,9 @@ struct Action {
   Plateau plateau = {};                                // kCharge
 };
 
+// Puts a board into a game of the engine: a new grid for its symbols, evaluated; its cells loaded; its mode.
+void Pose(const Plateau& plateau, GameState& jeu, Evaluateur& moteur);
+
 // The two sides. They live on from one grid to the next, as in the program.
 class Paire : private PlateauAuto {
  public:

@@ -20,11 +20,9 @@ Plateau TireFigure(Hasard& hasard, int n) {
     const Plateau plateau = hasard.UneFoisSur(2) ? PlateauAResoudre(hasard, n) : PlateauAuHasard(hasard, n);
     GameState jeu;
     Evaluateur moteur(jeu);
-    sudoku::Grille grille = sudoku::Grille::Nouvelle(jeu, plateau.symboles);
-    for (int i = 0; i < n * n; ++i)
-      grille(i + 1).Load(plateau.cases[At(i)].valeur, plateau.cases[At(i)].etat);
-    moteur.Evaluation(grille, 2);
-    for (const Argument& a : grille.Donnees().journal.arguments) {
+    Pose(plateau, jeu, moteur);
+    moteur.Evaluation(jeu.VmGrille, 2);
+    for (const Argument& a : jeu.VmGrille.Donnees().journal.arguments) {
       if (a.genre != Argument::Genre::kFigure) continue;
       if (a.type == type && a.type2 == type2) return plateau;
       trouve = plateau;

@@ -96,17 +96,6 @@ struct Recette {
   bool etatsRares = false;
 };
 
-Recette RecetteAuHasard(Hasard& hasard) {
-  Recette r;
-  const int genre = hasard.Entier(10);
-  if (genre > 0) r.remplies = genre == 1 ? 92 + hasard.Entier(9) : 10 + hasard.Entier(60);
-  if (hasard.UneFoisSur(4)) r.fautes = hasard.UneFoisSur(3) ? 100 : 1 + hasard.Entier(30);
-  if (hasard.UneFoisSur(2)) r.entrees = 3 + hasard.Entier(50);
-  if (hasard.UneFoisSur(4)) r.etrangers = 2 + hasard.Entier(40);
-  r.etatsRares = hasard.UneFoisSur(10);
-  return r;
-}
-
 Contenu CaseAuHasard(Hasard& hasard, const Recette& r, const Texte& symboles, int juste) {
   Contenu c;
   if (!hasard.Pourcent(r.remplies)) {
@@ -176,9 +165,16 @@ Plateau PlateauAuHasard(Hasard& hasard, int n) {
   plateau.mode = hasard.UneFoisSur(4) ? 1 : 2;
   if (hasard.UneFoisSur(2)) {
     Disperse(hasard, plateau);
-  } else {
-    Remplit(hasard, RecetteAuHasard(hasard), plateau);
+    return plateau;
   }
+  Recette r;
+  const int genre = hasard.Entier(10);
+  if (genre > 0) r.remplies = genre == 1 ? 92 + hasard.Entier(9) : 10 + hasard.Entier(60);
+  if (hasard.UneFoisSur(4)) r.fautes = hasard.UneFoisSur(3) ? 100 : 1 + hasard.Entier(30);
+  if (hasard.UneFoisSur(2)) r.entrees = 3 + hasard.Entier(50);
+  if (hasard.UneFoisSur(4)) r.etrangers = 2 + hasard.Entier(40);
+  r.etatsRares = hasard.UneFoisSur(10);
+  Remplit(hasard, r, plateau);
   return plateau;
 }
 

@@ -15,16 +15,12 @@
 namespace sudoku::fuzz {
 namespace {
 
-std::string Alea(unsigned graine, std::size_t nombre) {
-  std::mt19937 hasard(graine);
-  std::string octets;
-  while (octets.size() < nombre) octets += static_cast<char>(hasard() % 256);
-  return octets;
-}
-
 class Joueuse {
  public:
-  Joueuse(unsigned graine, int commandes) : alea_(Alea(graine, static_cast<std::size_t>(commandes) * 8)) {
+  Joueuse(unsigned graine, int commandes) {
+    std::mt19937 hasard(graine);
+    for (int i = 0; i < 8 * commandes; ++i) alea_ += static_cast<char>(hasard() % 256);
+    octets_ = Octets(alea_);
     partie.Longue(commandes);
   }
 

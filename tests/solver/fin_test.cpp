@@ -4,9 +4,7 @@
 #include <numeric>
 #include <vector>
 
-#include "grid/game_state.h"
-#include "plain/random_boards.h"
-#include "solver/auto_driver.h"
+#include "plain/comparaison.h"
 
 // Every evaluation and every run of the solver ends, within the numbers of steps that are proved beside
 // Evaluateur::Evaluation, MoteurDe::Deduit, TravailGrille::JeuSolve and AutoDriver::Cherche. Steps are
@@ -25,23 +23,9 @@ class Compteur : public PlateauAuto {
  public:
   struct Assez {};
 
-  void Nouvelle(TexteVue symboles) {
-    jeu_.VgEtat = kSaisieGrille;
-    jeu_.VgSilence = jeu_.VsResolu = false;
-    jeu_.VmValeurs = symboles;
-    jeu_.VmTaille = static_cast<std::int16_t>(symboles.size());
-    jeu_.VmGrille = Grille::Nouvelle(jeu_, symboles);
-    jeu_.VmGrilleEtat = {};
-    Evalue(1);
-  }
   void Charge(const plain::Plateau& plateau) {
-    Nouvelle(plateau.symboles);
-    for (int i = 1; i <= Cases(); ++i) {
-      const plain::Contenu& c = plateau.cases[static_cast<std::size_t>(i - 1)];
-      jeu_.VmGrille(i).Load(c.valeur, c.etat);
-    }
-    jeu_.VgEtat = plateau.mode;
-    Evalue(2);
+    plain::Pose(plateau, jeu_, moteur_);
+    Evalue(plateau.cases.empty() ? 1 : 2);
   }
   void Tape(Hasard& hasard) {
     const int i = 1 + hasard.Entier(Cases());
@@ -122,7 +106,7 @@ TEST(Fin, EtatsAtteintsEnJouant) {
   Compteur compteur;
   int boites = 0;
   for (int etat = 0; etat < kEtats && !testing::Test::HasFailure(); ++etat) {
-    if (etat % 40 == 0) compteur.Nouvelle(plain::SymbolesAuHasard(hasard, 4));
+    if (etat % 40 == 0) compteur.Charge({plain::SymbolesAuHasard(hasard, 4), kSaisieGrille, {}});
     if (etat % 40 == hasard.Entier(12)) compteur.Joue();
     compteur.Tape(hasard);
     if (etat % 5 != 0) continue;
