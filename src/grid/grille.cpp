@@ -1,6 +1,7 @@
 #include "grid/grille.h"
 
 #include <algorithm>
+#include <bit>
 #include <utility>
 
 #include "grid/game_state.h"
@@ -56,7 +57,7 @@ Grille Grille::Nouvelle(GameState& jeu, TexteVue VmValeurs) {
   bloc.jeu = &jeu;
   bloc.geometrie = std::make_shared<const Geometrie>(static_cast<int>(VmValeurs.size()));
   bloc.alphabet = std::make_shared<Alphabet>(VmValeurs);
-  bloc.mots = (bloc.geometrie->N() + 63) / 64;
+  bloc.mots = static_cast<int>(std::bit_ceil(static_cast<unsigned>(bloc.geometrie->N() + 63) / 64));
   const std::size_t taille = At(bloc.geometrie->Cases() + 1);
   bloc.etat.assign(taille, kDonnee);
   for (auto* codes : {&bloc.saisie, &bloc.sure, &bloc.poss, &bloc.possibleTexte})

@@ -19,7 +19,7 @@ struct Bloc {
   GameState* jeu = nullptr;
   std::shared_ptr<const Geometrie> geometrie;
   std::shared_ptr<Alphabet> alphabet;
-  int mots = 1;  // 64-bit words a cell
+  int mots = 1;  // 64-bit words a cell: 1, 2 or 4, which vector registers hold
 
   std::vector<std::int32_t> etat;
   std::vector<Code> saisie;
