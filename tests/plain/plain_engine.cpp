@@ -91,7 +91,7 @@ std::optional<int> Jeu::GrilleCheck(const Grille& grille, std::vector<int>& rele
 }
 
 // The evaluations that GrilleCheck asks for follow one another here; each has two passes.
-int Jeu::Evaluation(Grille& grille, int passes, bool suite) {
+int Jeu::Evaluation(const Grille& grille, int passes, bool suite) {
   if (suite) {
     Passes(grille, passes, true);
     return 0;
@@ -106,7 +106,7 @@ int Jeu::Evaluation(Grille& grille, int passes, bool suite) {
   }
 }
 
-void Jeu::Passes(Grille& grille, int passes, bool suite) {
+void Jeu::Passes(const Grille& grille, int passes, bool suite) {
   bool saisies = false;
   for (int p = 1; p <= passes; ++p) {
     if (passes == 2) VgEtat = p + 1;
@@ -121,7 +121,7 @@ void Jeu::Passes(Grille& grille, int passes, bool suite) {
 }
 
 // The cell scan; whether there are unproved entries.
-bool Jeu::ParcoursCases(Grille& grille, bool suite) {
+bool Jeu::ParcoursCases(const Grille& grille, bool suite) {
   bool saisies = false;
   for (const Case& c : grille) {
     if (c->Etat == kEssai) saisies = true;
@@ -136,7 +136,7 @@ bool Jeu::ParcoursCases(Grille& grille, bool suite) {
   return saisies;
 }
 
-bool Jeu::ParcoursSeries(Grille& grille) {
+bool Jeu::ParcoursSeries(const Grille& grille) {
   bool change = false;
   for (int num = 1; num <= VmTaille; ++num) {
     for (const int type : {kCarre, kLigne, kColonne}) {

@@ -67,8 +67,8 @@ class Jeu {
   void DonneValeur(ClsPos& c, TexteVue valeur);
 
   Grille GrilleCopy(const Grille& source) const;
-  int Evaluation(Grille& grille, int passes, bool suite = false);
-  int JeuSolve(Grille& grille);
+  int Evaluation(const Grille& grille, int passes, bool suite = false);
+  int JeuSolve(const Grille& grille);
   void JeuAuto(bool reset, bool guess);
 
  private:
@@ -77,9 +77,9 @@ class Jeu {
   std::optional<int> GrilleCheck(const Grille& grille, std::vector<int>& releves);
   int Juge(ClsPos& c, bool relevable) const;
 
-  void Passes(Grille& grille, int passes, bool suite);
-  bool ParcoursCases(Grille& grille, bool suite);
-  bool ParcoursSeries(Grille& grille);
+  void Passes(const Grille& grille, int passes, bool suite);
+  bool ParcoursCases(const Grille& grille, bool suite);
+  bool ParcoursSeries(const Grille& grille);
   Texte ListePossibles(const ClsPos& c, const Grille& grille) const;
   // Writes the symbol found for a cell where the mode has it.
   void Trouve(ClsPos& c, TexteVue symbole) const;

@@ -2,7 +2,7 @@
 
 namespace sudoku::plain {
 
-int Jeu::JeuSolve(Grille& grille) {
+int Jeu::JeuSolve(const Grille& grille) {
   for (;;) {
     const int resultat = Evaluation(grille, 2);
     if (resultat == -1) return -1;

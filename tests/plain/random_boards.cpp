@@ -33,17 +33,17 @@ void Echange(Hasard& hasard, int n, int s, std::vector<int>& grille) {
     if (grille[At(i)] == a || grille[At(i)] == b) reste.push_back(i);
   }
   hasard.Melange(reste);
-  std::vector<int> chaine{reste.back()};
-  reste.pop_back();
+  std::vector<int> chaine{reste[0]};
+  reste[0] = -1;
   // NOLINTNEXTLINE(modernize-loop-convert): the chain grows on the way
   for (std::size_t k = 0; k < chaine.size(); ++k) {
     const int i = chaine[k];
-    const auto loin = std::partition(reste.begin(), reste.end(), [&](int j) {
+    for (int& j : reste) {
       const bool carre = i / n / s == j / n / s && i % n / s == j % n / s;
-      return i / n != j / n && i % n != j % n && !carre;
-    });
-    chaine.insert(chaine.end(), loin, reste.end());
-    reste.erase(loin, reste.end());
+      if (j < 0 || (i / n != j / n && i % n != j % n && !carre)) continue;
+      chaine.push_back(j);
+      j = -1;  // it is in the chain
+    }
   }
   for (const int i : chaine) grille[At(i)] = a + b - grille[At(i)];
 }
