@@ -65,6 +65,7 @@ class Deductions {
   using V = Voies<S>;
   using Mot = MotDe<S>;
   using Figure = FigureDe<S>;
+  using Unites = Masque<kMotsUnites<S>>;
 
   static constexpr Bits kTous = kLieux<S>.tous;
   static Bits Bit(int n) { return Bits{1} << n; }
@@ -109,9 +110,9 @@ class Deductions {
   Bits prouves_[Taille(kUnites)];         // by unit: symbols proved in it, contents aside
   std::uint8_t solution_[Taille(N * N)];  // symbol + 1
   Bits resolues_[Taille(N)];              // by row: cells with a solution
-  Bits seuls_[Taille(N)];         // by row: cells that came down to one candidate since the last Releve
-  Masque<kMotsUnites<S>> sales_;  // units some cell of which changed since their own last run
-  Bits symbolesSales_ = 0;        // symbols whose places changed since the last search for figures
+  Bits seuls_[Taille(N)];   // by row: cells that came down to one candidate since the last Releve
+  Unites sales_;            // units some cell of which changed since their own last run
+  Bits symbolesSales_ = 0;  // symbols whose places changed since the last search for figures
   bool contradiction_ = false;
   bool aRemplir_ = false;
 };

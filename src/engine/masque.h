@@ -17,7 +17,7 @@ struct Masque {
   std::array<std::uint64_t, static_cast<std::size_t>(W)> mots{};
 
   // The numbers 0 to n-1.
-  static constexpr Masque Premiers(int n) {
+  static Masque Premiers(int n) {
     Masque m;
     for (int i = 0; i < W; ++i) {
       const int reste = n - 64 * i;
@@ -26,11 +26,11 @@ struct Masque {
     return m;
   }
 
-  constexpr std::uint64_t& operator[](int i) { return mots[static_cast<std::size_t>(i)]; }
-  constexpr std::uint64_t operator[](int i) const { return mots[static_cast<std::size_t>(i)]; }
+  std::uint64_t& operator[](int i) { return mots[static_cast<std::size_t>(i)]; }
+  std::uint64_t operator[](int i) const { return mots[static_cast<std::size_t>(i)]; }
 
   bool Contient(int n) const { return (((*this)[n >> 6] >> (n & 63)) & 1U) != 0; }
-  constexpr void Ajoute(int n) { (*this)[n >> 6] |= std::uint64_t{1} << (n & 63); }
+  void Ajoute(int n) { (*this)[n >> 6] |= std::uint64_t{1} << (n & 63); }
   void Enleve(int n) { (*this)[n >> 6] &= ~(std::uint64_t{1} << (n & 63)); }
 
   bool Vide() const {

@@ -177,11 +177,16 @@ SUDOKU_EN_LIGNE BitsDe<S> BitsDuRegistre(typename Voies<S>::Registre m) {
   return bits;
 #endif
 }
+// The bits that f(number of the register) gives, for all registers.
+template <int S, class F>
+SUDOKU_EN_LIGNE BitsDe<S> BitsParRegistre(F f) {
+  BitsDe<S> bits = 0;
+  Voies<S>::Chaque([&](int i) { bits |= static_cast<BitsDe<S>>(f(i)) << (i * Voies<S>::kParRegistre); });
+  return bits;
+}
 template <int S>
 SUDOKU_EN_LIGNE BitsDe<S> EnBits(const Voies<S>& masque) {
-  BitsDe<S> bits = 0;
-  Voies<S>::Chaque([&](int i) { bits |= BitsDuRegistre<S>(masque.r[i]) << (i * Voies<S>::kParRegistre); });
-  return bits;
+  return BitsParRegistre<S>([&](int i) { return BitsDuRegistre<S>(masque.r[i]); });
 }
 
 // Bits of lanes by comparison. The newest instructions compare into bits at once, which the compilers don't
@@ -189,33 +194,25 @@ SUDOKU_EN_LIGNE BitsDe<S> EnBits(const Voies<S>& masque) {
 #if defined(SUDOKU_VOIES_512)
 template <int S>
 SUDOKU_EN_LIGNE BitsDe<S> BitsEgales(const Voies<S>& a, const Voies<S>& b) {
-  BitsDe<S> bits = 0;
-  Voies<S>::Chaque([&](int i) {
-    BitsDe<S> egales = 0;
+  return BitsParRegistre<S>([&](int i) -> BitsDe<S> {
     if constexpr (sizeof(MotDe<S>) == 2)
-      egales = _mm256_cmpeq_epi16_mask(reinterpret_cast<__m256i>(a.r[i]), reinterpret_cast<__m256i>(b.r[i]));
-    if constexpr (sizeof(MotDe<S>) == 4)
-      egales = _mm512_cmpeq_epi32_mask(reinterpret_cast<__m512i>(a.r[i]), reinterpret_cast<__m512i>(b.r[i]));
-    if constexpr (sizeof(MotDe<S>) == 8)
-      egales = _mm512_cmpeq_epi64_mask(reinterpret_cast<__m512i>(a.r[i]), reinterpret_cast<__m512i>(b.r[i]));
-    bits |= egales << (i * Voies<S>::kParRegistre);
+      return _mm256_cmpeq_epi16_mask(reinterpret_cast<__m256i>(a.r[i]), reinterpret_cast<__m256i>(b.r[i]));
+    else if constexpr (sizeof(MotDe<S>) == 4)
+      return _mm512_cmpeq_epi32_mask(reinterpret_cast<__m512i>(a.r[i]), reinterpret_cast<__m512i>(b.r[i]));
+    else
+      return _mm512_cmpeq_epi64_mask(reinterpret_cast<__m512i>(a.r[i]), reinterpret_cast<__m512i>(b.r[i]));
   });
-  return bits;
 }
 template <int S>
 SUDOKU_EN_LIGNE BitsDe<S> BitsNonNulles(const Voies<S>& v) {
-  BitsDe<S> bits = 0;
-  Voies<S>::Chaque([&](int i) {
-    BitsDe<S> non = 0;
+  return BitsParRegistre<S>([&](int i) -> BitsDe<S> {
     if constexpr (sizeof(MotDe<S>) == 2)
-      non = _mm256_test_epi16_mask(reinterpret_cast<__m256i>(v.r[i]), reinterpret_cast<__m256i>(v.r[i]));
-    if constexpr (sizeof(MotDe<S>) == 4)
-      non = _mm512_test_epi32_mask(reinterpret_cast<__m512i>(v.r[i]), reinterpret_cast<__m512i>(v.r[i]));
-    if constexpr (sizeof(MotDe<S>) == 8)
-      non = _mm512_test_epi64_mask(reinterpret_cast<__m512i>(v.r[i]), reinterpret_cast<__m512i>(v.r[i]));
-    bits |= non << (i * Voies<S>::kParRegistre);
+      return _mm256_test_epi16_mask(reinterpret_cast<__m256i>(v.r[i]), reinterpret_cast<__m256i>(v.r[i]));
+    else if constexpr (sizeof(MotDe<S>) == 4)
+      return _mm512_test_epi32_mask(reinterpret_cast<__m512i>(v.r[i]), reinterpret_cast<__m512i>(v.r[i]));
+    else
+      return _mm512_test_epi64_mask(reinterpret_cast<__m512i>(v.r[i]), reinterpret_cast<__m512i>(v.r[i]));
   });
-  return bits;
 }
 #else
 template <int S>
