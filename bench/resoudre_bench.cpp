@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/lot_resoudre.h"
+#include "lot/resoudre.h"
 #include "series_bench.h"
 
 namespace sudoku::bench {

@@ -6,12 +6,12 @@
 #include <algorithm>
 #include <span>
 
-#include "apps/lot_expliquer.h"
-#include "apps/lot_grille.h"
-#include "apps/lot_lignes.h"
-#include "apps/lot_verifier.h"
 #include "cible.h"
 #include "grid/grille_texte.h"
+#include "lot/expliquer.h"
+#include "lot/grille.h"
+#include "lot/lignes.h"
+#include "lot/verifier.h"
 #include "octets.h"
 #include "solver/auto_driver.h"
 

@@ -4,10 +4,10 @@
 #include <sstream>
 #include <string>
 
-#include "apps/session.h"
 #include "fichiers_memoire.h"
 #include "octets.h"
 #include "play/invariants.h"
+#include "scenario/session.h"
 
 namespace sudoku::fuzz {
 

@@ -30,16 +30,9 @@ const std::map<std::string, Noms> kFleches = {
     {"shell", {"storage", "assistant", "play"}},
     {"headless", {"platform"}},
     {"qt", {"platform"}},
-};
-
-// The programs, by the beginnings of their files' names: no window system for the bulk commands, none with a
-// screen for written sessions.
-const std::map<std::string, Noms> kProgrammes = {
-    {"sudoku.cpp", {"qt", "shell"}},
-    {"sudoku_scenario.cpp", {"headless", "shell"}},
-    {"session", {"headless", "shell"}},
-    {"sudoku_lot.cpp", {"storage"}},
-    {"lot_", {"storage"}},
+    {"sudoku", {"qt", "shell"}},
+    {"scenario", {"headless", "shell"}},
+    {"lot", {"storage"}},
 };
 
 // Calls against an arrow go through what the lower folder declares and an upper one fills in. These are all:
@@ -82,29 +75,13 @@ void Atteint(const std::string& dossier, Noms& atteints) {
   for (const std::string& suivant : kFleches.at(dossier)) Atteint(suivant, atteints);
 }
 
-// The folders that this file may include.
-Noms Permis(const fs::path& fichier) {
-  const std::string dossier = fichier.parent_path().filename();
-  Noms permis;
-  if (dossier != "apps") {
-    Atteint(dossier, permis);
-    return permis;
-  }
-  for (const auto& [debut, dossiers] : kProgrammes) {
-    if (!fichier.filename().string().starts_with(debut)) continue;
-    for (const std::string& depart : dossiers) Atteint(depart, permis);
-  }
-  permis.insert("apps");
-  return permis;
-}
-
 TEST(Maison, InclusionsSelonLesFleches) {
   const std::regex inclusion(R"re(^\s*#\s*include\s*"([^"/]*)(/?)[^"]*")re");
   for (const fs::path& fichier : Fichiers("src")) {
     const std::string dossier = fichier.parent_path().filename();
-    ASSERT_TRUE(dossier == "apps" || kFleches.contains(dossier))
-        << Relatif(fichier) << ": a folder without arrows";
-    const Noms permis = Permis(fichier);
+    ASSERT_TRUE(kFleches.contains(dossier)) << Relatif(fichier) << ": a folder without arrows";
+    Noms permis;
+    Atteint(dossier, permis);
     for (const std::string& ligne : Lignes(fichier)) {
       std::smatch trouve;
       if (!std::regex_search(ligne, trouve, inclusion)) continue;
@@ -117,7 +94,7 @@ TEST(Maison, QtResteDansSonDossier) {
   const std::regex inclusion(R"(^\s*#\s*include\s*<Q)");
   for (const fs::path& fichier : Fichiers("src")) {
     const std::string nom = Relatif(fichier);
-    if (nom.starts_with("qt/") || nom == "apps/sudoku.cpp") continue;
+    if (nom.starts_with("qt/") || nom.starts_with("sudoku/")) continue;
     for (const std::string& ligne : Lignes(fichier)) {
       EXPECT_FALSE(std::regex_search(ligne, inclusion)) << nom << ": " << ligne;
     }
@@ -134,9 +111,8 @@ TEST(Maison, AppelsContreLesFleches) {
     const std::string nom = Relatif(fichier);
     const std::string dossier = fichier.parent_path().filename();
     // The platform is an interface as a whole; above the logic there is nobody to call up to.
-    const bool dehors =
-        dossier == "platform" || dossier == "qt" || dossier == "headless" || dossier == "apps";
-    if (dehors || fichier.extension() != ".h") continue;
+    const Noms dehors = {"platform", "qt", "headless", "sudoku", "lot", "scenario"};
+    if (dehors.contains(dossier) || fichier.extension() != ".h") continue;
     std::string courante;
     for (const std::string& ligne : Lignes(fichier)) {
       std::smatch trouve;
@@ -156,7 +132,7 @@ TEST(Maison, FichiersCourts) {
   constexpr std::size_t kLignesMain = 60;
   for (const char* const dossier : {"src", "tests", "bench", "fuzz"}) {
     for (const fs::path& fichier : Fichiers(dossier)) {
-      const bool programme = Relatif(fichier).starts_with("apps/sudoku");
+      const bool programme = fichier.filename() == "main.cpp";
       EXPECT_LE(Lignes(fichier).size(), programme ? kLignesMain : kLignes) << fichier;
     }
   }

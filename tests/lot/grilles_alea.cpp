@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "apps/lot_solutions.h"
+#include "lot/solutions.h"
 #include "plain/random_boards.h"
 
 namespace sudoku {

@@ -5,10 +5,10 @@
 #include <random>
 #include <vector>
 
-#include "apps/lot_grille.h"
-#include "apps/lot_solutions.h"
-#include "apps/lot_temoin.h"
 #include "engine/evaluation.h"
+#include "lot/grille.h"
+#include "lot/solutions.h"
+#include "lot/temoin.h"
 
 namespace sudoku::lot {
 namespace {

@@ -3,9 +3,9 @@
 #include <fstream>
 #include <iostream>
 
-#include "apps/session.h"
 #include "qt/application.h"
 #include "qt/scene_qt.h"
+#include "scenario/session.h"
 
 int main(int argc, char** argv) {
   if (argc != 2) return 2;

@@ -1,4 +1,4 @@
-#include "apps/lot_grille.h"
+#include "lot/grille.h"
 
 #include <cstdio>
 

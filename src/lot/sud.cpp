@@ -1,13 +1,13 @@
-#include "apps/lot_sud.h"
+#include "lot/sud.h"
 
 #include <unistd.h>
 
 #include <algorithm>
 
-#include "apps/lot_grille.h"
-#include "apps/lot_lignes.h"
-#include "apps/lot_sortie.h"
 #include "grid/grille_texte.h"
+#include "lot/grille.h"
+#include "lot/lignes.h"
+#include "lot/sortie.h"
 #include "storage/state_string.h"
 #include "storage/sud_text.h"
 

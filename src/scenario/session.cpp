@@ -1,8 +1,8 @@
-#include "apps/session.h"
+#include "scenario/session.h"
 
 #include <algorithm>
 
-#include "apps/session_vue.h"
+#include "scenario/session_vue.h"
 
 namespace sudoku {
 namespace {

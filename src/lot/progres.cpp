@@ -1,11 +1,11 @@
-#include "apps/lot_progres.h"
+#include "lot/progres.h"
 
 #include <unistd.h>
 
 #include <cmath>
 #include <cstdio>
 
-#include "apps/lot_sortie.h"
+#include "lot/sortie.h"
 
 namespace sudoku::lot {
 namespace {

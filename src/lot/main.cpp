@@ -1,11 +1,11 @@
 // Solves and explains grids in bulk, with no window system.
 
-#include "apps/lot_appel.h"
-#include "apps/lot_deroule.h"
-#include "apps/lot_expliquer.h"
-#include "apps/lot_resoudre.h"
-#include "apps/lot_sud.h"
-#include "apps/lot_verifier.h"
+#include "lot/appel.h"
+#include "lot/deroule.h"
+#include "lot/expliquer.h"
+#include "lot/resoudre.h"
+#include "lot/sud.h"
+#include "lot/verifier.h"
 
 int main(int argc, char** argv) {
   using namespace sudoku::lot;

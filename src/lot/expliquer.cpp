@@ -1,10 +1,10 @@
-#include "apps/lot_expliquer.h"
+#include "lot/expliquer.h"
 
-#include "apps/lot_grille.h"
-#include "apps/lot_json.h"
-#include "apps/lot_symboles.h"
 #include "engine/evaluation.h"
 #include "engine/explications.h"
+#include "lot/grille.h"
+#include "lot/json.h"
+#include "lot/symboles.h"
 
 namespace sudoku::lot {
 namespace {

@@ -1,10 +1,10 @@
-#include "apps/lot_deroule.h"
+#include "lot/deroule.h"
 
 #include <optional>
 
-#include "apps/lot_lignes.h"
-#include "apps/lot_progres.h"
-#include "apps/lot_sortie.h"
+#include "lot/lignes.h"
+#include "lot/progres.h"
+#include "lot/sortie.h"
 
 namespace sudoku::lot {
 namespace {

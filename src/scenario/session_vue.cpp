@@ -1,4 +1,4 @@
-#include "apps/session_vue.h"
+#include "scenario/session_vue.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "apps/lot_json.h"
+#include "lot/json.h"
 
 #include <cstdio>
 

@@ -1,4 +1,4 @@
-#include "apps/lot_symboles.h"
+#include "lot/symboles.h"
 
 namespace sudoku::lot {
 

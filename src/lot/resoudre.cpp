@@ -1,10 +1,10 @@
-#include "apps/lot_resoudre.h"
+#include "lot/resoudre.h"
 
 #include <algorithm>
 #include <span>
 
-#include "apps/lot_grille.h"
-#include "apps/lot_symboles.h"
+#include "lot/grille.h"
+#include "lot/symboles.h"
 #include "solver/auto_driver.h"
 
 namespace sudoku::lot {

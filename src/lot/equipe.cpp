@@ -1,4 +1,4 @@
-#include "apps/lot_equipe.h"
+#include "lot/equipe.h"
 
 #include <algorithm>
 #include <system_error>

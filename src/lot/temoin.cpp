@@ -1,4 +1,4 @@
-#include "apps/lot_temoin.h"
+#include "lot/temoin.h"
 
 #include <algorithm>
 

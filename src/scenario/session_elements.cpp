@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "apps/session_vue.h"
+#include "scenario/session_vue.h"
 
 namespace sudoku {
 namespace {

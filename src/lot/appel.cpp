@@ -1,4 +1,4 @@
-#include "apps/lot_appel.h"
+#include "lot/appel.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>

@@ -2,8 +2,8 @@
 #include <fstream>
 #include <iostream>
 
-#include "apps/session.h"
 #include "platform/fichiers_disque.h"
+#include "scenario/session.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "apps/lot_appel.h"
+#include "lot/appel.h"
 
 namespace sudoku::lot {
 

@@ -1,4 +1,4 @@
-#include "apps/lot_lignes.h"
+#include "lot/lignes.h"
 
 #include <fcntl.h>
 #include <poll.h>

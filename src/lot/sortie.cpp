@@ -1,4 +1,4 @@
-#include "apps/lot_sortie.h"
+#include "lot/sortie.h"
 
 #include <poll.h>
 #include <unistd.h>
@@ -7,7 +7,7 @@
 #include <chrono>
 #include <cstdlib>
 
-#include "apps/lot_lignes.h"
+#include "lot/lignes.h"
 
 namespace sudoku::lot {
 namespace {

@@ -1,8 +1,8 @@
-#include "apps/lot_verifier.h"
+#include "lot/verifier.h"
 
-#include "apps/lot_grille.h"
-#include "apps/lot_solutions.h"
-#include "apps/lot_temoin.h"
+#include "lot/grille.h"
+#include "lot/solutions.h"
+#include "lot/temoin.h"
 #include "solver/auto_driver.h"
 
 namespace sudoku::lot {

@@ -4,8 +4,8 @@
 #include <array>
 #include <limits>
 
-#include "apps/session.h"
-#include "apps/session_vue.h"
+#include "scenario/session.h"
+#include "scenario/session_vue.h"
 
 namespace sudoku {
 namespace {

@@ -1,4 +1,4 @@
-#include "apps/lot_solutions.h"
+#include "lot/solutions.h"
 
 namespace sudoku::lot {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "apps/lot_appel.h"
-#include "apps/lot_equipe.h"
+#include "lot/appel.h"
+#include "lot/equipe.h"
 
 namespace sudoku::lot {
 
