@@ -19,8 +19,8 @@ std::unique_ptr<Moteur> Fabrique(int N);
 std::vector<FaitMoteur> VersionsMoteur() {
   std::vector<FaitMoteur> versions;
 #if defined(SUDOKU_VERSIONS_X86)
-  if (ProcesseurAvx512()) versions.push_back(moteur_avx512::Fabrique);
-  if (ProcesseurAvx2()) versions.push_back(moteur_avx2::Fabrique);
+  if (MeilleuresInstructions() >= Instructions::kAvx512) versions.push_back(moteur_avx512::Fabrique);
+  if (MeilleuresInstructions() >= Instructions::kAvx2) versions.push_back(moteur_avx2::Fabrique);
 #endif
   versions.push_back(moteur_base::Fabrique);
   return versions;

@@ -2,18 +2,14 @@
 
 namespace sudoku {
 
-#if defined(SUDOKU_VERSIONS_X86)
-// What the processor that we run on can do, as the versions of the hot code are compiled for.
-inline bool ProcesseurAvx2() {
-  // Where bmi2 is, lzcnt is; clang 14 can't be asked for it.
-  return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2") &&
-         __builtin_cpu_supports("popcnt");
-}
-inline bool ProcesseurAvx512() {
-  return ProcesseurAvx2() && __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vl") &&
-         __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bitalg") &&
-         __builtin_cpu_supports("avx512vpopcntdq");
-}
-#endif
+// The instruction sets that the hot code is compiled for, each holding those before it.
+enum class Instructions { kBase, kAvx2, kAvx512 };
+
+// The best that this program has, the processor that it runs on can do, and LimiteInstructions allows.
+Instructions MeilleuresInstructions();
+
+// No limit, in the products. The benchmark links its own version (bench/limite_instructions.cpp), so that
+// every version of the hot code can be measured on one machine.
+Instructions LimiteInstructions();
 
 }  // namespace sudoku

@@ -19,8 +19,8 @@ void JeuSolve(Cases9& cases, Appui appui, Passe9& passe);
 std::vector<JeuSolve9> VersionsJeuSolve9() {
   std::vector<JeuSolve9> versions;
 #if defined(SUDOKU_VERSIONS_X86)
-  if (ProcesseurAvx512()) versions.push_back(noyau_avx512::JeuSolve);
-  if (ProcesseurAvx2()) versions.push_back(noyau_avx2::JeuSolve);
+  if (MeilleuresInstructions() >= Instructions::kAvx512) versions.push_back(noyau_avx512::JeuSolve);
+  if (MeilleuresInstructions() >= Instructions::kAvx2) versions.push_back(noyau_avx2::JeuSolve);
 #endif
   versions.push_back(noyau_base::JeuSolve);
   return versions;
