@@ -1,8 +1,8 @@
 #include "qt/capture.h"
 
-#include <QFile>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QSaveFile>
 #include <QSvgGenerator>
 #include <cstdio>
 
@@ -16,9 +16,11 @@ void Rend(FenetreQt& fenetre, QPainter& p) {
   fenetre.render(&p, QPoint(), QRegion(), QWidget::DrawChildren | QWidget::DrawWindowBackground);
 }
 
-bool DessineSvg(FenetreQt& fenetre, const QString& chemin) {
-  QFile fichier(chemin);
-  if (!fichier.open(QIODevice::WriteOnly)) return false;
+bool DessinePng(FenetreQt& fenetre, QIODevice& fichier) {
+  return fenetre.grab().save(&fichier, "PNG");
+}
+
+bool DessineSvg(FenetreQt& fenetre, QIODevice& fichier) {
   QSvgGenerator dessin;
   dessin.setOutputDevice(&fichier);
   dessin.setSize(fenetre.size());
@@ -27,12 +29,10 @@ bool DessineSvg(FenetreQt& fenetre, const QString& chemin) {
   dessin.setResolution(fenetre.logicalDpiX());
   QPainter p(&dessin);
   Rend(fenetre, p);
-  return p.end() && fichier.flush();
+  return p.end();
 }
 
-bool DessinePdf(FenetreQt& fenetre, const QString& chemin) {
-  QFile fichier(chemin);
-  if (!fichier.open(QIODevice::WriteOnly)) return false;
+bool DessinePdf(FenetreQt& fenetre, QIODevice& fichier) {
   QPdfWriter page(&fichier);
   page.setPageSize(QPageSize(QPageSize::A4));
   page.setPageMargins(QMarginsF(20, 20, 20, 20), QPageLayout::Millimeter);
@@ -45,7 +45,20 @@ bool DessinePdf(FenetreQt& fenetre, const QString& chemin) {
   p.translate((page.width() - fenetre.width() * echelle) / 2, 0);
   p.scale(echelle, echelle);
   Rend(fenetre, p);
-  return p.end() && fichier.flush();
+  return p.end();
+}
+
+using Dessine = bool (*)(FenetreQt& fenetre, QIODevice& fichier);
+
+// Null for a name of no known form.
+Dessine FormeDe(const QString& nom) {
+  static constexpr std::pair<QLatin1String, Dessine> kFormes[] = {{QLatin1String(".png"), DessinePng},
+                                                                  {QLatin1String(".svg"), DessineSvg},
+                                                                  {QLatin1String(".pdf"), DessinePdf}};
+  for (const auto& [fin, dessine] : kFormes) {
+    if (nom.endsWith(fin, Qt::CaseInsensitive)) return dessine;
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -61,11 +74,17 @@ void SystemeSansJoueur::MontreModale(Fenetre& fenetre) {
   }
 }
 
+bool FormeConnue(std::string_view nom) {
+  return FormeDe(QString::fromUtf8(nom.data(), static_cast<qsizetype>(nom.size()))) != nullptr;
+}
+
 bool DessineDansFichier(FenetreQt& fenetre, const QString& chemin) {
   fenetre.SansEcran();
-  if (chemin.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive)) return DessineSvg(fenetre, chemin);
-  if (chemin.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) return DessinePdf(fenetre, chemin);
-  return fenetre.grab().save(chemin);
+  QSaveFile fichier(chemin);
+  if (!fichier.open(QIODevice::WriteOnly)) return false;
+  // The commit itself passes over what can't be written any more.
+  if (!FormeDe(chemin)(fenetre, fichier) || !fichier.flush()) fichier.cancelWriting();
+  return fichier.commit();
 }
 
 }  // namespace sudoku

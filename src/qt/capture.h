@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <string_view>
 
 #include "qt/systeme_qt.h"
 
@@ -22,8 +23,12 @@ class SystemeSansJoueur : public SystemeQt {
   bool dit_ = false;
 };
 
-// Draws the inside of a window, with the whole board, into a file: a picture, .svg as a drawing, .pdf as one
-// page of A4 to print. False: the file can't be written.
+// The name of a file says what is drawn into it: .png a picture, .svg a drawing, .pdf one page of A4 to
+// print. False: it says none of these.
+bool FormeConnue(std::string_view nom);
+
+// Draws the inside of a window, with the whole board, into a file of a known form. What was there before is
+// replaced when the new one is whole. False: it can't be written, and nothing has changed.
 bool DessineDansFichier(FenetreQt& fenetre, const QString& chemin);
 
 }  // namespace sudoku
