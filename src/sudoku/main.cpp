@@ -5,13 +5,14 @@
 //   display
 
 #include <QFile>
+#include <csignal>
 #include <cstdio>
-#include <cstring>
 
 #include "qt/application.h"
 #include "qt/capture.h"
 #include "qt/texte_qt.h"
 #include "shell/programme.h"
+#include "sudoku/appel.h"
 
 namespace {
 
@@ -45,15 +46,12 @@ int Capture(const char* image, const char* fichier) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const bool capture = argc > 1 && std::strcmp(argv[1], "--capture") == 0;
-  const int premier = capture ? 3 : 1;
-  if ((capture && argc < 3) || argc > premier + 1) {
-    std::fputs("Usage : sudoku [FICHIER.sud]\n        sudoku --capture IMAGE [FICHIER.sud]\n", stderr);
-    return 2;
-  }
-  const char* fichier = argc > premier ? argv[premier] : nullptr;
+  const std::optional<sudoku::Appel> appel = sudoku::LisAppel(argc, argv);
+  if (!appel) return 2;
+  std::signal(SIGXFSZ, SIG_IGN);  // a write beyond the limit fails, and ends nothing
+  const bool capture = appel->image != nullptr;
   sudoku::PrepareAffichage(!capture);
   QApplication application(argc, argv);
   sudoku::PrepareApplication(application);
-  return capture ? Capture(argv[2], fichier) : Joue(fichier);
+  return capture ? Capture(appel->image, appel->fichier) : Joue(appel->fichier);
 }

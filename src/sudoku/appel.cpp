@@ -1,0 +1,61 @@
+#include "sudoku/appel.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include "qt/capture.h"
+
+namespace sudoku {
+namespace {
+
+constexpr std::string_view kCapture = "--capture";
+constexpr const char* kUsage =
+    "Usage : sudoku [FICHIER.sud]\n        sudoku --capture IMAGE.png|.svg|.pdf [FICHIER.sud]\n";
+
+std::optional<Appel> Refuse(const std::string& raison) {
+  std::fputs(("sudoku : " + raison + "\n" + kUsage).c_str(), stderr);
+  return std::nullopt;
+}
+
+// Two names of one file.
+bool Memes(const char* un, const char* autre) {
+  std::error_code code;
+  return std::string_view(un) == autre || std::filesystem::equivalent(un, autre, code);
+}
+
+}  // namespace
+
+std::optional<Appel> LisAppel(int argc, const char* const* argv) {
+  std::span mots(argv, static_cast<std::size_t>(argc));
+  mots = mots.subspan(std::min<std::size_t>(1, mots.size()));
+  const auto passe = [&] {
+    const char* const mot = mots.front();
+    mots = mots.subspan(1);
+    return mot;
+  };
+  Appel appel;
+  if (!mots.empty() && mots.front() == kCapture) {
+    passe();
+    if (mots.empty()) return Refuse("il manque l'image");
+    appel.image = passe();
+    if (!FormeConnue(appel.image)) {
+      return Refuse(std::string(appel.image) + " : le nom d'une image finit par .png, .svg ou .pdf");
+    }
+  }
+  if (!mots.empty()) appel.fichier = passe();
+  if (!mots.empty()) return Refuse("un seul fichier à la fois");
+  if (appel.fichier != nullptr && *appel.fichier == '-') {
+    return Refuse("option inconnue : " + std::string(appel.fichier));
+  }
+  if (appel.image != nullptr && appel.fichier != nullptr && Memes(appel.image, appel.fichier)) {
+    return Refuse("l'image et la partie sont le même fichier");
+  }
+  return appel;
+}
+
+}  // namespace sudoku

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+
+namespace sudoku {
+
+// What one call of sudoku asks for; null where it is absent.
+struct Appel {
+  const char* image = nullptr;    // to be drawn; null: the game is to be played
+  const char* fichier = nullptr;  // the game file
+};
+
+// Reads the words of the call, and touches no file. Nothing where it is wrong, which has been said on
+// standard error then: a word too many, an unknown option, an image that is missing, has none of the names of
+// its forms, or is the game file itself.
+std::optional<Appel> LisAppel(int argc, const char* const* argv);
+
+}  // namespace sudoku
