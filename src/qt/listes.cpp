@@ -1,8 +1,9 @@
 #include "qt/listes.h"
 
+#include <QAbstractListModel>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QVBoxLayout>
 
 #include "qt/mesure.h"
@@ -11,17 +12,43 @@
 namespace sudoku {
 namespace {
 
-// A list that shows the items and the position of a record, and reports what the user selects.
-class ListeQt : public QListWidget {
+// The items of a record as they were last shown. The toolkit's list of items of its own looks for an item
+// among all others whenever one is written, which takes a minute for a long library.
+class Items : public QAbstractListModel {
  public:
-  ListeQt(Element& element, Pilote& pilote, QWidget* parent) : QListWidget(parent), element_(element) {
+  using QAbstractListModel::QAbstractListModel;
+
+  void Montre(const std::vector<Texte>& items) {
+    if (items == items_) return;
+    beginResetModel();
+    items_ = items;
+    endResetModel();
+  }
+  int rowCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : static_cast<int>(items_.size());
+  }
+  QVariant data(const QModelIndex& place, int role) const override {
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+    const QString texte = VersQt(items_[static_cast<std::size_t>(place.row())]);
+    return role == Qt::ToolTipRole ? texte.toHtmlEscaped() : texte;
+  }
+
+ private:
+  std::vector<Texte> items_;
+};
+
+// A list that shows the items and the position of a record, and reports what the user selects.
+class ListeQt : public QListView {
+ public:
+  ListeQt(Element& element, Pilote& pilote, QWidget* parent) : QListView(parent), element_(element) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setUniformItemSizes(true);
-    connect(this, &QListWidget::itemSelectionChanged, this, [&] {
+    setModel(&items_);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [&] {
       if (ecrit_) return;
       pilote.Execute([&] { element_.Selectionne(Position()); });
     });
-    connect(this, &QListWidget::itemDoubleClicked, this,
+    connect(this, &QListView::doubleClicked, this,
             [&] { pilote.ExecuteCommande([&] { element_.DoubleClique(); }); });
   }
 
@@ -29,32 +56,24 @@ class ListeQt : public QListWidget {
     const QModelIndexList choix = selectionModel()->selectedRows();
     return choix.isEmpty() ? -1 : choix.first().row();
   }
+  void Choisit(int position) { setCurrentIndex(items_.index(position)); }
 
   void Montre() {
     ecrit_ = true;
-    if (montre_ != element_.items) Remplit();
+    items_.Montre(element_.items);
     if (Position() != element_.ListIndex) {
       if (element_.ListIndex < 0) {
         clearSelection();
       } else {
-        setCurrentRow(element_.ListIndex);
+        Choisit(element_.ListIndex);
       }
     }
     ecrit_ = false;
   }
 
  private:
-  void Remplit() {
-    montre_ = element_.items;
-    clear();
-    for (const Texte& item : montre_) {
-      auto* ligne = new QListWidgetItem(VersQt(item), this);
-      ligne->setToolTip(ligne->text().toHtmlEscaped());
-    }
-  }
-
   Element& element_;
-  std::vector<Texte> montre_;
+  Items items_;
   bool ecrit_ = false;  // the program writes: no user's act
 };
 
@@ -74,7 +93,7 @@ class ListeElement : public ElementQt {
 // The field of an edit field with list: the vertical arrows go through the list below.
 class ChampDeListe : public QLineEdit {
  public:
-  ChampDeListe(QWidget* parent, QListWidget* liste) : QLineEdit(parent), liste_(liste) {}
+  ChampDeListe(QWidget* parent, ListeQt* liste) : QLineEdit(parent), liste_(liste) {}
 
  protected:
   void keyPressEvent(QKeyEvent* evenement) override {
@@ -83,13 +102,13 @@ class ChampDeListe : public QLineEdit {
       return;
     }
     const int pas = evenement->key() == Qt::Key_Down ? 1 : -1;
-    const QModelIndexList choix = liste_->selectionModel()->selectedRows();
-    const int ligne = choix.isEmpty() ? 0 : choix.first().row() + pas;
-    if (ligne >= 0 && ligne < liste_->count()) liste_->setCurrentRow(ligne);
+    const int ici = liste_->Position();
+    const int ligne = ici < 0 ? 0 : ici + pas;
+    if (ligne >= 0 && ligne < liste_->model()->rowCount()) liste_->Choisit(ligne);
   }
 
  private:
-  QListWidget* liste_;
+  ListeQt* liste_;
 };
 
 class ChampListeElement : public ElementQt {

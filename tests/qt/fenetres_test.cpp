@@ -5,9 +5,10 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
-#include <QListWidget>
+#include <QListView>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include "joueur.h"
 #include "qt/editeur_case.h"
@@ -84,16 +85,37 @@ TEST(Fenetres, SauveQuitteEtRouvreParLaLigneDeCommande) {
   EXPECT_EXIT(SauveEtQuitte(fichier), testing::ExitedWithCode(0), "");
   JoueurQt j;
   j.Quand("FRMParties", [&](QWidget& boite) {
-    auto* liste = boite.findChild<QListWidget*>("LstLoad");
-    ASSERT_EQ(liste->count(), 2);
-    EXPECT_EQ(liste->item(1)->text(), QStringLiteral("Essai"));
-    const QPoint essai = liste->visualItemRect(liste->item(1)).center();
+    auto* liste = boite.findChild<QListView*>("LstLoad");
+    ASSERT_EQ(liste->model()->rowCount(), 2);
+    const QModelIndex ligne = liste->model()->index(1, 0);
+    EXPECT_EQ(ligne.data().toString(), QStringLiteral("Essai"));
+    const QPoint essai = liste->visualRect(ligne).center();
     QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, essai);
     QTest::mouseDClick(liste->viewport(), Qt::LeftButton, {}, essai);
   });
   j.Demarre(fichier);
   EXPECT_TRUE(j.ToutEstVenu());
   EXPECT_EQ(j.Grille(), "12.43.1.2..3.3..");
+  EXPECT_TRUE(std::filesystem::remove(fichier));
+}
+
+// So many that a window which is slower than in proportion to them isn't there in time for this test.
+TEST(Fenetres, UneBibliothequeTresLongueSOuvre) {
+  constexpr int kParties = 500'000;
+  const std::string fichier = FichierDEssai("longue");
+  std::string octets = "5\r\n 0\r\n";
+  for (int n = 1; n <= kParties; ++n) octets += "g-50\r\n";
+  EcritOctets(fichier, octets + '\0');
+  JoueurQt j;
+  j.Quand("FRMParties", [&](QWidget& boite) {
+    EXPECT_EQ(boite.findChild<QListView*>("LstLoad")->model()->rowCount(), kParties + 1);
+    j.Touche(Qt::Key_Down);
+    j.Touche(Qt::Key_Down);
+    j.Touche(Qt::Key_Return);
+  });
+  j.Demarre(fichier);
+  EXPECT_TRUE(j.ToutEstVenu());
+  EXPECT_EQ(j.Grille(), "5");
   EXPECT_TRUE(std::filesystem::remove(fichier));
 }
 

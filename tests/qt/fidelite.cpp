@@ -4,7 +4,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -22,11 +22,12 @@ T* Fils(FenetreQt& ecran, const std::string& nom) {
   return ecran.findChild<T*>(QString::fromStdString(nom));
 }
 
-bool ListeFidele(const QListWidget* liste, const Element& e) {
-  if (liste == nullptr || liste->count() != static_cast<int>(e.items.size())) return false;
-  for (int n = 0; n < liste->count(); ++n) {
-    if (liste->item(n)->text() != VersQt(e.items[static_cast<std::size_t>(n)])) return false;
-    if (liste->item(n)->isSelected() != (n == e.ListIndex)) return false;
+bool ListeFidele(const QListView* liste, const Element& e) {
+  if (liste == nullptr || liste->model()->rowCount() != static_cast<int>(e.items.size())) return false;
+  for (int n = 0; n < liste->model()->rowCount(); ++n) {
+    const QModelIndex ligne = liste->model()->index(n, 0);
+    if (ligne.data().toString() != VersQt(e.items[static_cast<std::size_t>(n)])) return false;
+    if (liste->selectionModel()->isSelected(ligne) != (n == e.ListIndex)) return false;
   }
   return true;
 }
@@ -52,9 +53,9 @@ bool ContenuFidele(FenetreQt& ecran, const Element& e) {
     case Genre::kBouton:
       return Fils<QPushButton>(ecran, e.Name)->text() == caption;
     case Genre::kListe:
-      return ListeFidele(Fils<QListWidget>(ecran, e.Name), e);
+      return ListeFidele(Fils<QListView>(ecran, e.Name), e);
     case Genre::kChampListe:
-      return ListeFidele(Fils<QListWidget>(ecran, e.Name + ".liste"), e) &&
+      return ListeFidele(Fils<QListView>(ecran, e.Name + ".liste"), e) &&
              Fils<QLineEdit>(ecran, e.Name + ".champ")->text() == texte;
     default:
       return true;

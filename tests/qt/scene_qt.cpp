@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
-#include <QListWidget>
+#include <QListView>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -185,12 +185,12 @@ void SceneQt::Relache(Fenetre& fenetre, Element& bouton, bool souris) {
 }
 
 void SceneQt::Selectionne(Fenetre& fenetre, Element& liste, int position) {
-  auto* ecran = dynamic_cast<QListWidget*>(Trouve(fenetre, liste.Name));
-  if (ecran == nullptr) ecran = &dynamic_cast<QListWidget&>(*Trouve(fenetre, liste.Name + ".liste"));
+  auto* ecran = dynamic_cast<QListView*>(Trouve(fenetre, liste.Name));
+  if (ecran == nullptr) ecran = &dynamic_cast<QListView&>(*Trouve(fenetre, liste.Name + ".liste"));
   if (position < 0) return ecran->clearSelection();
-  ecran->scrollToItem(ecran->item(position));
-  QTest::mouseClick(ecran->viewport(), Qt::LeftButton, {},
-                    ecran->visualItemRect(ecran->item(position)).center());
+  const QModelIndex ligne = ecran->model()->index(position, 0);
+  ecran->scrollTo(ligne);
+  QTest::mouseClick(ecran->viewport(), Qt::LeftButton, {}, ecran->visualRect(ligne).center());
 }
 
 void SceneQt::Edite(Fenetre& fenetre, Element& champ, TexteVue texte) {
@@ -201,9 +201,9 @@ void SceneQt::Edite(Fenetre& fenetre, Element& champ, TexteVue texte) {
 
 // A real double click would select what is under the mouse first, and the session selects nothing.
 void SceneQt::DoubleClique(Fenetre& fenetre, Element& liste) {
-  auto* ecran = dynamic_cast<QListWidget*>(Trouve(fenetre, liste.Name));
+  auto* ecran = dynamic_cast<QListView*>(Trouve(fenetre, liste.Name));
   if (ecran != nullptr) {
-    emit ecran->itemDoubleClicked(nullptr);
+    emit ecran->doubleClicked({});
   } else {
     ExecuteCommande([&] { liste.DoubleClique(); });
   }
