@@ -38,7 +38,7 @@ void BoutonTenu::mousePressEvent(QMouseEvent* evenement) {
 
 void BoutonTenu::mouseReleaseEvent(QMouseEvent* evenement) {
   evenement->accept();
-  if (tenu_ != Tenu::kSouris || evenement->buttons() != Qt::NoButton) return;
+  if (tenu_ == Tenu::kNon || evenement->buttons() != Qt::NoButton) return;
   Fin();
   if (rect().contains(evenement->position().toPoint())) emit clicked();
 }
@@ -54,7 +54,7 @@ void BoutonTenu::keyPressEvent(QKeyEvent* evenement) {
 void BoutonTenu::keyReleaseEvent(QKeyEvent* evenement) {
   if (CodeTouche(*evenement) != kToucheEspace) {
     QPushButton::keyReleaseEvent(evenement);
-  } else if (!evenement->isAutoRepeat() && tenu_ == Tenu::kClavier) {
+  } else if (!evenement->isAutoRepeat() && tenu_ != Tenu::kNon) {
     Fin();
     emit clicked();
   }

@@ -8,7 +8,8 @@
 namespace sudoku {
 
 // A button that listens to being held, with any mouse button or the space bar. What begins ends exactly once:
-// at the release, or when the button loses the focus, its window is deactivated, or it is hidden.
+// at the first release of either, or when the button loses the focus, its window is deactivated, or it is
+// hidden.
 class BoutonTenu : public QPushButton {
  public:
   BoutonTenu(Element& element, Pilote& pilote, QWidget* parent);

@@ -167,6 +167,10 @@ TEST(Fenetres, LApercuTientAussiLongtempsQueLeBouton) {
   EXPECT_EQ(j.Grille(), solution) << "a held key repeats its release";
   QTest::keyRelease(bouton, Qt::Key_Space);
   EXPECT_EQ(j.Grille(), avant);
+  QTest::keyPress(bouton, Qt::Key_Space);
+  QTest::mouseClick(bouton, Qt::LeftButton);
+  EXPECT_EQ(j.Grille(), avant) << "held with one and let go with the other";
+  QTest::keyRelease(bouton, Qt::Key_Space);
 
   QTest::mousePress(bouton, Qt::LeftButton);
   EXPECT_EQ(j.Grille(), solution);
