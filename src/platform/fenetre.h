@@ -26,13 +26,20 @@ struct Menu {
   std::vector<ArticleMenu> articles;
 };
 
-// A timer: Timer fires every Interval milliseconds while Enabled, between events only: while any handler or
-// box is on the stack, ticks wait.
+// A timer: Timer fires every Interval milliseconds while Enabled, never sooner, between events only: while
+// any handler or box is on the stack, ticks wait.
 struct Minuterie {
   std::string Name;
   int Interval = 1000;
   bool Enabled = false;
   std::function<void()> Timer = {};
+
+  // Enables it, with a whole Interval before the first tick also where it runs already.
+  void Demarre() {
+    Enabled = true;
+    ++departs;
+  }
+  int departs = 0;
 };
 
 // Why a window is to be unloaded.

@@ -51,7 +51,7 @@ void GameFlow::StartChrono() {
   if (frm_.LAssistant().LaFenetre().Visible) return;
   jeu.VmDebut = frm_.LeSysteme().Maintenant();
   frm_.LblChrono().Visible = true;
-  frm_.Tmr().Enabled = true;
+  frm_.Tmr().Demarre();
 }
 
 void GameFlow::Tmr_Timer() {

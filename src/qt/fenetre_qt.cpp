@@ -95,10 +95,12 @@ void FenetreQt::FabriqueMenus() {
 
 void FenetreQt::FabriqueMinuteries() {
   for (Minuterie& minuterie : fenetre_.minuteries) {
-    tics_.push_back({&minuterie, std::make_unique<QTimer>()});
-    tics_.back().horloge->setInterval(minuterie.Interval);
-    const std::size_t n = tics_.size() - 1;
-    connect(tics_.back().horloge.get(), &QTimer::timeout, this, [this, n] { Sonne(n); });
+    auto* horloge = new QTimer(this);
+    horloge->setObjectName(QString::fromStdString(minuterie.Name));
+    horloge->setTimerType(Qt::PreciseTimer);  // any other comes up to a twentieth too early
+    const std::size_t n = tics_.size();
+    connect(horloge, &QTimer::timeout, this, [this, n] { Sonne(tics_[n]); });
+    tics_.push_back({&minuterie, horloge});
   }
 }
 
@@ -113,17 +115,24 @@ void FenetreQt::OrdreDeTabulation() {
 
 // ---- timers
 
-void FenetreQt::Sonne(std::size_t n) {
-  Tic& tic = tics_[n];
-  if (!tic.minuterie->Enabled) return;
+void FenetreQt::Sonne(Tic& tic) {
   tic.attend = pilote_.Occupe();
   if (!tic.attend && tic.minuterie->Timer) pilote_.Execute(tic.minuterie->Timer);
 }
 
 void FenetreQt::RattrapeTics() {
-  for (std::size_t n = 0; n < tics_.size(); ++n) {
-    if (tics_[n].attend) Sonne(n);
+  for (Tic& tic : tics_) {
+    if (tic.attend) Sonne(tic);
   }
+}
+
+// A tick that waits goes with the clock that is stopped or started over.
+void FenetreQt::Suit(Tic& tic) {
+  const Minuterie& minuterie = *tic.minuterie;
+  if (tic.horloge->isActive() == minuterie.Enabled && tic.departs == minuterie.departs) return;
+  tic.departs = minuterie.departs;
+  tic.attend = false;
+  minuterie.Enabled ? tic.horloge->start(minuterie.Interval) : tic.horloge->stop();
 }
 
 // ---- what the record holds
@@ -139,10 +148,7 @@ void FenetreQt::Synchronise() {
   for (const Article& a : articles_) {
     if (a.action->isEnabled() != a.article->Enabled) a.action->setEnabled(a.article->Enabled);
   }
-  for (Tic& tic : tics_) {
-    if (tic.horloge->isActive() == tic.minuterie->Enabled) continue;
-    tic.minuterie->Enabled ? tic.horloge->start() : tic.horloge->stop();
-  }
+  for (Tic& tic : tics_) Suit(tic);
   if (plateau_ != nullptr) plateau_->Synchronise();
   SuitPile();
   if (isHidden() == fenetre_.Visible) setVisible(fenetre_.Visible);

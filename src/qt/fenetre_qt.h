@@ -54,8 +54,9 @@ class FenetreQt : public QWidget {
  private:
   struct Tic {
     Minuterie* minuterie;
-    std::unique_ptr<QTimer> horloge;
-    bool attend = false;
+    QTimer* horloge;
+    int departs = 0;      // of which it runs
+    bool attend = false;  // a tick came while a handler ran
   };
   struct Article {
     ArticleMenu* article;
@@ -66,7 +67,8 @@ class FenetreQt : public QWidget {
   void FabriqueMenus();
   void FabriqueMinuteries();
   void OrdreDeTabulation();
-  void Sonne(std::size_t n);
+  void Sonne(Tic& tic);
+  static void Suit(Tic& tic);
 
   void SuitPile();
   void Dispose();

@@ -221,6 +221,17 @@ TEST(Fenetres, LesTicsAttendentPendantUneBoite) {
   const int apres = tics;
   Attends([&] { return tics > apres; }, "the clock goes on");
   EXPECT_EQ(j.Jeu().Jeu().VgEtat, kJeu) << "Escape is no";
+  int arretee = 0;
+  j.Quand("question", [&](QWidget&) {
+    QTest::qWait(20);
+    arretee = tics;
+    j.Jeu().Tmr().Interval = 86'400'000;
+    j.Touche(Qt::Key_O, Qt::AltModifier);
+  });
+  j.Menu(Qt::Key_J, Qt::Key_R);
+  EXPECT_EQ(tics, arretee) << "a tick that waited belongs to the clock that was started before";
+  EXPECT_EQ(j.Fenetre().findChild<QTimer*>("Tmr")->timerType(), Qt::PreciseTimer)
+      << "any other comes up to a twentieth too early";
 }
 
 }  // namespace
