@@ -3,7 +3,7 @@
 #include <charconv>
 #include <optional>
 
-#include "play/frm_sudoku.h"
+#include "play/window_shell.h"
 
 namespace sudoku {
 namespace {
@@ -156,9 +156,9 @@ FRMNRVAbout::FRMNRVAbout(Systeme& systeme, Fenetre& proprietaire)
 }
 
 void AboutCommand::MnuAbout_Click() {
-  AlwaysOnTop(frm_.LaFenetre(), false);
-  FRMNRVAbout(frm_.LeSysteme(), frm_.LaFenetre()).Montre();
-  AlwaysOnTop(frm_.LaFenetre(), true);
+  AlwaysOnTop(principale_, false);
+  FRMNRVAbout(systeme_, principale_).Montre();
+  AlwaysOnTop(principale_, true);
 }
 
 }  // namespace sudoku

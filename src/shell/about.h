@@ -8,8 +8,6 @@
 
 namespace sudoku {
 
-class FRMSudoku;
-
 // Reads the value SubKeyRef of the registry key KeyName under KeyRoot into KeyVal: a text as it is, a 32-bit
 // number as decimal text; a value of another type leaves KeyVal alone. False, and KeyVal empty, where there
 // is no such value or it can't be taken.
@@ -37,11 +35,12 @@ class FRMNRVAbout {
 // The about box, as the main window sees it.
 class AboutCommand : public APropos {
  public:
-  explicit AboutCommand(FRMSudoku& frm) : frm_(frm) {}
+  AboutCommand(Systeme& systeme, Fenetre& principale) : systeme_(systeme), principale_(principale) {}
   void MnuAbout_Click() override;
 
  private:
-  FRMSudoku& frm_;
+  Systeme& systeme_;
+  Fenetre& principale_;
 };
 
 }  // namespace sudoku

@@ -7,7 +7,7 @@ Programme::Programme(Systeme& systeme)
       assistant_(principale_),
       dialogue_(systeme),
       stockage_(principale_, dialogue_),
-      aPropos_(principale_) {
+      aPropos_(systeme, principale_.LaFenetre()) {
   principale_.Relie(assistant_, stockage_, aPropos_);
   systeme.Ajoute(principale_.LaFenetre());
   systeme.Ajoute(assistant_.LaFenetre());

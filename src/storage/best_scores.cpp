@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "play/frm_sudoku.h"
 #include "storage/temps.h"
 
 namespace sudoku {
@@ -28,23 +27,22 @@ std::vector<TypScore> AvecScore(const std::vector<TypScore>& VgScores, TypScore 
 }
 
 void BestScores::SetScores() {
-  GameState& jeu = frm_.Jeu();
-  const double temps = Jours(jeu.VmFin - jeu.VmDebut);
-  if (!HorsClassement(jeu.VgScores, temps)) {
-    const Texte nom = frm_.LeSysteme().Saisie(U"Veuillez saisir votre nom", U"Meilleur score !", {});
-    jeu.VgScores = AvecScore(jeu.VgScores, {nom, temps});
+  const double temps = Jours(jeu_.VmFin - jeu_.VmDebut);
+  if (!HorsClassement(jeu_.VgScores, temps)) {
+    const Texte nom = systeme_.Saisie(U"Veuillez saisir votre nom", U"Meilleur score !", {});
+    jeu_.VgScores = AvecScore(jeu_.VgScores, {nom, temps});
   }
   ShowScores();
 }
 
 void BestScores::ShowScores() {
-  const auto& VgScores = frm_.Jeu().VgScores;
+  const auto& VgScores = jeu_.VgScores;
   Texte texte;
   for (std::size_t i = 1; i < VgScores.size(); ++i) {
     texte += Decimal(static_cast<std::int64_t>(i)) + U" - " + VgScores[i].Nom + U" - " +
              TempsEnTexte(VgScores[i].Temps) + U"\r\n";
   }
-  frm_.LeSysteme().Message(texte, U"Meilleurs scores");
+  systeme_.Message(texte, U"Meilleurs scores");
 }
 
 }  // namespace sudoku

@@ -3,10 +3,9 @@
 #include <vector>
 
 #include "grid/game_state.h"
+#include "platform/systeme.h"
 
 namespace sudoku {
-
-class FRMSudoku;
 
 // A new time would not enter the table of the ten best: it is full, and its last time is no longer.
 bool HorsClassement(const std::vector<TypScore>& VgScores, double temps);
@@ -16,7 +15,7 @@ std::vector<TypScore> AvecScore(const std::vector<TypScore>& VgScores, TypScore 
 // The ten best times on the grid. They reach the disk with the next save.
 class BestScores {
  public:
-  explicit BestScores(FRMSudoku& frm) : frm_(frm) {}
+  BestScores(GameState& jeu, Systeme& systeme) : jeu_(jeu), systeme_(systeme) {}
 
   // Enters the time VmFin - VmDebut if it is good enough, under a name that it asks for; then shows the
   // table. The name may be empty.
@@ -24,7 +23,8 @@ class BestScores {
   void ShowScores();
 
  private:
-  FRMSudoku& frm_;
+  GameState& jeu_;
+  Systeme& systeme_;
 };
 
 }  // namespace sudoku

@@ -3,7 +3,6 @@
 #include <limits>
 
 #include "platform/rapport.h"
-#include "play/frm_sudoku.h"
 
 namespace sudoku {
 namespace {
@@ -60,8 +59,12 @@ std::int16_t NumeroDePartie(std::size_t numero) {
 
 }  // namespace
 
-FRMParties::FRMParties(FRMSudoku& frm)
-    : frm_(frm), fenetre_(Table(frm.LaFenetre())), LstLoad_(Trouve("LstLoad")), LstSave_(Trouve("LstSave")) {
+FRMParties::FRMParties(GameState& jeu, Systeme& systeme, Fenetre& proprietaire)
+    : jeu_(jeu),
+      systeme_(systeme),
+      fenetre_(Table(proprietaire)),
+      LstLoad_(Trouve("LstLoad")),
+      LstSave_(Trouve("LstSave")) {
   Trouve("BtOK").Click = [this] { Valide(); };
   LstLoad_.DblClick = [this] { Valide(); };
   Trouve("BtDel").Click = [this] { DelPartie(); };
@@ -69,47 +72,46 @@ FRMParties::FRMParties(FRMSudoku& frm)
 
 void FRMParties::Montre() {
   Init();
-  frm_.LeSysteme().MontreModale(fenetre_);
+  systeme_.MontreModale(fenetre_);
 }
 
 bool FRMParties::Charge() const {
-  return frm_.Jeu().VgEtat == kChargePartie;
+  return jeu_.VgEtat == kChargePartie;
 }
 
 void FRMParties::Init() {
   LstLoad_.Clear();
   LstSave_.Clear();
   LstLoad_.AddItem(U"(Grille vierge)");
-  const auto& VgParties = frm_.Jeu().VgParties;
+  const auto& VgParties = jeu_.VgParties;
   for (std::size_t i = 1; i < VgParties.size(); ++i) {
     LstLoad_.AddItem(VgParties[i].Nom);
     LstSave_.AddItem(VgParties[i].Nom);
   }
   LstLoad_.Visible = Charge();
-  LstSave_.Visible = frm_.Jeu().VgEtat == kSauvePartie;
+  LstSave_.Visible = jeu_.VgEtat == kSauvePartie;
 }
 
 void FRMParties::Valide() {
-  Rapport(frm_.LeSysteme(), U"FRMParties.Valide", [this] {
+  Rapport(systeme_, U"FRMParties.Valide", [this] {
     const int position = Charge() ? LstLoad_.ListIndex : LstSave_.ListIndex;
     if (!Charge()) {
       SauveSous(position);
     } else if (position < 0) {
-      frm_.Jeu().VmPartie = -1;
+      jeu_.VmPartie = -1;
     } else {
-      frm_.Jeu().VmPartie = NumeroDePartie(static_cast<std::size_t>(position));
+      jeu_.VmPartie = NumeroDePartie(static_cast<std::size_t>(position));
     }
     fenetre_.Ferme();
   });
 }
 
 void FRMParties::SauveSous(int position) {
-  GameState& jeu = frm_.Jeu();
   if (position >= 0) {
-    jeu.VmPartie = NumeroDePartie(static_cast<std::size_t>(position) + 1);
+    jeu_.VmPartie = NumeroDePartie(static_cast<std::size_t>(position) + 1);
   } else {
-    jeu.VmPartie = NumeroDePartie(jeu.VgParties.size());
-    jeu.VgParties.push_back({.Nom = LstSave_.Text, .Grille = {}});
+    jeu_.VmPartie = NumeroDePartie(jeu_.VgParties.size());
+    jeu_.VgParties.push_back({.Nom = LstSave_.Text, .Grille = {}});
   }
 }
 
@@ -117,12 +119,11 @@ void FRMParties::DelPartie() {
   const Element& liste = Charge() ? LstLoad_ : LstSave_;
   const int n = Charge() ? liste.ListIndex : liste.ListIndex + 1;
   if (n <= 0) {
-    frm_.LeSysteme().Message(U"Grille invalide, suppression impossible");
+    systeme_.Message(U"Grille invalide, suppression impossible");
     return;
   }
-  if (!frm_.LeSysteme().Question(U"Etes-vous sûr de vouloir supprimer la partie " + liste.Text + U" ?"))
-    return;
-  auto& VgParties = frm_.Jeu().VgParties;
+  if (!systeme_.Question(U"Etes-vous sûr de vouloir supprimer la partie " + liste.Text + U" ?")) return;
+  auto& VgParties = jeu_.VgParties;
   VgParties.erase(VgParties.begin() + n);
   Init();
 }

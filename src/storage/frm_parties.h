@@ -1,17 +1,16 @@
 #pragma once
 
-#include "platform/fenetre.h"
+#include "grid/game_state.h"
+#include "platform/systeme.h"
 
 namespace sudoku {
-
-class FRMSudoku;
 
 // The library window. The mode tells it what is wanted: in kSauvePartie the user names a new game or picks
 // the one to replace, in kChargePartie the one to load. Its answer is VmPartie, and a new entry in VgParties.
 // It can't be cancelled. Made for one showing.
 class FRMParties {
  public:
-  explicit FRMParties(FRMSudoku& frm);
+  FRMParties(GameState& jeu, Systeme& systeme, Fenetre& proprietaire);
   FRMParties(const FRMParties&) = delete;
   FRMParties& operator=(const FRMParties&) = delete;
 
@@ -31,7 +30,8 @@ class FRMParties {
   void DelPartie();
   void SauveSous(int position);
 
-  FRMSudoku& frm_;
+  GameState& jeu_;
+  Systeme& systeme_;
   Fenetre fenetre_;
   Element& LstLoad_;
   Element& LstSave_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "play/frm_sudoku.h"
 #include "play/voisins.h"
 #include "storage/best_scores.h"
 #include "storage/game_file.h"
@@ -11,7 +12,7 @@ namespace sudoku {
 class GameStorage : public Stockage {
  public:
   GameStorage(FRMSudoku& frm, DialogueFichier& dialogue)
-      : bibliotheque_(frm), scores_(frm), fichier_(frm, bibliotheque_, dialogue) {}
+      : bibliotheque_(frm), scores_(frm.Jeu(), frm.LeSysteme()), fichier_(frm, bibliotheque_, dialogue) {}
   GameStorage(const GameStorage&) = delete;
   GameStorage& operator=(const GameStorage&) = delete;
 

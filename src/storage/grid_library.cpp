@@ -13,7 +13,7 @@ void GridLibrary::ShowParties(Mode mode) {
   GameState& jeu = frm_.Jeu();
   const auto avant = std::exchange(jeu.VgEtat, mode);
   AlwaysOnTop(frm_.LaFenetre(), false);
-  FRMParties(frm_).Montre();
+  FRMParties(jeu, frm_.LeSysteme(), frm_.LaFenetre()).Montre();
   AlwaysOnTop(frm_.LaFenetre(), true);
   jeu.VgEtat = avant;
 }
