@@ -27,7 +27,8 @@ BoardDisplay::BoardDisplay(GameState& jeu, Fenetre& fenetre, Systeme& systeme)
       fenetre_(fenetre),
       systeme_(systeme),
       LblInfos_(*fenetre.Trouve("LblInfos")),
-      LblChrono_(*fenetre.Trouve("LblChrono")) {}
+      LblChrono_(*fenetre.Trouve("LblChrono")),
+      menus_(fenetre) {}
 
 void BoardDisplay::Affiche(Assistant& assistant) {
   const Grille& VlGrille = jeu_.VgSilence ? jeu_.VmGrilleEtat : jeu_.VmGrille;

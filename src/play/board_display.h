@@ -3,11 +3,13 @@
 #include "grid/game_state.h"
 #include "platform/systeme.h"
 #include "play/voisins.h"
+#include "play/window_shell.h"
 
 namespace sudoku {
 
-// Writes the game into the view: the board from the cell records, the title line from file and library. The
-// engine never comes here, and nothing is read back from the view.
+// Writes the game into the main window: the board from the cell records, the title line from file and
+// library, which commands of the menu are enabled. The engine never comes here, and nothing is read back from
+// the view.
 class BoardDisplay {
  public:
   BoardDisplay(GameState& jeu, Fenetre& fenetre, Systeme& systeme);
@@ -20,6 +22,8 @@ class BoardDisplay {
 
   // The title line. A file name too short to lose an extension is reported and leaves the line as it was.
   void SetInfos();
+
+  void SetMenus(Assistant& assistant) { menus_.SetMenus(jeu_, assistant.LaFenetre().Visible); }
 
   // Lays out boxes and frames for VmGrille and sizes window and labels. The clock line is shown.
   void MetEnPlace();
@@ -42,6 +46,7 @@ class BoardDisplay {
   Systeme& systeme_;
   Element& LblInfos_;
   Element& LblChrono_;
+  MenusDuJeu menus_;
 };
 
 }  // namespace sudoku

@@ -13,7 +13,6 @@ FRMSudoku::FRMSudoku(Systeme& systeme)
       LblChrono_(*fenetre_.Trouve("LblChrono")),
       moteur_(jeu_),
       pilote_(jeu_, moteur_, *this),
-      menus_(fenetre_),
       affichage_(jeu_, fenetre_, systeme),
       saisie_(*this),
       deroulement_(*this),

@@ -51,7 +51,7 @@ class FRMSudoku : private PlateauAuto, private PlateauVierge {
   void StartChrono() { deroulement_.StartChrono(); }
   void Affiche() override;
   void SetInfos() override;
-  void SetMenus() { menus_.SetMenus(jeu_, assistant_->LaFenetre().Visible); }
+  void SetMenus() { affichage_.SetMenus(*assistant_); }
   void OuvreFichier(TexteVue chemin) { commandes_.OuvreFichier(chemin); }
   void Deplacement(int KeyCode) { saisie_.Deplacement(KeyCode); }
 
@@ -74,7 +74,6 @@ class FRMSudoku : private PlateauAuto, private PlateauVierge {
   Element& LblChrono_;
   Evaluateur moteur_;
   AutoDriver pilote_;
-  MenusDuJeu menus_;
   BoardDisplay affichage_;
   CellInput saisie_;
   GameFlow deroulement_;
