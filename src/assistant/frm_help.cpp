@@ -85,8 +85,8 @@ std::vector<Element> Elements() {
 
 }  // namespace
 
-FRMHelp::FRMHelp(FRMSudoku& frm)
-    : frm_(frm),
+FRMHelp::FRMHelp(Plateau& plateau)
+    : plateau_(plateau),
       fenetre_({.Name = "FRMHelp",
                 .Caption = U"Assistant Sudoku",
                 .Width = 4335,
@@ -102,25 +102,37 @@ FRMHelp::FRMHelp(FRMSudoku& frm)
       FrmCase_(Trouve("FrmCase")),
       TxtListPoss_(Trouve("TxtListPoss")),
       TxtRep_(Trouve("TxtRep")),
-      TxtTips_(Trouve("TxtTips")) {
-  Branche();
-}
+      TxtTips_(Trouve("TxtTips")) {}
 
-void FRMHelp::Branche() {
+void FRMHelp::Branche(GameState& jeu, AutoDriver& pilote, BoardDisplay& affichage) {
   for (Element* option :
        {&ChkLightSur_, &ChkLightPoss_, &ChkForeBlue_, &ChkForeRed_, &ChkListPoss_, &ChkRep_, &ChkTips_}) {
-    option->Click = [this] { frm_.Affiche(); };
+    option->Click = [&affichage] { affichage.Affiche(); };
   }
+  const auto debutApercu = [&jeu, &pilote] {
+    jeu.VgSilence = true;
+    pilote.JeuAuto(false, false);
+  };
+  const auto finApercu = [&jeu, &affichage] {
+    jeu.VgSilence = false;
+    affichage.Affiche();
+  };
   Element& BtViewSolution = Trouve("BtViewSolution");
-  BtViewSolution.MouseDown = [this] { DebutApercu(); };
-  BtViewSolution.MouseUp = [this] { FinApercu(); };
-  BtViewSolution.KeyDown = [this](int KeyCode) {
-    if (KeyCode == kEspace) DebutApercu();
+  BtViewSolution.MouseDown = debutApercu;
+  BtViewSolution.MouseUp = finApercu;
+  BtViewSolution.KeyDown = [debutApercu](int KeyCode) {
+    if (KeyCode == kEspace) debutApercu();
   };
-  BtViewSolution.KeyUp = [this](int KeyCode) {
-    if (KeyCode == kEspace) FinApercu();
+  BtViewSolution.KeyUp = [finApercu](int KeyCode) {
+    if (KeyCode == kEspace) finApercu();
   };
-  fenetre_.QueryUnload = [this](int UnloadMode) { return Form_QueryUnload(UnloadMode); };
+  fenetre_.QueryUnload = [this, &affichage](int UnloadMode) {
+    if (UnloadMode != kFermeParUtilisateur) return false;
+    fenetre_.Visible = false;
+    affichage.Affiche();
+    affichage.SetMenus();
+    return true;
+  };
 }
 
 void FRMHelp::Infos(const Grille& VpGrille, int VpPos, bool VpInit) {
@@ -143,27 +155,8 @@ void FRMHelp::Infos(const Grille& VpGrille, int VpPos, bool VpInit) {
 
 // Exchanges the colours of the box: puts the highlight there, or takes it away.
 void FRMHelp::Surligne() {
-  Plateau& plateau = frm_.LaFenetre().plateau;
-  const CaseTexte& boite = plateau.TxtCase(VmPos);
-  plateau.Couleurs(VmPos, boite.ForeColor, boite.BackColor);
-}
-
-void FRMHelp::DebutApercu() {
-  frm_.Jeu().VgSilence = true;
-  frm_.JeuAuto(false, false);
-}
-
-void FRMHelp::FinApercu() {
-  frm_.Jeu().VgSilence = false;
-  frm_.Affiche();
-}
-
-bool FRMHelp::Form_QueryUnload(int UnloadMode) {
-  if (UnloadMode != kFermeParUtilisateur) return false;
-  fenetre_.Visible = false;
-  frm_.Affiche();
-  frm_.SetMenus();
-  return true;
+  const CaseTexte& boite = plateau_.TxtCase(VmPos);
+  plateau_.Couleurs(VmPos, boite.ForeColor, boite.BackColor);
 }
 
 }  // namespace sudoku

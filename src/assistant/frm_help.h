@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/fenetre.h"
-#include "play/frm_sudoku.h"
+#include "play/board_display.h"
 #include "play/voisins.h"
+#include "solver/auto_driver.h"
 
 namespace sudoku {
 
@@ -10,9 +10,12 @@ namespace sudoku {
 // its button is held. It changes no cell. Closing only hides it, so its boxes keep their state for the run.
 class FRMHelp : public Assistant {
  public:
-  explicit FRMHelp(FRMSudoku& frm);
+  explicit FRMHelp(Plateau& plateau);
   FRMHelp(const FRMHelp&) = delete;
   FRMHelp& operator=(const FRMHelp&) = delete;
+
+  // What its options, its button and its closing do; once, before the window is shown.
+  void Branche(GameState& jeu, AutoDriver& pilote, BoardDisplay& affichage);
 
   Fenetre& LaFenetre() override { return fenetre_; }
   bool ChkLightSur() const override { return ChkLightSur_.Value != 0; }
@@ -24,13 +27,9 @@ class FRMHelp : public Assistant {
 
  private:
   Element& Trouve(const char* nom) { return *fenetre_.Trouve(nom); }
-  void Branche();
   void Surligne();
-  void DebutApercu();
-  void FinApercu();
-  bool Form_QueryUnload(int UnloadMode);
 
-  FRMSudoku& frm_;
+  Plateau& plateau_;
   Fenetre fenetre_;
   Element& ChkLightSur_;
   Element& ChkLightPoss_;

@@ -21,30 +21,31 @@ TexteVue NomSansExtension(TexteVue chemin) {
 
 }  // namespace
 
-BoardDisplay::BoardDisplay(GameState& jeu, Fenetre& fenetre, Systeme& systeme)
+BoardDisplay::BoardDisplay(GameState& jeu, Fenetre& fenetre, Systeme& systeme, Assistant& assistant)
     : jeu_(jeu),
       plateau_(fenetre.plateau),
       fenetre_(fenetre),
       systeme_(systeme),
+      assistant_(assistant),
       LblInfos_(*fenetre.Trouve("LblInfos")),
       LblChrono_(*fenetre.Trouve("LblChrono")),
       menus_(fenetre) {}
 
-void BoardDisplay::Affiche(Assistant& assistant) {
+void BoardDisplay::Affiche() {
   const Grille& VlGrille = jeu_.VgSilence ? jeu_.VmGrilleEtat : jeu_.VmGrille;
   const std::int32_t VlEtat = jeu_.VgEtat;
-  const bool visible = assistant.LaFenetre().Visible;
+  const bool visible = assistant_.LaFenetre().Visible;
   jeu_.VgEtat = kAffichage;
   if (VlGrille.Borne() > 0) {
-    const Marques marques = visible ? Marques{assistant.ChkLightSur(), assistant.ChkLightPoss(),
-                                              assistant.ChkForeBlue(), assistant.ChkForeRed()}
+    const Marques marques = visible ? Marques{assistant_.ChkLightSur(), assistant_.ChkLightPoss(),
+                                              assistant_.ChkForeBlue(), assistant_.ChkForeRed()}
                                     : Marques{};
     AfficheCases(VlGrille, VlEtat == kSaisieGrille, marques);
     plateau_.Reecrit();
   }
   jeu_.VgEtat = VlEtat;
   const int VmCase = jeu_.VmCase;
-  if (visible && VmCase != 0 && VmCase <= VlGrille.Borne()) assistant.Infos(VlGrille, VmCase, true);
+  if (visible && VmCase != 0 && VmCase <= VlGrille.Borne()) assistant_.Infos(VlGrille, VmCase, true);
 }
 
 // Runs after every keystroke over every cell: a cell that shows what it should costs a few comparisons.
@@ -113,6 +114,7 @@ void BoardDisplay::MetEnPlace() {
   LblChrono_.Width = fenetre_.Width - 150;
   LblInfos_.Width = fenetre_.Width - 150;
   LblChrono_.Visible = true;
+  assistant_.OubliePosition();
 }
 
 }  // namespace sudoku

@@ -6,22 +6,23 @@
 
 namespace sudoku {
 
-FRMSudoku::FRMSudoku(Systeme& systeme)
+FRMSudoku::FRMSudoku(Systeme& systeme, GameState& jeu, Fenetre& fenetre, Assistant& assistant)
     : systeme_(systeme),
-      fenetre_(TableFRMSudoku()),
+      jeu_(jeu),
+      fenetre_(fenetre),
+      assistant_(assistant),
       Tmr_(*fenetre_.TrouveMinuterie("Tmr")),
       LblChrono_(*fenetre_.Trouve("LblChrono")),
       moteur_(jeu_),
-      pilote_(jeu_, moteur_, *this),
-      affichage_(jeu_, fenetre_, systeme),
+      affichage_(jeu_, fenetre_, systeme, assistant),
+      pilote_(jeu_, moteur_, affichage_),
       saisie_(*this),
       deroulement_(*this),
       commandes_(*this) {
   jeu_.Message = [this](TexteVue texte) { systeme_.Message(texte); };
 }
 
-void FRMSudoku::Relie(Assistant& assistant, Stockage& stockage, APropos& aPropos) {
-  assistant_ = &assistant;
+void FRMSudoku::Relie(Stockage& stockage, APropos& aPropos) {
   stockage_ = &stockage;
   aPropos_ = &aPropos;
   BrancheMenus();
@@ -70,16 +71,8 @@ bool FRMSudoku::JeuVierge(Texte& VpValeurs) {
   return sudoku::JeuVierge(jeu_, *this, VpValeurs);
 }
 
-void FRMSudoku::Affiche() {
-  affichage_.Affiche(*assistant_);
-}
-
 void FRMSudoku::SetInfos() {
   affichage_.SetInfos();
-}
-
-void FRMSudoku::Message(TexteVue texte) {
-  systeme_.Message(texte);
 }
 
 Texte FRMSudoku::DemandeSymboles() {
@@ -88,7 +81,6 @@ Texte FRMSudoku::DemandeSymboles() {
 
 void FRMSudoku::MetEnPlace() {
   affichage_.MetEnPlace();
-  assistant_->OubliePosition();
 }
 
 void FRMSudoku::Evalue() {

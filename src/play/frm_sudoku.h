@@ -19,14 +19,14 @@ namespace sudoku {
 // The main window: owner of the game state, of the engine and of the board, and the place where the parts of
 // play meet. Storage, assistant and about box reach the game through it. It stays where it was made: its
 // parts hold references to it.
-class FRMSudoku : private PlateauAuto, private PlateauVierge {
+class FRMSudoku : private PlateauVierge {
  public:
-  explicit FRMSudoku(Systeme& systeme);
+  FRMSudoku(Systeme& systeme, GameState& jeu, Fenetre& fenetre, Assistant& assistant);
   FRMSudoku(const FRMSudoku&) = delete;
   FRMSudoku& operator=(const FRMSudoku&) = delete;
 
   // Names the neighbours; before Form_Load.
-  void Relie(Assistant& assistant, Stockage& stockage, APropos& aPropos);
+  void Relie(Stockage& stockage, APropos& aPropos);
 
   // The start of the program: mode 0, menus, window above the others; then loads the file that the command
   // line names, if it isn't empty.
@@ -37,7 +37,9 @@ class FRMSudoku : private PlateauAuto, private PlateauVierge {
   Fenetre& LaFenetre() { return fenetre_; }
   Systeme& LeSysteme() { return systeme_; }
   Evaluateur& Moteur() { return moteur_; }
-  Assistant& LAssistant() { return *assistant_; }
+  AutoDriver& Pilote() { return pilote_; }
+  BoardDisplay& Affichage() { return affichage_; }
+  Assistant& LAssistant() { return assistant_; }
   Stockage& LeStockage() { return *stockage_; }
   // Elements that several parts write.
   Minuterie& Tmr() { return Tmr_; }
@@ -49,14 +51,13 @@ class FRMSudoku : private PlateauAuto, private PlateauVierge {
   void JeuStart() { deroulement_.JeuStart(); }
   void JeuReinit(bool VpValide) { deroulement_.JeuReinit(VpValide); }
   void StartChrono() { deroulement_.StartChrono(); }
-  void Affiche() override;
+  void Affiche() { affichage_.Affiche(); }
   void SetInfos() override;
-  void SetMenus() { affichage_.SetMenus(*assistant_); }
+  void SetMenus() { affichage_.SetMenus(); }
   void OuvreFichier(TexteVue chemin) { commandes_.OuvreFichier(chemin); }
   void Deplacement(int KeyCode) { saisie_.Deplacement(KeyCode); }
 
  private:
-  void Message(TexteVue texte) override;
   Texte DemandeSymboles() override;
   void MetEnPlace() override;
   void Evalue() override;
@@ -64,17 +65,17 @@ class FRMSudoku : private PlateauAuto, private PlateauVierge {
   void BrancheEvenements();
 
   Systeme& systeme_;
-  Assistant* assistant_ = nullptr;
+  GameState& jeu_;
+  Fenetre& fenetre_;
+  Assistant& assistant_;
   Stockage* stockage_ = nullptr;
   APropos* aPropos_ = nullptr;
 
-  GameState jeu_;
-  Fenetre fenetre_;
   Minuterie& Tmr_;
   Element& LblChrono_;
   Evaluateur moteur_;
-  AutoDriver pilote_;
   BoardDisplay affichage_;
+  AutoDriver pilote_;
   CellInput saisie_;
   GameFlow deroulement_;
   Commands commandes_;

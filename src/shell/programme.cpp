@@ -3,12 +3,14 @@
 namespace sudoku {
 
 Programme::Programme(Systeme& systeme)
-    : principale_(systeme),
-      assistant_(principale_),
+    : fenetre_(TableFRMSudoku()),
+      assistant_(fenetre_.plateau),
+      principale_(systeme, jeu_, fenetre_, assistant_),
       dialogue_(systeme),
       stockage_(principale_, dialogue_),
       aPropos_(systeme, principale_.LaFenetre()) {
-  principale_.Relie(assistant_, stockage_, aPropos_);
+  assistant_.Branche(jeu_, principale_.Pilote(), principale_.Affichage());
+  principale_.Relie(stockage_, aPropos_);
   systeme.Ajoute(principale_.LaFenetre());
   systeme.Ajoute(assistant_.LaFenetre());
 }

@@ -23,8 +23,10 @@ class Programme {
   FRMSudoku& Principale() { return principale_; }
 
  private:
-  FRMSudoku principale_;
+  GameState jeu_;
+  Fenetre fenetre_;
   FRMHelp assistant_;
+  FRMSudoku principale_;
   ComDlg dialogue_;
   GameStorage stockage_;
   AboutCommand aPropos_;
