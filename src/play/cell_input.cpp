@@ -25,9 +25,7 @@ void CellInput::ChangeCase(int Index) {
 void CellInput::FinDuJeu() {
   GameState& jeu = frm_.Jeu();
   jeu.VgEtat = kTermine;
-  if (frm_.Tmr().Enabled) {
-    jeu.VmFin = frm_.LeSysteme().Maintenant();
-    frm_.Tmr().Enabled = false;
+  if (frm_.LeChrono().Arrete()) {
     frm_.LeStockage().SetScores();
   } else {
     frm_.LeSysteme().Message(U"Jeu terminé !");

@@ -18,7 +18,7 @@ void Commands::MnuInit_Click() {
   Texte VlValeurs;
   frm_.JeuVierge(VlValeurs);
   frm_.SetMenus();
-  frm_.StartChrono();
+  frm_.LeChrono().StartChrono();
 }
 
 void Commands::MnuStart_Click() {
@@ -59,8 +59,7 @@ void Commands::Resout(bool VpGuess) {
     return;
   }
   frm_.LaFenetre().plateau.OublieSaisies();
-  frm_.Tmr().Enabled = false;
-  frm_.LblChrono().Caption = U"Chrono non applicable (solver utilisé)";
+  frm_.LeChrono().Annule();
   frm_.JeuAuto(false, VpGuess);
   frm_.SetMenus();
 }

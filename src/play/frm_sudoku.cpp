@@ -11,11 +11,10 @@ FRMSudoku::FRMSudoku(Systeme& systeme, GameState& jeu, Fenetre& fenetre, Assista
       jeu_(jeu),
       fenetre_(fenetre),
       assistant_(assistant),
-      Tmr_(*fenetre_.TrouveMinuterie("Tmr")),
-      LblChrono_(*fenetre_.Trouve("LblChrono")),
       moteur_(jeu_),
       affichage_(jeu_, fenetre_, systeme, assistant),
       pilote_(jeu_, moteur_, affichage_),
+      chrono_(jeu_, systeme, fenetre_, assistant),
       saisie_(*this),
       deroulement_(*this),
       commandes_(*this) {
@@ -54,7 +53,7 @@ void FRMSudoku::BrancheEvenements() {
   fenetre_.plateau.Change = [this](int Index) { saisie_.ChangeCase(Index); };
   fenetre_.plateau.GotFocus = [this](int Index) { saisie_.TxtCase_GotFocus(Index); };
   fenetre_.conforts = ConfortsDuJeu(*this);
-  Tmr_.Timer = [this] { deroulement_.Tmr_Timer(); };
+  fenetre_.TrouveMinuterie("Tmr")->Timer = [this] { chrono_.Tmr_Timer(); };
 }
 
 void FRMSudoku::Form_Load(TexteVue ligneDeCommande) {

@@ -8,6 +8,7 @@
 #include "platform/systeme.h"
 #include "play/board_display.h"
 #include "play/cell_input.h"
+#include "play/chrono.h"
 #include "play/commands.h"
 #include "play/game_flow.h"
 #include "play/voisins.h"
@@ -41,16 +42,13 @@ class FRMSudoku : private PlateauVierge {
   BoardDisplay& Affichage() { return affichage_; }
   Assistant& LAssistant() { return assistant_; }
   Stockage& LeStockage() { return *stockage_; }
-  // Elements that several parts write.
-  Minuterie& Tmr() { return Tmr_; }
-  Element& LblChrono() { return LblChrono_; }
+  Chrono& LeChrono() { return chrono_; }
 
   // As sudoku::JeuVierge, on this board. False: no grid was made.
   bool JeuVierge(Texte& VpValeurs);
   void JeuAuto(bool VpReset, bool VpGuess) { pilote_.JeuAuto(VpReset, VpGuess); }
   void JeuStart() { deroulement_.JeuStart(); }
   void JeuReinit(bool VpValide) { deroulement_.JeuReinit(VpValide); }
-  void StartChrono() { deroulement_.StartChrono(); }
   void Affiche() { affichage_.Affiche(); }
   void SetInfos() override;
   void SetMenus() { affichage_.SetMenus(); }
@@ -71,11 +69,10 @@ class FRMSudoku : private PlateauVierge {
   Stockage* stockage_ = nullptr;
   APropos* aPropos_ = nullptr;
 
-  Minuterie& Tmr_;
-  Element& LblChrono_;
   Evaluateur moteur_;
   BoardDisplay affichage_;
   AutoDriver pilote_;
+  Chrono chrono_;
   CellInput saisie_;
   GameFlow deroulement_;
   Commands commandes_;

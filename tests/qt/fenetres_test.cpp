@@ -204,8 +204,8 @@ TEST(Fenetres, LaBoiteAProposSeFermeParEchappement) {
 TEST(Fenetres, LesTicsAttendentPendantUneBoite) {
   JoueurQt j;
   int tics = 0;
-  j.Jeu().Tmr().Interval = 1;
-  j.Jeu().Tmr().Timer = [&] { ++tics; };
+  j.Jeu().LaFenetre().TrouveMinuterie("Tmr")->Interval = 1;
+  j.Jeu().LaFenetre().TrouveMinuterie("Tmr")->Timer = [&] { ++tics; };
   j.Demarre();
   j.NouvelleGrille(QStringLiteral("1234"));
   j.Menu(Qt::Key_J, Qt::Key_D);

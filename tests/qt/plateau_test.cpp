@@ -293,7 +293,7 @@ TEST_F(UnPlateau, UnLecteurDEcranEntendChaqueCase) {
   // The clock changes every second, and says nothing.
   j.Menu(Qt::Key_J, Qt::Key_D);
   LecteurDEcran::Oublie();
-  j.LeSysteme().Execute([&] { j.Jeu().Tmr().Timer(); });
+  j.LeSysteme().Execute([&] { j.Jeu().LaFenetre().TrouveMinuterie("Tmr")->Timer(); });
   EXPECT_EQ(lecteur.Entendu(false).join(u'\n').toStdString(), "");
   const auto* horloge = QAccessible::queryAccessibleInterface(j.Fenetre().findChild<QWidget*>("LblChrono"));
   EXPECT_EQ(horloge->text(QAccessible::Name), QStringLiteral("00:00:00"));
