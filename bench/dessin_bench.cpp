@@ -54,7 +54,7 @@ void Dessin(benchmark::State& state, int N) {
   FRMSudoku& frm = programme.Principale();
   Texte symboles = Symboles(N);
   systeme.Execute([&] {
-    frm.JeuVierge(symboles);
+    frm.Deroulement().JeuVierge(symboles);
     frm.LaFenetre().plateau.SetFocus(1);
   });
   Plateau& plateau = frm.LaFenetre().plateau;

@@ -21,7 +21,7 @@ void Mesure(benchmark::State& state, int N) {
   programme.Demarre(U"");
   FRMSudoku& frm = programme.Principale();
   Texte symboles = SymbolesPour(N);
-  frm.JeuVierge(symboles);
+  frm.Deroulement().JeuVierge(symboles);
   GameState& jeu = frm.Jeu();
   Charge(PlateauDeuxPasses(N), jeu.VmGrille);
   jeu.VgEtat = kJeu;

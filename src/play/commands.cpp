@@ -14,24 +14,21 @@ bool Commands::Abandonne(TexteVue question) {
 }
 
 void Commands::MnuInit_Click() {
-  if (!Abandonne(kAbandonner)) return;
-  Texte VlValeurs;
-  frm_.JeuVierge(VlValeurs);
-  frm_.SetMenus();
-  frm_.LeChrono().StartChrono();
+  if (Abandonne(kAbandonner)) frm_.Deroulement().NouvelleGrille();
 }
 
 void Commands::MnuStart_Click() {
-  frm_.JeuStart();
+  frm_.Deroulement().JeuStart();
 }
 
 void Commands::MnuRestart_Click() {
-  if (frm_.LeSysteme().Question(U"Etes-vous certain de vouloir recommencer ?")) frm_.JeuReinit(false);
+  if (frm_.LeSysteme().Question(U"Etes-vous certain de vouloir recommencer ?"))
+    frm_.Deroulement().JeuReinit(false);
 }
 
 void Commands::MnuReinit_Click() {
   if (frm_.LeSysteme().Question(U"Etes-vous certain de vouloir revenir aux seules cases certaines ?")) {
-    frm_.JeuReinit(true);
+    frm_.Deroulement().JeuReinit(true);
   }
 }
 
@@ -54,14 +51,10 @@ void Commands::MnuSolveur2_Click() {
 }
 
 void Commands::Resout(bool VpGuess) {
-  if (!frm_.LeSysteme().Question(
+  if (frm_.LeSysteme().Question(
           U"La résolution entrainera la fin de la partie. Souhaitez-vous poursuivre ?")) {
-    return;
+    frm_.Deroulement().Resout(VpGuess);
   }
-  frm_.LaFenetre().plateau.OublieSaisies();
-  frm_.LeChrono().Annule();
-  frm_.JeuAuto(false, VpGuess);
-  frm_.SetMenus();
 }
 
 void Commands::OuvreFichier(TexteVue chemin) {

@@ -15,8 +15,8 @@ FRMSudoku::FRMSudoku(Systeme& systeme, GameState& jeu, Fenetre& fenetre, Assista
       affichage_(jeu_, fenetre_, systeme, assistant),
       pilote_(jeu_, moteur_, affichage_),
       chrono_(jeu_, systeme, fenetre_, assistant),
+      deroulement_(jeu_, systeme, fenetre_.plateau, moteur_, pilote_, affichage_, chrono_),
       saisie_(*this),
-      deroulement_(*this),
       commandes_(*this) {
   jeu_.Message = [this](TexteVue texte) { systeme_.Message(texte); };
 }
@@ -64,26 +64,6 @@ void FRMSudoku::Form_Load(TexteVue ligneDeCommande) {
   AlwaysOnTop(fenetre_, true);
   systeme_.DoEvents();
   if (!ligneDeCommande.empty()) stockage_->JeuLoad(Texte(ligneDeCommande));
-}
-
-bool FRMSudoku::JeuVierge(Texte& VpValeurs) {
-  return sudoku::JeuVierge(jeu_, *this, VpValeurs);
-}
-
-void FRMSudoku::SetInfos() {
-  affichage_.SetInfos();
-}
-
-Texte FRMSudoku::DemandeSymboles() {
-  return systeme_.Saisie(U"Valeurs possibles ?", U"Nouvelle grille", U"123456789");
-}
-
-void FRMSudoku::MetEnPlace() {
-  affichage_.MetEnPlace();
-}
-
-void FRMSudoku::Evalue() {
-  moteur_.Evaluation(jeu_.VmGrille, 1);
 }
 
 }  // namespace sudoku

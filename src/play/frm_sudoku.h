@@ -4,7 +4,6 @@
 
 #include "engine/evaluation.h"
 #include "grid/game_state.h"
-#include "grid/jeu_vierge.h"
 #include "platform/systeme.h"
 #include "play/board_display.h"
 #include "play/cell_input.h"
@@ -20,7 +19,7 @@ namespace sudoku {
 // The main window: owner of the game state, of the engine and of the board, and the place where the parts of
 // play meet. Storage, assistant and about box reach the game through it. It stays where it was made: its
 // parts hold references to it.
-class FRMSudoku : private PlateauVierge {
+class FRMSudoku {
  public:
   FRMSudoku(Systeme& systeme, GameState& jeu, Fenetre& fenetre, Assistant& assistant);
   FRMSudoku(const FRMSudoku&) = delete;
@@ -44,21 +43,13 @@ class FRMSudoku : private PlateauVierge {
   Stockage& LeStockage() { return *stockage_; }
   Chrono& LeChrono() { return chrono_; }
 
-  // As sudoku::JeuVierge, on this board. False: no grid was made.
-  bool JeuVierge(Texte& VpValeurs);
-  void JeuAuto(bool VpReset, bool VpGuess) { pilote_.JeuAuto(VpReset, VpGuess); }
-  void JeuStart() { deroulement_.JeuStart(); }
-  void JeuReinit(bool VpValide) { deroulement_.JeuReinit(VpValide); }
+  GameFlow& Deroulement() { return deroulement_; }
   void Affiche() { affichage_.Affiche(); }
-  void SetInfos() override;
   void SetMenus() { affichage_.SetMenus(); }
   void OuvreFichier(TexteVue chemin) { commandes_.OuvreFichier(chemin); }
   void Deplacement(int KeyCode) { saisie_.Deplacement(KeyCode); }
 
  private:
-  Texte DemandeSymboles() override;
-  void MetEnPlace() override;
-  void Evalue() override;
   void BrancheMenus();
   void BrancheEvenements();
 
@@ -73,8 +64,8 @@ class FRMSudoku : private PlateauVierge {
   BoardDisplay affichage_;
   AutoDriver pilote_;
   Chrono chrono_;
-  CellInput saisie_;
   GameFlow deroulement_;
+  CellInput saisie_;
   Commands commandes_;
 };
 

@@ -1,31 +1,45 @@
 #include "play/game_flow.h"
 
-#include "play/frm_sudoku.h"
-
 namespace sudoku {
 
+Texte GameFlow::DemandeSymboles() {
+  return systeme_.Saisie(U"Valeurs possibles ?", U"Nouvelle grille", U"123456789");
+}
+
+void GameFlow::NouvelleGrille() {
+  Texte VlValeurs;
+  JeuVierge(VlValeurs);
+  affichage_.SetMenus();
+  chrono_.StartChrono();
+}
+
 void GameFlow::JeuStart() {
-  GameState& jeu = frm_.Jeu();
-  frm_.LaFenetre().plateau.OublieSaisies();
-  jeu.VgSilence = true;
-  frm_.JeuAuto(true, false);
-  jeu.VgSilence = false;
-  jeu.VgEtat = kJeu;
-  frm_.Moteur().Evaluation(jeu.VmGrille, 2);
-  frm_.Affiche();
-  frm_.SetMenus();
-  frm_.LeChrono().StartChrono();
+  plateau_.OublieSaisies();
+  jeu_.VgSilence = true;
+  pilote_.JeuAuto(true, false);
+  jeu_.VgSilence = false;
+  jeu_.VgEtat = kJeu;
+  moteur_.Evaluation(jeu_.VmGrille, 2);
+  affichage_.Affiche();
+  affichage_.SetMenus();
+  chrono_.StartChrono();
 }
 
 void GameFlow::JeuReinit(bool VpValide) {
-  GameState& jeu = frm_.Jeu();
-  for (int i = 1; i <= jeu.VmGrille.Borne(); ++i) {
-    ClsPos cellule = jeu.VmGrille(i);
+  for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
+    ClsPos cellule = jeu_.VmGrille(i);
     if (cellule.Etat() == kDonnee || (VpValide && cellule.Etat() == kProuvee)) continue;
     cellule.Valeur(U"");
   }
-  jeu.VmPartie = 0;
+  jeu_.VmPartie = 0;
   JeuStart();
-  frm_.SetInfos();
+  affichage_.SetInfos();
+}
+
+void GameFlow::Resout(bool VpGuess) {
+  plateau_.OublieSaisies();
+  chrono_.Annule();
+  pilote_.JeuAuto(false, VpGuess);
+  affichage_.SetMenus();
 }
 }  // namespace sudoku

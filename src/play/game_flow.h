@@ -1,21 +1,52 @@
 #pragma once
 
+#include "engine/evaluation.h"
+#include "grid/game_state.h"
+#include "grid/jeu_vierge.h"
+#include "platform/systeme.h"
+#include "play/board_display.h"
+#include "play/chrono.h"
+#include "solver/auto_driver.h"
+
 namespace sudoku {
 
-class FRMSudoku;
-
-// From the entry of the givens to play, and back to the start of a game.
-class GameFlow {
+// From an empty grid to play, back to the start of a game, and to its solution.
+class GameFlow : private PlateauVierge {
  public:
-  explicit GameFlow(FRMSudoku& frm) : frm_(frm) {}
+  GameFlow(GameState& jeu, Systeme& systeme, Plateau& plateau, Evaluateur& moteur, AutoDriver& pilote,
+           BoardDisplay& affichage, Chrono& chrono)
+      : jeu_(jeu),
+        systeme_(systeme),
+        plateau_(plateau),
+        moteur_(moteur),
+        pilote_(pilote),
+        affichage_(affichage),
+        chrono_(chrono) {}
 
+  // As sudoku::JeuVierge, on this board. False: no grid was made.
+  bool JeuVierge(Texte& VpValeurs) { return sudoku::JeuVierge(jeu_, *this, VpValeurs); }
+  // The user asks for a new grid.
+  void NouvelleGrille();
   // Begins play on the grid as it stands, whatever it holds: a silent solve, mode 2, board, menus, clock.
   void JeuStart();
   // Erases the player's entries, with VpValide True only those that no proof confirmed, and starts anew.
   void JeuReinit(bool VpValide);
+  // The solver plays to the end, VpGuess True with suppositions.
+  void Resout(bool VpGuess);
 
  private:
-  FRMSudoku& frm_;
+  Texte DemandeSymboles() override;
+  void MetEnPlace() override { affichage_.MetEnPlace(); }
+  void Evalue() override { moteur_.Evaluation(jeu_.VmGrille, 1); }
+  void SetInfos() override { affichage_.SetInfos(); }
+
+  GameState& jeu_;
+  Systeme& systeme_;
+  Plateau& plateau_;
+  Evaluateur& moteur_;
+  AutoDriver& pilote_;
+  BoardDisplay& affichage_;
+  Chrono& chrono_;
 };
 
 }  // namespace sudoku

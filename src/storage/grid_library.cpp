@@ -25,12 +25,12 @@ void GridLibrary::JeuLoadPartie(Texte VpPartie) {
     if (jeu.VgParties.size() > 1) ShowParties(kChargePartie);
     if (jeu.VmPartie > 0) VpPartie = jeu.VgParties[static_cast<std::size_t>(jeu.VmPartie)].Grille;
     if (VpPartie.empty()) return;
-    if (!frm_.JeuVierge(jeu.VmValeurs)) {
+    if (!frm_.Deroulement().JeuVierge(jeu.VmValeurs)) {
       jeu.VmValeurs = jeu.VmGrille.Symboles();
       return;
     }
     ChargeCases(jeu.VmGrille, VpPartie);
-    frm_.JeuStart();
+    frm_.Deroulement().JeuStart();
     frm_.SetInfos();
   });
 }
