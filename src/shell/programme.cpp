@@ -7,7 +7,7 @@ Programme::Programme(Systeme& systeme)
       assistant_(fenetre_.plateau),
       principale_(systeme, jeu_, fenetre_, assistant_),
       dialogue_(systeme),
-      stockage_(principale_, dialogue_),
+      stockage_(jeu_, systeme, fenetre_, principale_.Deroulement(), principale_.Affichage(), dialogue_),
       aPropos_(systeme, principale_.LaFenetre()) {
   assistant_.Branche(jeu_, principale_.Pilote(), principale_.Affichage());
   principale_.Relie(stockage_, aPropos_);

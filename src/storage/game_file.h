@@ -1,12 +1,12 @@
 #pragma once
 
-#include "grid/grille.h"
+#include "grid/game_state.h"
+#include "platform/systeme.h"
+#include "play/board_display.h"
 #include "storage/grid_library.h"
 #include "text/texte.h"
 
 namespace sudoku {
-
-class FRMSudoku;
 
 // The file dialog: gives a path, or nothing when the user cancels. The file need not exist.
 class DialogueFichier {
@@ -18,8 +18,13 @@ class DialogueFichier {
 // The game file: the only thing that outlives the program, and only on the user's command.
 class GameFile {
  public:
-  GameFile(FRMSudoku& frm, GridLibrary& bibliotheque, DialogueFichier& dialogue)
-      : frm_(frm), bibliotheque_(bibliotheque), dialogue_(dialogue) {}
+  GameFile(GameState& jeu, Systeme& systeme, BoardDisplay& affichage, GridLibrary& bibliotheque,
+           DialogueFichier& dialogue)
+      : jeu_(jeu),
+        systeme_(systeme),
+        affichage_(affichage),
+        bibliotheque_(bibliotheque),
+        dialogue_(dialogue) {}
 
   // Writes grid, library and scores to VmNom, which the user is asked for first where it is empty. A game in
   // progress goes into its library entry, which the user names at the first save. A failure is reported; what
@@ -41,7 +46,9 @@ class GameFile {
   // What the file at VmNom holds, into the game; gives its grid. Throws Erreur.
   Texte LitFichier();
 
-  FRMSudoku& frm_;
+  GameState& jeu_;
+  Systeme& systeme_;
+  BoardDisplay& affichage_;
   GridLibrary& bibliotheque_;
   DialogueFichier& dialogue_;
 };

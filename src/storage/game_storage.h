@@ -1,6 +1,5 @@
 #pragma once
 
-#include "play/frm_sudoku.h"
 #include "play/voisins.h"
 #include "storage/best_scores.h"
 #include "storage/game_file.h"
@@ -11,8 +10,11 @@ namespace sudoku {
 // All that is stored of a game, as the main window sees it.
 class GameStorage : public Stockage {
  public:
-  GameStorage(FRMSudoku& frm, DialogueFichier& dialogue)
-      : bibliotheque_(frm), scores_(frm.Jeu(), frm.LeSysteme()), fichier_(frm, bibliotheque_, dialogue) {}
+  GameStorage(GameState& jeu, Systeme& systeme, Fenetre& principale, GameFlow& deroulement,
+              BoardDisplay& affichage, DialogueFichier& dialogue)
+      : bibliotheque_(jeu, systeme, principale, deroulement, affichage),
+        scores_(jeu, systeme),
+        fichier_(jeu, systeme, affichage, bibliotheque_, dialogue) {}
   GameStorage(const GameStorage&) = delete;
   GameStorage& operator=(const GameStorage&) = delete;
 

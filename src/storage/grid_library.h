@@ -1,16 +1,23 @@
 #pragma once
 
 #include "grid/game_state.h"
+#include "platform/systeme.h"
+#include "play/board_display.h"
+#include "play/game_flow.h"
 #include "text/texte.h"
 
 namespace sudoku {
 
-class FRMSudoku;
-
 // The library of named games, which all stand on the grid of their file.
 class GridLibrary {
  public:
-  explicit GridLibrary(FRMSudoku& frm) : frm_(frm) {}
+  GridLibrary(GameState& jeu, Systeme& systeme, Fenetre& principale, GameFlow& deroulement,
+              BoardDisplay& affichage)
+      : jeu_(jeu),
+        systeme_(systeme),
+        principale_(principale),
+        deroulement_(deroulement),
+        affichage_(affichage) {}
 
   // Has the user choose a game, in mode kChargePartie, or name one, in kSauvePartie. Leaves the choice in
   // VmPartie; the mode is what it was.
@@ -25,7 +32,11 @@ class GridLibrary {
   void MnuPartie_Click();
 
  private:
-  FRMSudoku& frm_;
+  GameState& jeu_;
+  Systeme& systeme_;
+  Fenetre& principale_;
+  GameFlow& deroulement_;
+  BoardDisplay& affichage_;
 };
 
 }  // namespace sudoku
