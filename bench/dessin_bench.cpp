@@ -51,13 +51,12 @@ void Dessin(benchmark::State& state, int N) {
   SystemeQt systeme;
   Programme programme(systeme);
   systeme.Execute([&] { programme.Demarre(U""); });
-  FRMSudoku& frm = programme.Principale();
   Texte symboles = Symboles(N);
   systeme.Execute([&] {
-    frm.Deroulement().JeuVierge(symboles);
-    frm.LaFenetre().plateau.SetFocus(1);
+    programme.Deroulement().JeuVierge(symboles);
+    programme.Principale().plateau.SetFocus(1);
   });
-  Plateau& plateau = frm.LaFenetre().plateau;
+  Plateau& plateau = programme.Principale().plateau;
   plateau.Change = nullptr;
   const Texte un(1, symboles.front());
   const Texte autre(1, symboles.back());

@@ -19,18 +19,16 @@ void Mesure(benchmark::State& state, int N) {
   SystemeSansEcran systeme(sortie, fichiers, [] { return false; });
   Programme programme(systeme);
   programme.Demarre(U"");
-  FRMSudoku& frm = programme.Principale();
   Texte symboles = SymbolesPour(N);
-  frm.Deroulement().JeuVierge(symboles);
-  GameState& jeu = frm.Jeu();
+  programme.Deroulement().JeuVierge(symboles);
+  GameState& jeu = programme.Jeu();
   Charge(PlateauDeuxPasses(N), jeu.VmGrille);
   jeu.VgEtat = kJeu;
-  frm.Moteur().Evaluation(jeu.VmGrille, 2);
-  frm.Affiche();
+  Evaluateur(jeu).Evaluation(jeu.VmGrille, 2);
   int cellule = 1;
   while (jeu.VmGrille(cellule).Etat() != kPossible) ++cellule;
   const Texte saisie = jeu.VmGrille(cellule).ValeurSaisie();
-  Plateau& plateau = frm.LaFenetre().plateau;
+  Plateau& plateau = programme.Principale().plateau;
   for (auto _ : state) {
     plateau.Text(cellule, plateau.TxtCase(cellule).Text.empty() ? saisie : Texte());
     plateau.OublieChangees();

@@ -94,7 +94,7 @@ void Partie::VerifieFichier() {
 
 std::string Partie::Difference(Programme& relu) {
   const GameState& ici = Jeu();
-  const GameState& la = relu.Principale().Jeu();
+  const GameState& la = relu.Jeu();
   if (la.VmGrille.Symboles() != ici.VmGrille.Symboles()) return "symboles";
   const auto memePartie = [](const ClsPartie& a, const ClsPartie& b) {
     return a.Nom == b.Nom && a.Grille == b.Grille;

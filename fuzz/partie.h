@@ -47,7 +47,7 @@ class Partie : private std::streambuf {
   std::string Chaine();
   std::string Chemin();
   bool ResoutVite();
-  GameState& Jeu() { return session_.LeProgramme().Principale().Jeu(); }
+  GameState& Jeu() { return session_.LeProgramme().Jeu(); }
 
   Octets& octets_;
   FichiersMemoire& fichiers_;

@@ -41,13 +41,13 @@ class Joueur {
   void Demarre(const std::string& chemin) { programme_.Demarre(DepuisUtf8("\"" + chemin + "\"")); }
   // The user opens a game file: as Demarre, in a game that runs.
   void Charge(const std::string& chemin) {
-    programme_.Principale().LeStockage().JeuLoad(DepuisUtf8("\"" + chemin + "\""));
+    programme_.LeStockage().JeuLoad(DepuisUtf8("\"" + chemin + "\""));
   }
   // The user makes `texte` of the box of cell i.
-  void Tape(int i, TexteVue texte) { programme_.Principale().LaFenetre().plateau.Saisit(i, texte); }
-  void Clique(const char* article) { programme_.Principale().LaFenetre().TrouveArticle(article)->Click(); }
+  void Tape(int i, TexteVue texte) { programme_.Principale().plateau.Saisit(i, texte); }
+  void Clique(const char* article) { programme_.Principale().TrouveArticle(article)->Click(); }
   Programme& LeProgramme() { return programme_; }
-  GameState& Jeu() { return programme_.Principale().Jeu(); }
+  GameState& Jeu() { return programme_.Jeu(); }
   std::string Sortie() const { return sortie_.str(); }
   bool AVu(const std::string& texte) const { return Sortie().find(texte) != std::string::npos; }
 

@@ -1,7 +1,5 @@
 #include "play/cell_input.h"
 
-#include "play/frm_sudoku.h"
-
 namespace sudoku {
 namespace {
 
@@ -10,31 +8,29 @@ enum Touche : int { kGauche = 37, kHaut = 38, kDroite = 39, kBas = 40 };
 }  // namespace
 
 void CellInput::ChangeCase(int Index) {
-  GameState& jeu = frm_.Jeu();
-  if (jeu.VgEtat == kAffichage) return;
-  jeu.VmGrille(Index).Valeur(frm_.LaFenetre().plateau.TxtCase(Index).Text);
-  if (jeu.VgEtat == kSaisieGrille) {
-    frm_.Moteur().Evaluation(jeu.VmGrille, 1);
-  } else if (jeu.VgEtat == kJeu) {
-    if (frm_.Moteur().Evaluation(jeu.VmGrille, 2) == 0) FinDuJeu();
+  if (jeu_.VgEtat == kAffichage) return;
+  jeu_.VmGrille(Index).Valeur(plateau_.TxtCase(Index).Text);
+  if (jeu_.VgEtat == kSaisieGrille) {
+    moteur_.Evaluation(jeu_.VmGrille, 1);
+  } else if (jeu_.VgEtat == kJeu) {
+    if (moteur_.Evaluation(jeu_.VmGrille, 2) == 0) FinDuJeu();
   }
-  frm_.Affiche();
-  frm_.SetMenus();
+  affichage_.Affiche();
+  affichage_.SetMenus();
 }
 
 void CellInput::FinDuJeu() {
-  GameState& jeu = frm_.Jeu();
-  jeu.VgEtat = kTermine;
-  if (frm_.LeChrono().Arrete()) {
-    frm_.LeStockage().SetScores();
+  jeu_.VgEtat = kTermine;
+  if (chrono_.Arrete()) {
+    stockage_.SetScores();
   } else {
-    frm_.LeSysteme().Message(U"Jeu terminé !");
+    jeu_.Message(U"Jeu terminé !");
   }
 }
 
 void CellInput::Deplacement(int KeyCode) {
-  const int VmCase = frm_.Jeu().VmCase;
-  const int N = frm_.Jeu().VmTaille;
+  const int VmCase = jeu_.VmCase;
+  const int N = jeu_.VmTaille;
   if (VmCase == 0) return;
   int cible = 0;
   switch (KeyCode) {
@@ -53,17 +49,15 @@ void CellInput::Deplacement(int KeyCode) {
     default:
       return;
   }
-  if (cible >= 1 && cible <= N * N) frm_.LaFenetre().plateau.SetFocus(cible);
+  if (cible >= 1 && cible <= N * N) plateau_.SetFocus(cible);
 }
 
 void CellInput::TxtCase_GotFocus(int Index) {
-  GameState& jeu = frm_.Jeu();
-  Plateau& plateau = frm_.LaFenetre().plateau;
-  plateau.Appearance(jeu.VmCase, 0);
-  jeu.VmCase = static_cast<std::int16_t>(Index);
-  plateau.Appearance(Index, 1);
-  plateau.Selection(Index, 0, 1);
-  if (frm_.LAssistant().LaFenetre().Visible) frm_.LAssistant().Infos(jeu.VmGrille, Index, false);
+  plateau_.Appearance(jeu_.VmCase, 0);
+  jeu_.VmCase = static_cast<std::int16_t>(Index);
+  plateau_.Appearance(Index, 1);
+  plateau_.Selection(Index, 0, 1);
+  if (assistant_.LaFenetre().Visible) assistant_.Infos(jeu_.VmGrille, Index, false);
 }
 
 }  // namespace sudoku

@@ -1,13 +1,26 @@
 #pragma once
 
-namespace sudoku {
+#include "engine/evaluation.h"
+#include "grid/game_state.h"
+#include "platform/plateau.h"
+#include "play/board_display.h"
+#include "play/chrono.h"
+#include "play/voisins.h"
 
-class FRMSudoku;
+namespace sudoku {
 
 // What the user does on the board.
 class CellInput {
  public:
-  explicit CellInput(FRMSudoku& frm) : frm_(frm) {}
+  CellInput(GameState& jeu, Plateau& plateau, Evaluateur& moteur, BoardDisplay& affichage, Chrono& chrono,
+            Assistant& assistant, Stockage& stockage)
+      : jeu_(jeu),
+        plateau_(plateau),
+        moteur_(moteur),
+        affichage_(affichage),
+        chrono_(chrono),
+        assistant_(assistant),
+        stockage_(stockage) {}
 
   // The text of box Index has changed. One full cycle: the entry is judged, the grid evaluated, the board
   // redrawn, the commands enabled. The entry that completes the grid in play ends the game: mode 4, and the
@@ -21,7 +34,13 @@ class CellInput {
  private:
   void FinDuJeu();
 
-  FRMSudoku& frm_;
+  GameState& jeu_;
+  Plateau& plateau_;
+  Evaluateur& moteur_;
+  BoardDisplay& affichage_;
+  Chrono& chrono_;
+  Assistant& assistant_;
+  Stockage& stockage_;
 };
 
 }  // namespace sudoku

@@ -1,7 +1,5 @@
 #include "play/commands.h"
 
-#include "play/frm_sudoku.h"
-
 namespace sudoku {
 namespace {
 
@@ -10,36 +8,45 @@ constexpr TexteVue kAbandonner = U"Etes-vous certain de vouloir abandonner la gr
 }  // namespace
 
 bool Commands::Abandonne(TexteVue question) {
-  return frm_.Jeu().VgEtat == kSansGrille || frm_.LeSysteme().Question(question);
+  return jeu_.VgEtat == kSansGrille || systeme_.Question(question);
+}
+
+void Commands::Form_Load(TexteVue ligneDeCommande) {
+  jeu_.VgEtat = kSansGrille;
+  jeu_.VgParties.resize(1);
+  jeu_.VgScores.resize(1);
+  affichage_.SetMenus();
+  AlwaysOnTop(principale_, true);
+  systeme_.DoEvents();
+  if (!ligneDeCommande.empty()) stockage_.JeuLoad(Texte(ligneDeCommande));
 }
 
 void Commands::MnuInit_Click() {
-  if (Abandonne(kAbandonner)) frm_.Deroulement().NouvelleGrille();
+  if (Abandonne(kAbandonner)) deroulement_.NouvelleGrille();
 }
 
 void Commands::MnuStart_Click() {
-  frm_.Deroulement().JeuStart();
+  deroulement_.JeuStart();
 }
 
 void Commands::MnuRestart_Click() {
-  if (frm_.LeSysteme().Question(U"Etes-vous certain de vouloir recommencer ?"))
-    frm_.Deroulement().JeuReinit(false);
+  if (systeme_.Question(U"Etes-vous certain de vouloir recommencer ?")) deroulement_.JeuReinit(false);
 }
 
 void Commands::MnuReinit_Click() {
-  if (frm_.LeSysteme().Question(U"Etes-vous certain de vouloir revenir aux seules cases certaines ?")) {
-    frm_.Deroulement().JeuReinit(true);
+  if (systeme_.Question(U"Etes-vous certain de vouloir revenir aux seules cases certaines ?")) {
+    deroulement_.JeuReinit(true);
   }
 }
 
 void Commands::MnuQuit_Click() {
-  if (Abandonne(U"Etes-vous certain de vouloir quitter le jeu ?")) frm_.LeSysteme().Fin();
+  if (Abandonne(U"Etes-vous certain de vouloir quitter le jeu ?")) systeme_.Fin();
 }
 
 void Commands::MnuAssist_Click() {
-  AlwaysOnTop(frm_.LAssistant().LaFenetre(), true);
-  frm_.Affiche();
-  frm_.SetMenus();
+  AlwaysOnTop(assistant_.LaFenetre(), true);
+  affichage_.Affiche();
+  affichage_.SetMenus();
 }
 
 void Commands::MnuSolver_Click() {
@@ -51,18 +58,13 @@ void Commands::MnuSolveur2_Click() {
 }
 
 void Commands::Resout(bool VpGuess) {
-  if (frm_.LeSysteme().Question(
-          U"La résolution entrainera la fin de la partie. Souhaitez-vous poursuivre ?")) {
-    frm_.Deroulement().Resout(VpGuess);
+  if (systeme_.Question(U"La résolution entrainera la fin de la partie. Souhaitez-vous poursuivre ?")) {
+    deroulement_.Resout(VpGuess);
   }
 }
 
 void Commands::OuvreFichier(TexteVue chemin) {
-  if (Abandonne(kAbandonner)) frm_.LeStockage().JeuLoad(U"\"" + Texte(chemin) + U"\"");
-}
-
-void Commands::Form_KeyDown(int KeyCode) {
-  frm_.Deplacement(KeyCode);
+  if (Abandonne(kAbandonner)) stockage_.JeuLoad(U"\"" + Texte(chemin) + U"\"");
 }
 
 bool Commands::Form_QueryUnload(int) {

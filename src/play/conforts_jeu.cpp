@@ -1,7 +1,6 @@
 #include "play/conforts_jeu.h"
 
 #include "grid/grille_texte.h"
-#include "play/frm_sudoku.h"
 
 namespace sudoku {
 namespace {
@@ -18,9 +17,9 @@ TexteVue SensDesCouleurs(const CaseTexte& boite) {
 }
 
 // A place is read aloud often, its parts from the one that changes most.
-Texte DecritCase(FRMSudoku& frm, int i) {
-  const ClsPos cellule = frm.Jeu().VmGrille(i);
-  const CaseTexte& boite = frm.LaFenetre().plateau.TxtCase(i);
+Texte DecritCase(const GameState& jeu, const Plateau& plateau, int i) {
+  const ClsPos cellule = jeu.VmGrille(i);
+  const CaseTexte& boite = plateau.TxtCase(i);
   return (boite.Text.empty() ? Texte(U"vide") : boite.Text) + Texte(SensDesCouleurs(boite)) + U", ligne " +
          Decimal(cellule.Ligne()) + U", colonne " + Decimal(cellule.Colonne()) + U", carré " +
          Decimal(cellule.Carre());
@@ -39,13 +38,13 @@ Texte EcritGrille(const Plateau& plateau) {
 
 }  // namespace
 
-Conforts ConfortsDuJeu(FRMSudoku& frm) {
+Conforts ConfortsDuJeu(const GameState& jeu, const Plateau& plateau, Commands& commandes) {
   return {
-      .Symboles = [&frm] { return frm.Jeu().VmGrille.Donnees().alphabet->Symboles(); },
-      .LitGrille = [&frm](TexteVue texte) { return LitGrille(frm.Jeu(), texte); },
-      .EcritGrille = [&frm] { return EcritGrille(frm.LaFenetre().plateau); },
-      .DecritCase = [&frm](int i) { return DecritCase(frm, i); },
-      .OuvreFichier = [&frm](TexteVue chemin) { frm.OuvreFichier(chemin); },
+      .Symboles = [&jeu] { return jeu.VmGrille.Donnees().alphabet->Symboles(); },
+      .LitGrille = [&jeu](TexteVue texte) { return LitGrille(jeu, texte); },
+      .EcritGrille = [&plateau] { return EcritGrille(plateau); },
+      .DecritCase = [&](int i) { return DecritCase(jeu, plateau, i); },
+      .OuvreFichier = [&commandes](TexteVue chemin) { commandes.OuvreFichier(chemin); },
   };
 }
 

@@ -1,69 +1,41 @@
 #include "play/frm_sudoku.h"
 
+#include <functional>
 #include <string_view>
-
-#include "play/conforts_jeu.h"
+#include <utility>
 
 namespace sudoku {
+namespace {
 
-FRMSudoku::FRMSudoku(Systeme& systeme, GameState& jeu, Fenetre& fenetre, Assistant& assistant)
-    : systeme_(systeme),
-      jeu_(jeu),
-      fenetre_(fenetre),
-      assistant_(assistant),
-      moteur_(jeu_),
-      affichage_(jeu_, fenetre_, systeme, assistant),
-      pilote_(jeu_, moteur_, affichage_),
-      chrono_(jeu_, systeme, fenetre_, assistant),
-      deroulement_(jeu_, systeme, fenetre_.plateau, moteur_, pilote_, affichage_, chrono_),
-      saisie_(*this),
-      commandes_(*this) {
-  jeu_.Message = [this](TexteVue texte) { systeme_.Message(texte); };
-}
-
-void FRMSudoku::Relie(Stockage& stockage, APropos& aPropos) {
-  stockage_ = &stockage;
-  aPropos_ = &aPropos;
-  BrancheMenus();
-  BrancheEvenements();
-}
-
-void FRMSudoku::BrancheMenus() {
-  const auto branche = [this](std::string_view nom, std::function<void()> handler) {
-    fenetre_.TrouveArticle(nom)->Click = std::move(handler);
+void BrancheMenus(Fenetre& fenetre, Commands& commandes, Stockage& stockage, APropos& aPropos) {
+  const auto branche = [&](std::string_view nom, std::function<void()> handler) {
+    fenetre.TrouveArticle(nom)->Click = std::move(handler);
   };
-  branche("MnuInit", [this] { commandes_.MnuInit_Click(); });
-  branche("MnuStart", [this] { commandes_.MnuStart_Click(); });
-  branche("MnuRestart", [this] { commandes_.MnuRestart_Click(); });
-  branche("MnuReinit", [this] { commandes_.MnuReinit_Click(); });
-  branche("MnuPartie", [this] { stockage_->MnuPartie_Click(); });
-  branche("MnuLoad", [this] { stockage_->MnuLoad_Click(); });
-  branche("MnuSave", [this] { stockage_->MnuSave_Click(); });
-  branche("MnuQuit", [this] { commandes_.MnuQuit_Click(); });
-  branche("MnuAbout", [this] { aPropos_->MnuAbout_Click(); });
-  branche("MnuAssist", [this] { commandes_.MnuAssist_Click(); });
-  branche("MnuSolver", [this] { commandes_.MnuSolver_Click(); });
-  branche("MnuSolveur2", [this] { commandes_.MnuSolveur2_Click(); });
-  branche("MnuScores", [this] { stockage_->MnuScores_Click(); });
+  branche("MnuInit", [&] { commandes.MnuInit_Click(); });
+  branche("MnuStart", [&] { commandes.MnuStart_Click(); });
+  branche("MnuRestart", [&] { commandes.MnuRestart_Click(); });
+  branche("MnuReinit", [&] { commandes.MnuReinit_Click(); });
+  branche("MnuPartie", [&] { stockage.MnuPartie_Click(); });
+  branche("MnuLoad", [&] { stockage.MnuLoad_Click(); });
+  branche("MnuSave", [&] { stockage.MnuSave_Click(); });
+  branche("MnuQuit", [&] { commandes.MnuQuit_Click(); });
+  branche("MnuAbout", [&] { aPropos.MnuAbout_Click(); });
+  branche("MnuAssist", [&] { commandes.MnuAssist_Click(); });
+  branche("MnuSolver", [&] { commandes.MnuSolver_Click(); });
+  branche("MnuSolveur2", [&] { commandes.MnuSolveur2_Click(); });
+  branche("MnuScores", [&] { stockage.MnuScores_Click(); });
 }
 
-void FRMSudoku::BrancheEvenements() {
-  fenetre_.KeyDown = [this](int KeyCode) { commandes_.Form_KeyDown(KeyCode); };
-  fenetre_.QueryUnload = [this](int UnloadMode) { return commandes_.Form_QueryUnload(UnloadMode); };
-  fenetre_.plateau.Change = [this](int Index) { saisie_.ChangeCase(Index); };
-  fenetre_.plateau.GotFocus = [this](int Index) { saisie_.TxtCase_GotFocus(Index); };
-  fenetre_.conforts = ConfortsDuJeu(*this);
-  fenetre_.TrouveMinuterie("Tmr")->Timer = [this] { chrono_.Tmr_Timer(); };
-}
+}  // namespace
 
-void FRMSudoku::Form_Load(TexteVue ligneDeCommande) {
-  jeu_.VgEtat = kSansGrille;
-  jeu_.VgParties.resize(1);
-  jeu_.VgScores.resize(1);
-  SetMenus();
-  AlwaysOnTop(fenetre_, true);
-  systeme_.DoEvents();
-  if (!ligneDeCommande.empty()) stockage_->JeuLoad(Texte(ligneDeCommande));
+void BrancheFRMSudoku(Fenetre& fenetre, Commands& commandes, CellInput& saisie, Chrono& chrono,
+                      Stockage& stockage, APropos& aPropos) {
+  BrancheMenus(fenetre, commandes, stockage, aPropos);
+  fenetre.KeyDown = [&](int KeyCode) { saisie.Deplacement(KeyCode); };
+  fenetre.QueryUnload = [&](int UnloadMode) { return commandes.Form_QueryUnload(UnloadMode); };
+  fenetre.plateau.Change = [&](int Index) { saisie.ChangeCase(Index); };
+  fenetre.plateau.GotFocus = [&](int Index) { saisie.TxtCase_GotFocus(Index); };
+  fenetre.TrouveMinuterie("Tmr")->Timer = [&] { chrono.Tmr_Timer(); };
 }
 
 }  // namespace sudoku

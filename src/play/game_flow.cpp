@@ -42,4 +42,5 @@ void GameFlow::Resout(bool VpGuess) {
   pilote_.JeuAuto(false, VpGuess);
   affichage_.SetMenus();
 }
+
 }  // namespace sudoku

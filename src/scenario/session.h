@@ -72,7 +72,7 @@ class Session {
   Refus CaseDuPlateau(const Mot& mot, int& Index);
   Cible Vise(TexteVue commande, TexteVue nom);
   Cible ViseListe(TexteVue commande, TexteVue nom);
-  Fenetre& Principale() { return programme_.Principale().LaFenetre(); }
+  Fenetre& Principale() { return programme_.Principale(); }
 
   std::istream& entree_;
   std::ostream& sortie_;

@@ -62,10 +62,7 @@ Texte Paire(TexteVue nom, std::int64_t valeur) {
 }
 
 SessionVue::SessionVue(Programme& programme, SystemeSansEcran& systeme, std::ostream& sortie)
-    : jeu_(programme.Principale().Jeu()),
-      principale_(programme.Principale().LaFenetre()),
-      systeme_(systeme),
-      sortie_(sortie) {}
+    : jeu_(programme.Jeu()), principale_(programme.Principale()), systeme_(systeme), sortie_(sortie) {}
 
 void SessionVue::Ligne(TexteVue ligne) {
   sortie_ << VersUtf8(ligne) << '\n';

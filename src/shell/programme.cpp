@@ -1,28 +1,36 @@
 #include "shell/programme.h"
 
+#include "play/conforts_jeu.h"
+#include "play/frm_sudoku.h"
+
 namespace sudoku {
 
 Programme::Programme(Systeme& systeme)
-    : fenetre_(TableFRMSudoku()),
-      assistant_(fenetre_.plateau),
-      principale_(systeme, jeu_, fenetre_, assistant_),
+    : systeme_(systeme),
+      principale_(TableFRMSudoku()),
+      assistant_(principale_.plateau),
+      moteur_(jeu_),
+      affichage_(jeu_, principale_, systeme, assistant_),
+      pilote_(jeu_, moteur_, affichage_),
+      chrono_(jeu_, systeme, principale_, assistant_),
+      deroulement_(jeu_, systeme, principale_.plateau, moteur_, pilote_, affichage_, chrono_),
       dialogue_(systeme),
-      stockage_(jeu_, systeme, fenetre_, principale_.Deroulement(), principale_.Affichage(), dialogue_),
-      aPropos_(systeme, principale_.LaFenetre()) {
-  assistant_.Branche(jeu_, principale_.Pilote(), principale_.Affichage());
-  principale_.Relie(stockage_, aPropos_);
-  systeme.Ajoute(principale_.LaFenetre());
+      stockage_(jeu_, systeme, principale_, deroulement_, affichage_, dialogue_),
+      aPropos_(systeme, principale_),
+      saisie_(jeu_, principale_.plateau, moteur_, affichage_, chrono_, assistant_, stockage_),
+      commandes_(jeu_, systeme, principale_, affichage_, deroulement_, assistant_, stockage_) {
+  jeu_.Message = [&systeme](TexteVue texte) { systeme.Message(texte); };
+  assistant_.Branche(jeu_, pilote_, affichage_);
+  BrancheFRMSudoku(principale_, commandes_, saisie_, chrono_, stockage_, aPropos_);
+  principale_.conforts = ConfortsDuJeu(jeu_, principale_.plateau, commandes_);
+  systeme.Ajoute(principale_);
   systeme.Ajoute(assistant_.LaFenetre());
 }
 
 Programme::~Programme() {
   // The main window owns the other, and goes last.
-  principale_.LeSysteme().Retire(assistant_.LaFenetre());
-  principale_.LeSysteme().Retire(principale_.LaFenetre());
-}
-
-void Programme::Demarre(TexteVue ligneDeCommande) {
-  principale_.Form_Load(ligneDeCommande);
+  systeme_.Retire(assistant_.LaFenetre());
+  systeme_.Retire(principale_);
 }
 
 }  // namespace sudoku

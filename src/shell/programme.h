@@ -1,15 +1,18 @@
 #pragma once
 
 #include "assistant/frm_help.h"
-#include "play/frm_sudoku.h"
+#include "play/cell_input.h"
+#include "play/chrono.h"
+#include "play/commands.h"
+#include "play/game_flow.h"
 #include "shell/about.h"
 #include "shell/com_dlg.h"
 #include "storage/game_storage.h"
 
 namespace sudoku {
 
-// The whole game on one window system: makes main window, assistant, storage and about box, and introduces
-// them to each other. It stays where it was made. The window system must outlive it.
+// The whole game on one window system: owns the game and makes its parts, each with what it may touch. It
+// stays where it was made. The window system must outlive it.
 class Programme {
  public:
   explicit Programme(Systeme& systeme);
@@ -18,18 +21,31 @@ class Programme {
   Programme& operator=(const Programme&) = delete;
 
   // The start, with the command line as the system passes it: a path in double quotes, or nothing.
-  void Demarre(TexteVue ligneDeCommande);
+  void Demarre(TexteVue ligneDeCommande) { commandes_.Form_Load(ligneDeCommande); }
 
-  FRMSudoku& Principale() { return principale_; }
+  GameState& Jeu() { return jeu_; }
+  const GameState& Jeu() const { return jeu_; }
+  Fenetre& Principale() { return principale_; }
+  const Fenetre& Principale() const { return principale_; }
+  Assistant& LAssistant() { return assistant_; }
+  GameFlow& Deroulement() { return deroulement_; }
+  Stockage& LeStockage() { return stockage_; }
 
  private:
+  Systeme& systeme_;
   GameState jeu_;
-  Fenetre fenetre_;
+  Fenetre principale_;
   FRMHelp assistant_;
-  FRMSudoku principale_;
+  Evaluateur moteur_;
+  BoardDisplay affichage_;
+  AutoDriver pilote_;
+  Chrono chrono_;
+  GameFlow deroulement_;
   ComDlg dialogue_;
   GameStorage stockage_;
   AboutCommand aPropos_;
+  CellInput saisie_;
+  Commands commandes_;
 };
 
 }  // namespace sudoku

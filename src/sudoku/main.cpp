@@ -37,8 +37,7 @@ int Capture(const char* image, const char* fichier) {
   sudoku::Programme programme(systeme);
   systeme.Execute([&] { programme.Demarre(LigneDeCommande(fichier)); });
   if (systeme.ADitQuelqueChose()) return 1;
-  if (DessineDansFichier(*systeme.FenetreDe(programme.Principale().LaFenetre()), QFile::decodeName(image)))
-    return 0;
+  if (DessineDansFichier(*systeme.FenetreDe(programme.Principale()), QFile::decodeName(image))) return 0;
   std::fprintf(stderr, "%s : Erreur d'accès au chemin/fichier\n", image);
   return 1;
 }

@@ -49,7 +49,7 @@ std::string Invariants::EtatRompu() const {
 std::string Invariants::BoiteRompue(const Grille& grille, int i) const {
   const CaseTexte& boite = LePlateau().TxtCase(i);
   const ClsPos cellule = grille(i);
-  Assistant& aide = programme_.Principale().LAssistant();
+  Assistant& aide = programme_.LAssistant();
   const bool vide = cellule.ValeurSaisie().empty();
   const bool donnee = !vide && cellule.Etat() == kDonnee;
   const bool visible = aide.LaFenetre().Visible;

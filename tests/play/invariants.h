@@ -21,8 +21,8 @@ class Invariants {
  private:
   std::string EtatRompu() const;
   std::string BoiteRompue(const Grille& grille, int i) const;
-  const GameState& Jeu() const { return programme_.Principale().Jeu(); }
-  const Plateau& LePlateau() const { return programme_.Principale().LaFenetre().plateau; }
+  const GameState& Jeu() const { return programme_.Jeu(); }
+  const Plateau& LePlateau() const { return programme_.Principale().plateau; }
 
   Programme& programme_;
   bool etatsDuJeu_;

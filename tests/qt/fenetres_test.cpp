@@ -204,8 +204,8 @@ TEST(Fenetres, LaBoiteAProposSeFermeParEchappement) {
 TEST(Fenetres, LesTicsAttendentPendantUneBoite) {
   JoueurQt j;
   int tics = 0;
-  j.Jeu().LaFenetre().TrouveMinuterie("Tmr")->Interval = 1;
-  j.Jeu().LaFenetre().TrouveMinuterie("Tmr")->Timer = [&] { ++tics; };
+  j.Tmr().Interval = 1;
+  j.Tmr().Timer = [&] { ++tics; };
   j.Demarre();
   j.NouvelleGrille(QStringLiteral("1234"));
   j.Menu(Qt::Key_J, Qt::Key_D);
@@ -220,12 +220,12 @@ TEST(Fenetres, LesTicsAttendentPendantUneBoite) {
   j.Menu(Qt::Key_J, Qt::Key_R);
   const int apres = tics;
   Attends([&] { return tics > apres; }, "the clock goes on");
-  EXPECT_EQ(j.Jeu().Jeu().VgEtat, kJeu) << "Escape is no";
+  EXPECT_EQ(j.Jeu().VgEtat, kJeu) << "Escape is no";
   int arretee = 0;
   j.Quand("question", [&](QWidget&) {
     QTest::qWait(20);
     arretee = tics;
-    j.Jeu().Tmr().Interval = 86'400'000;
+    j.Tmr().Interval = 86'400'000;
     j.Touche(Qt::Key_O, Qt::AltModifier);
   });
   j.Menu(Qt::Key_J, Qt::Key_R);

@@ -38,10 +38,11 @@ class JoueurQt {
   // A new grid of these symbols.
   void NouvelleGrille(const QString& symboles);
 
-  FRMSudoku& Jeu() { return programme_.Principale(); }
-  Plateau& LePlateau() { return Jeu().LaFenetre().plateau; }
-  FenetreQt& Fenetre() { return *systeme_.FenetreDe(Jeu().LaFenetre()); }
-  FenetreQt& Assistant() { return *systeme_.FenetreDe(Jeu().LAssistant().LaFenetre()); }
+  GameState& Jeu() { return programme_.Jeu(); }
+  Plateau& LePlateau() { return programme_.Principale().plateau; }
+  Minuterie& Tmr() { return *programme_.Principale().TrouveMinuterie("Tmr"); }
+  FenetreQt& Fenetre() { return *systeme_.FenetreDe(programme_.Principale()); }
+  FenetreQt& Assistant() { return *systeme_.FenetreDe(programme_.LAssistant().LaFenetre()); }
   PlateauQt& Ecran() { return *Fenetre().LePlateau(); }
   SystemeQt& LeSysteme() { return systeme_; }
   // The texts on the board, "." for an empty box.

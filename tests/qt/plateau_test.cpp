@@ -37,7 +37,7 @@ class UnPlateau : public testing::Test {
     j.NouvelleGrille(symboles);
     const auto change = j.LePlateau().Change;
     j.LePlateau().Change = [this, change](int i) {
-      if (j.Jeu().Jeu().VgEtat != kAffichage) changements.emplace_back(i, j.LePlateau().TxtCase(i).Text);
+      if (j.Jeu().VgEtat != kAffichage) changements.emplace_back(i, j.LePlateau().TxtCase(i).Text);
       change(i);
     };
   }
@@ -293,7 +293,7 @@ TEST_F(UnPlateau, UnLecteurDEcranEntendChaqueCase) {
   // The clock changes every second, and says nothing.
   j.Menu(Qt::Key_J, Qt::Key_D);
   LecteurDEcran::Oublie();
-  j.LeSysteme().Execute([&] { j.Jeu().LaFenetre().TrouveMinuterie("Tmr")->Timer(); });
+  j.LeSysteme().Execute([&] { j.Tmr().Timer(); });
   EXPECT_EQ(lecteur.Entendu(false).join(u'\n').toStdString(), "");
   const auto* horloge = QAccessible::queryAccessibleInterface(j.Fenetre().findChild<QWidget*>("LblChrono"));
   EXPECT_EQ(horloge->text(QAccessible::Name), QStringLiteral("00:00:00"));
