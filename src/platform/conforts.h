@@ -18,7 +18,9 @@ struct Conforts {
   std::function<std::vector<Texte>(TexteVue)> LitGrille = {};
   // The board as one line of text.
   std::function<Texte()> EcritGrille = {};
-  // Box i in words: place, content, what is known of it from what the board shows.
+  // Where box i is, with its number: the sentences name boxes by it.
+  std::function<Texte(int)> DecritPlace = {};
+  // Box i in words: content, what is known of it from what the board shows, place.
   std::function<Texte(int)> DecritCase = {};
   // The user hands over a file to be opened, as the command that loads one would, with its question.
   std::function<void(TexteVue chemin)> OuvreFichier = {};

@@ -16,13 +16,17 @@ TexteVue SensDesCouleurs(const CaseTexte& boite) {
   return {};
 }
 
-// A place is read aloud often, its parts from the one that changes most.
-Texte DecritCase(const GameState& jeu, const Plateau& plateau, int i) {
+Texte DecritPlace(const GameState& jeu, int i) {
   const ClsPos cellule = jeu.VmGrille(i);
+  return U"case " + Decimal(i) + U", ligne " + Decimal(cellule.Ligne()) + U", colonne " +
+         Decimal(cellule.Colonne()) + U", carré " + Decimal(cellule.Carre());
+}
+
+// Read aloud often: first what changes most.
+Texte DecritCase(const GameState& jeu, const Plateau& plateau, int i) {
   const CaseTexte& boite = plateau.TxtCase(i);
-  return (boite.Text.empty() ? Texte(U"vide") : boite.Text) + Texte(SensDesCouleurs(boite)) + U", ligne " +
-         Decimal(cellule.Ligne()) + U", colonne " + Decimal(cellule.Colonne()) + U", carré " +
-         Decimal(cellule.Carre());
+  return (boite.Text.empty() ? Texte(U"vide") : boite.Text) + Texte(SensDesCouleurs(boite)) + U", " +
+         DecritPlace(jeu, i);
 }
 
 std::vector<Texte> LitGrille(const GameState& jeu, TexteVue texte) {
@@ -43,6 +47,7 @@ Conforts ConfortsDuJeu(const GameState& jeu, const Plateau& plateau, Commands& c
       .Symboles = [&jeu] { return jeu.VmGrille.Donnees().alphabet->Symboles(); },
       .LitGrille = [&jeu](TexteVue texte) { return LitGrille(jeu, texte); },
       .EcritGrille = [&plateau] { return EcritGrille(plateau); },
+      .DecritPlace = [&jeu](int i) { return DecritPlace(jeu, i); },
       .DecritCase = [&](int i) { return DecritCase(jeu, plateau, i); },
       .OuvreFichier = [&commandes](TexteVue chemin) { commandes.OuvreFichier(chemin); },
   };

@@ -1,6 +1,7 @@
 // How the board looks.
-#include <QPaintEvent>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include "qt/mesure.h"
 #include "qt/plateau_qt.h"
@@ -37,6 +38,20 @@ void PlateauQt::paintEvent(QPaintEvent* evenement) {
     const QRectF appareil(zone.x() * dpr, zone.y() * dpr, zone.width() * dpr, zone.height() * dpr);
     PeintZone(p, appareil.toAlignedRect().translated(-origine));
   }
+}
+
+// Sentences name cells by number: a tool tip tells which number the cell under the pointer has.
+bool PlateauQt::viewportEvent(QEvent* evenement) {
+  if (evenement->type() != QEvent::ToolTip) return QAbstractScrollArea::viewportEvent(evenement);
+  const auto& aide = *static_cast<QHelpEvent*>(evenement);
+  const int i = CaseSous(aide.pos());
+  if (i != 0 && fenetre_.conforts.DecritPlace) {
+    QToolTip::showText(aide.globalPos(), VersQt(fenetre_.conforts.DecritPlace(i)), viewport(),
+                       RectangleCase(i));
+  } else {
+    QToolTip::hideText();
+  }
+  return true;
 }
 
 void PlateauQt::PeintZone(QPainter& p, const QRect& zone) const {

@@ -43,6 +43,7 @@ class PlateauQt : public QAbstractScrollArea {
 
  protected:
   void paintEvent(QPaintEvent* evenement) override;
+  bool viewportEvent(QEvent* evenement) override;
   void resizeEvent(QResizeEvent* evenement) override;
   void scrollContentsBy(int dx, int dy) override;
   void mousePressEvent(QMouseEvent* evenement) override;

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
+#include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,6 +20,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
+#include <QToolTip>
 
 #include "joueur.h"
 #include "qt/editeur_case.h"
@@ -243,6 +245,20 @@ TEST_F(UnPlateau, UnPlateauPlusGrandQueLEcranDefile) {
   EXPECT_EQ(j.Fenetre().size(), QSize(144, 202));
 }
 
+TEST_F(UnPlateau, LaBulleDitLeNumeroDeLaCase) {
+  Ouvre();
+  j.CliqueCase(1);
+  for (const int i : {15, 1}) {  // the editor lies over the second one
+    const QPoint ici = j.Ecran().RectangleCase(i).center();
+    QWidget* dessous = j.Ecran().viewport()->childAt(ici);
+    QWidget* cible = dessous != nullptr ? dessous : j.Ecran().viewport();
+    QHelpEvent survol(QEvent::ToolTip, cible->mapFrom(j.Ecran().viewport(), ici), QCursor::pos());
+    QApplication::sendEvent(cible, &survol);
+    EXPECT_EQ(QToolTip::text(), i == 1 ? QStringLiteral("case 1, ligne 1, colonne 1, carré 1")
+                                       : QStringLiteral("case 15, ligne 4, colonne 3, carré 4"));
+  }
+}
+
 // Announcements reach nobody before a reader has switched them on, and only the toolkit's own interface to
 // the desktop can do that.
 class LecteurDEcran {
@@ -289,7 +305,7 @@ TEST_F(UnPlateau, UnLecteurDEcranEntendChaqueCase) {
   j.Touche(Qt::Key_Down);
   j.Touche(Qt::Key_Up);
   EXPECT_EQ(lecteur.Entendu(true).join(u'\n').toStdString(),
-            "vide, ligne 2, colonne 1, carré 1\n3, donnée, ligne 1, colonne 1, carré 1");
+            "vide, case 5, ligne 2, colonne 1, carré 1\n3, donnée, case 1, ligne 1, colonne 1, carré 1");
   // The clock changes every second, and says nothing.
   j.Menu(Qt::Key_J, Qt::Key_D);
   LecteurDEcran::Oublie();
@@ -300,7 +316,8 @@ TEST_F(UnPlateau, UnLecteurDEcranEntendChaqueCase) {
 
   const QAccessibleInterface* plateau = QAccessible::queryAccessibleInterface(&j.Ecran());
   EXPECT_EQ(plateau->childCount(), 16);
-  EXPECT_EQ(plateau->child(15)->text(QAccessible::Name), QStringLiteral("vide, ligne 4, colonne 4, carré 4"));
+  EXPECT_EQ(plateau->child(15)->text(QAccessible::Name),
+            QStringLiteral("vide, case 16, ligne 4, colonne 4, carré 4"));
   EXPECT_TRUE(plateau->child(0)->state().readOnly);
   j.Menu(Qt::Key_Question, Qt::Key_A);
   const auto* reponse = QAccessible::queryAccessibleInterface(j.Assistant().findChild<QLineEdit*>("TxtRep"));
