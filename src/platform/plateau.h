@@ -8,6 +8,16 @@
 
 namespace sudoku {
 
+// What the colours of a box say, for whoever can't tell them apart: a view draws or says it beside them.
+enum class Marque : std::uint8_t {
+  kAucune,
+  kDonnee,        // grey background
+  kCertaine,      // green background
+  kPossible,      // cyan background
+  kHypothetique,  // blue text
+  kErronee        // red text
+};
+
 // TxtCase(i), the entry box of cell i. TxtCase(0) is the hidden template that the others are made from.
 struct CaseTexte {
   Texte Text;
@@ -20,8 +30,9 @@ struct CaseTexte {
   std::int16_t SelStart = 0;  // as the program last wrote them; the user's caret isn't written back
   std::int16_t SelLength = 0;
   std::uint8_t Appearance = 0;  // 0 flat, 1 in relief
-  bool Locked = false;          // refuses typing
-  bool TabStop = true;          // the Tab key stops there
+  Marque marque = Marque::kAucune;
+  bool Locked = false;  // refuses typing
+  bool TabStop = true;  // the Tab key stops there
   bool Visible = false;
   bool change = false;  // stands in Plateau::Changees()
 };
@@ -67,6 +78,12 @@ class Plateau {
     if (c.BackColor == BackColor && c.ForeColor == ForeColor) return;
     c.BackColor = BackColor;
     c.ForeColor = ForeColor;
+    Note(i);
+  }
+  void Signe(int i, Marque marque) {
+    CaseTexte& c = At(i);
+    if (c.marque == marque) return;
+    c.marque = marque;
     Note(i);
   }
   void Acces(int i, bool Locked, bool TabStop) {

@@ -11,6 +11,16 @@ std::size_t At(int i) {
 
 constexpr Twips kEcart = 15;  // between two cells, and from a cell to its block's frame
 
+struct Couleurs {
+  Couleur fond = kBlanc;
+  Couleur encre = kNoir;
+};
+
+// In the order of Marque.
+constexpr Couleurs kCouleurs[] = {
+    {}, {.fond = kGris}, {.fond = kVert}, {.fond = kCyan}, {.encre = kBleu}, {.encre = kRouge},
+};
+
 // The name of a file without folder and without its extension of three letters.
 TexteVue NomSansExtension(TexteVue chemin) {
   const std::size_t barre = chemin.find_last_of(U"\\/");
@@ -52,27 +62,26 @@ void BoardDisplay::Affiche() {
 void BoardDisplay::AfficheCases(const Grille& VlGrille, bool modifiable, const Marques& marques) {
   const Bloc& bloc = VlGrille.Donnees();
   for (int i = 1; i <= VlGrille.Borne(); ++i) {
-    const Code saisie = bloc.saisie[At(i)];
-    const std::int32_t etat = bloc.etat[At(i)];
-    Couleur fond = kBlanc;
-    Couleur encre = kNoir;
-    plateau_.Text(i, bloc.alphabet->TexteDe(saisie));
-    if (saisie == kVide) {
-      if (bloc.sure[At(i)] != kVide) {
-        if (marques.sure) fond = kVert;
-      } else if (bloc.poss[At(i)] != kVide) {
-        if (marques.poss) fond = kCyan;
-      }
-    } else if (etat == kDonnee) {
-      fond = kGris;
-      plateau_.Acces(i, !modifiable, modifiable);
-    } else if (etat == kPossible) {
-      if (marques.bleu) encre = kBleu;
-    } else if (etat == kErronee) {
-      if (marques.rouge) encre = kRouge;
-    }
-    plateau_.Couleurs(i, fond, encre);
+    plateau_.Text(i, bloc.alphabet->TexteDe(bloc.saisie[At(i)]));
+    const Marque marque = MarqueDe(bloc, i, marques);
+    if (marque == Marque::kDonnee) plateau_.Acces(i, !modifiable, modifiable);
+    const Couleurs& couleurs = kCouleurs[static_cast<std::size_t>(marque)];
+    plateau_.Signe(i, marque);
+    plateau_.Couleurs(i, couleurs.fond, couleurs.encre);
   }
+}
+
+Marque BoardDisplay::MarqueDe(const Bloc& bloc, int i, const Marques& marques) {
+  if (bloc.saisie[At(i)] == kVide) {
+    // An empty cell whose symbol is proved is never marked as possible, whether the proof is shown or not.
+    if (bloc.sure[At(i)] != kVide) return marques.sure ? Marque::kCertaine : Marque::kAucune;
+    return marques.poss && bloc.poss[At(i)] != kVide ? Marque::kPossible : Marque::kAucune;
+  }
+  const std::int32_t etat = bloc.etat[At(i)];
+  if (etat == kDonnee) return Marque::kDonnee;
+  if (etat == kPossible && marques.bleu) return Marque::kHypothetique;
+  if (etat == kErronee && marques.rouge) return Marque::kErronee;
+  return Marque::kAucune;
 }
 
 void BoardDisplay::SetInfos() {

@@ -40,6 +40,7 @@ class BoardDisplay : public PlateauAuto {
     bool bleu = false;
     bool rouge = false;
   };
+  static Marque MarqueDe(const Bloc& bloc, int i, const Marques& marques);
   void AfficheCases(const Grille& VlGrille, bool modifiable, const Marques& marques);
   // Place of a cell on the board: VpAxe 0 from the left, 1 from the top.
   Twips GetPos(int VpPos, int VpAxe) const;

@@ -5,14 +5,21 @@
 namespace sudoku {
 namespace {
 
-// What the colours of a box say. The highlight of the assistant exchanges them.
-TexteVue SensDesCouleurs(const CaseTexte& boite) {
-  const auto a = [&](Couleur c) { return boite.BackColor == c || boite.ForeColor == c; };
-  if (a(kGris)) return U", donnée";
-  if (a(kVert)) return U", case certaine";
-  if (a(kCyan)) return U", case possible";
-  if (a(kBleu)) return U", saisie hypothétique";
-  if (a(kRouge)) return U", saisie erronée";
+TexteVue EnMots(Marque marque) {
+  switch (marque) {
+    case Marque::kDonnee:
+      return U", donnée";
+    case Marque::kCertaine:
+      return U", case certaine";
+    case Marque::kPossible:
+      return U", case possible";
+    case Marque::kHypothetique:
+      return U", saisie hypothétique";
+    case Marque::kErronee:
+      return U", saisie erronée";
+    case Marque::kAucune:
+      break;
+  }
   return {};
 }
 
@@ -25,7 +32,7 @@ Texte DecritPlace(const GameState& jeu, int i) {
 // Read aloud often: first what changes most.
 Texte DecritCase(const GameState& jeu, const Plateau& plateau, int i) {
   const CaseTexte& boite = plateau.TxtCase(i);
-  return (boite.Text.empty() ? Texte(U"vide") : boite.Text) + Texte(SensDesCouleurs(boite)) + U", " +
+  return (boite.Text.empty() ? Texte(U"vide") : boite.Text) + Texte(EnMots(boite.marque)) + U", " +
          DecritPlace(jeu, i);
 }
 
