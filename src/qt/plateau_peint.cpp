@@ -68,6 +68,7 @@ void PlateauQt::PeintCase(QPainter& p, int i) const {
   if (!boite.Visible) return;
   const QRect place = geometrie_.Case(i);
   p.fillRect(place, CouleurQt(boite.BackColor));
+  if (boite.marque > Marque::kDonnee) PeintMarque(p, place, boite);
   if (i == focus_ || boite.Text.empty()) return;  // the editor shows the text of its box
   p.setPen(CouleurQt(boite.ForeColor));
   const QString texte = VersQt(boite.Text);
@@ -78,6 +79,27 @@ void PlateauQt::PeintCase(QPainter& p, int i) const {
   p.setFont(Condensee(police_, texte, place.width() - 2 * geometrie_.Trait()));
   p.drawText(place, Qt::AlignCenter | Qt::TextSingleLine, texte);
   p.setFont(police_);
+}
+
+// Beside the colours, for whoever can't tell them apart, and so small that nobody else is disturbed: a full
+// corner where a symbol is proved, an angle where one is possible; a line below a wrong entry, points below
+// one that is neither proved nor refuted.
+void PlateauQt::PeintMarque(QPainter& p, const QRect& place, const CaseTexte& boite) const {
+  const int trait = geometrie_.Trait();
+  const QColor encre = CouleurQt(boite.ForeColor);
+  const QRect dedans = place.adjusted(2 * trait, 2 * trait, -2 * trait, -2 * trait);
+  if (boite.marque == Marque::kCertaine || boite.marque == Marque::kPossible) {
+    const int cote = std::max(2 * trait, place.width() / 6);
+    for (int n = 0; n < cote; ++n) {
+      const int longueur = boite.marque == Marque::kCertaine || n < trait ? cote - n : trait;
+      p.fillRect(dedans.right() + 1 - longueur, dedans.top() + n, longueur, 1, encre);
+    }
+    return;
+  }
+  const int pas = boite.marque == Marque::kErronee ? trait : 3 * trait;
+  const int gauche = place.left() + place.width() / 4;
+  for (int x = gauche; x < gauche + place.width() / 2; x += pas)
+    p.fillRect(x, dedans.bottom(), trait, trait, encre);
 }
 
 void PlateauQt::PeintCadres(QPainter& p, const QRect& zone) const {

@@ -245,6 +245,17 @@ TEST_F(UnPlateau, UnPlateauPlusGrandQueLEcranDefile) {
   EXPECT_EQ(j.Fenetre().size(), QSize(144, 202));
 }
 
+TEST_F(UnPlateau, ChaqueMarqueADesFormesASoi) {
+  Ouvre();
+  std::vector<QImage> images;
+  for (const Marque marque :
+       {Marque::kAucune, Marque::kCertaine, Marque::kPossible, Marque::kHypothetique, Marque::kErronee}) {
+    j.LeSysteme().Execute([&] { j.LePlateau().Signe(6, marque); });
+    images.push_back(j.Ecran().viewport()->grab(j.Ecran().RectangleCase(6)).toImage());
+    for (std::size_t n = 0; n + 1 < images.size(); ++n) EXPECT_NE(images[n], images.back()) << n;
+  }
+}
+
 TEST_F(UnPlateau, LaBulleDitLeNumeroDeLaCase) {
   Ouvre();
   j.CliqueCase(1);
