@@ -1,21 +1,22 @@
 #pragma once
 
 #include <functional>
-#include <vector>
 
 #include "text/texte.h"
 
 namespace sudoku {
 
-// What a view with a keyboard, a clipboard and a screen reader asks of the game to make typing easier. Asking
-// changes nothing; what comes of the answers is typed like anything else. An empty function: the view does
-// without.
+// What a view with a keyboard, a clipboard and a screen reader asks of the game to make typing easier, and
+// the acts of the user that are no command of a menu. An empty function: the view does without.
 struct Conforts {
   // The symbols of the grid on the board.
   std::function<Texte()> Symboles = {};
-  // The contents of boxes 1, 2 … that a pasted text stands for; nothing where it is no grid, or a grid can't
+  // The user goes one step of the typing back, or forth again; nothing at the ends.
+  std::function<void()> Annule = {};
+  std::function<void()> Retablit = {};
+  // The user pastes a whole grid, which is typed box by box. False: the text stands for none, or a grid can't
   // be typed now.
-  std::function<std::vector<Texte>(TexteVue)> LitGrille = {};
+  std::function<bool(TexteVue)> Colle = {};
   // The board as one line of text.
   std::function<Texte()> EcritGrille = {};
   // Where box i is, with its number: the sentences name boxes by it.

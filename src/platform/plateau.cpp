@@ -8,7 +8,6 @@ void Plateau::Vide() {
   OublieChangees();
   focus_ = 0;
   ++constructions_;
-  OublieSaisies();
 }
 
 void Plateau::AjouteCase(Twips Left, Twips Top) {

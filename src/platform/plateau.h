@@ -97,8 +97,6 @@ class Plateau {
   void Selection(int i, int SelStart, int SelLength);
   // The whole board has been written anew: the view gives the focused box its SelStart and SelLength again.
   void Reecrit() { ++redessins_; }
-  // Another game begins, or the texts were not the user's: what was typed so far can't be gone back to.
-  void OublieSaisies() { ++oublis_; }
 
   // Gives box i the focus: the view moves it there, and GotFocus fires at once, also when i has it already.
   // Called by the program and for the user alike.
@@ -113,8 +111,6 @@ class Plateau {
   std::uint32_t Constructions() const { return constructions_; }
   // … rises with every Reecrit.
   std::uint32_t Redessins() const { return redessins_; }
-  // … rises with every OublieSaisies.
-  std::uint32_t Oublis() const { return oublis_; }
   // … the boxes written since OublieChangees, each once, in no order.
   const std::vector<std::int32_t>& Changees() const { return changees_; }
   void OublieChangees();
@@ -130,7 +126,6 @@ class Plateau {
   int focus_ = 0;
   std::uint32_t constructions_ = 0;
   std::uint32_t redessins_ = 0;
-  std::uint32_t oublis_ = 0;
 };
 
 }  // namespace sudoku

@@ -9,7 +9,10 @@ enum Touche : int { kGauche = 37, kHaut = 38, kDroite = 39, kBas = 40 };
 
 void CellInput::ChangeCase(int Index) {
   if (jeu_.VgEtat == kAffichage) return;
-  jeu_.VmGrille(Index).Valeur(plateau_.TxtCase(Index).Text);
+  ClsPos cellule = jeu_.VmGrille(Index);
+  const Texte avant = cellule.ValeurSaisie();
+  cellule.Valeur(plateau_.TxtCase(Index).Text);
+  saisies_.Note(Index, avant, cellule.ValeurSaisie());
   if (jeu_.VgEtat == kSaisieGrille) {
     moteur_.Evaluation(jeu_.VmGrille, 1);
   } else if (jeu_.VgEtat == kJeu) {

@@ -5,6 +5,7 @@
 #include "platform/plateau.h"
 #include "play/board_display.h"
 #include "play/chrono.h"
+#include "play/saisies.h"
 #include "play/voisins.h"
 
 namespace sudoku {
@@ -12,10 +13,11 @@ namespace sudoku {
 // What the user does on the board.
 class CellInput {
  public:
-  CellInput(GameState& jeu, Plateau& plateau, Evaluateur& moteur, BoardDisplay& affichage, Chrono& chrono,
-            Assistant& assistant, Stockage& stockage)
+  CellInput(GameState& jeu, Plateau& plateau, Saisies& saisies, Evaluateur& moteur, BoardDisplay& affichage,
+            Chrono& chrono, Assistant& assistant, Stockage& stockage)
       : jeu_(jeu),
         plateau_(plateau),
+        saisies_(saisies),
         moteur_(moteur),
         affichage_(affichage),
         chrono_(chrono),
@@ -36,6 +38,7 @@ class CellInput {
 
   GameState& jeu_;
   Plateau& plateau_;
+  Saisies& saisies_;
   Evaluateur& moteur_;
   BoardDisplay& affichage_;
   Chrono& chrono_;

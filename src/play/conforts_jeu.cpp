@@ -36,11 +36,6 @@ Texte DecritCase(const GameState& jeu, const Plateau& plateau, int i) {
          DecritPlace(jeu, i);
 }
 
-std::vector<Texte> LitGrille(const GameState& jeu, TexteVue texte) {
-  if (jeu.VgEtat != kSaisieGrille) return {};
-  return LitGrilleTexte(texte, jeu.VmGrille.Donnees().alphabet->Symboles()).value_or(std::vector<Texte>());
-}
-
 Texte EcritGrille(const Plateau& plateau) {
   std::vector<Texte> contenus;
   for (int i = 1; i <= plateau.Cases(); ++i) contenus.push_back(plateau.TxtCase(i).Text);
@@ -49,10 +44,12 @@ Texte EcritGrille(const Plateau& plateau) {
 
 }  // namespace
 
-Conforts ConfortsDuJeu(const GameState& jeu, const Plateau& plateau, Commands& commandes) {
+Conforts ConfortsDuJeu(const GameState& jeu, const Plateau& plateau, Saisies& saisies, Commands& commandes) {
   return {
       .Symboles = [&jeu] { return jeu.VmGrille.Donnees().alphabet->Symboles(); },
-      .LitGrille = [&jeu](TexteVue texte) { return LitGrille(jeu, texte); },
+      .Annule = [&saisies] { saisies.Annule(); },
+      .Retablit = [&saisies] { saisies.Retablit(); },
+      .Colle = [&saisies](TexteVue texte) { return saisies.Colle(texte); },
       .EcritGrille = [&plateau] { return EcritGrille(plateau); },
       .DecritPlace = [&jeu](int i) { return DecritPlace(jeu, i); },
       .DecritCase = [&](int i) { return DecritCase(jeu, plateau, i); },

@@ -6,6 +6,11 @@ Texte GameFlow::DemandeSymboles() {
   return systeme_.Saisie(U"Valeurs possibles ?", U"Nouvelle grille", U"123456789");
 }
 
+void GameFlow::MetEnPlace() {
+  affichage_.MetEnPlace();
+  saisies_.Oublie();
+}
+
 void GameFlow::NouvelleGrille() {
   Texte VlValeurs;
   JeuVierge(VlValeurs);
@@ -14,7 +19,7 @@ void GameFlow::NouvelleGrille() {
 }
 
 void GameFlow::JeuStart() {
-  plateau_.OublieSaisies();
+  saisies_.Oublie();
   jeu_.VgSilence = true;
   pilote_.JeuAuto(true, false);
   jeu_.VgSilence = false;
@@ -37,7 +42,7 @@ void GameFlow::JeuReinit(bool VpValide) {
 }
 
 void GameFlow::Resout(bool VpGuess) {
-  plateau_.OublieSaisies();
+  saisies_.Oublie();
   chrono_.Annule();
   pilote_.JeuAuto(false, VpGuess);
   affichage_.SetMenus();

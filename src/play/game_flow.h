@@ -6,6 +6,7 @@
 #include "platform/systeme.h"
 #include "play/board_display.h"
 #include "play/chrono.h"
+#include "play/saisies.h"
 #include "solver/auto_driver.h"
 
 namespace sudoku {
@@ -13,11 +14,11 @@ namespace sudoku {
 // From an empty grid to play, back to the start of a game, and to its solution.
 class GameFlow : private PlateauVierge {
  public:
-  GameFlow(GameState& jeu, Systeme& systeme, Plateau& plateau, Evaluateur& moteur, AutoDriver& pilote,
+  GameFlow(GameState& jeu, Systeme& systeme, Saisies& saisies, Evaluateur& moteur, AutoDriver& pilote,
            BoardDisplay& affichage, Chrono& chrono)
       : jeu_(jeu),
         systeme_(systeme),
-        plateau_(plateau),
+        saisies_(saisies),
         moteur_(moteur),
         pilote_(pilote),
         affichage_(affichage),
@@ -36,13 +37,13 @@ class GameFlow : private PlateauVierge {
 
  private:
   Texte DemandeSymboles() override;
-  void MetEnPlace() override { affichage_.MetEnPlace(); }
+  void MetEnPlace() override;
   void Evalue() override { moteur_.Evaluation(jeu_.VmGrille, 1); }
   void SetInfos() override { affichage_.SetInfos(); }
 
   GameState& jeu_;
   Systeme& systeme_;
-  Plateau& plateau_;
+  Saisies& saisies_;
   Evaluateur& moteur_;
   AutoDriver& pilote_;
   BoardDisplay& affichage_;

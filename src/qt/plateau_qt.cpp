@@ -20,7 +20,6 @@ PlateauQt::PlateauQt(Fenetre& fenetre, Pilote& pilote, QWidget* parent)
     : QAbstractScrollArea(parent),
       fenetre_(fenetre),
       pilote_(pilote),
-      saisies_(fenetre, pilote),
       geometrie_(fenetre.plateau),
       editeur_(new EditeurCase(viewport())) {
   setObjectName(QStringLiteral("TxtCase"));
@@ -34,7 +33,7 @@ PlateauQt::PlateauQt(Fenetre& fenetre, Pilote& pilote, QWidget* parent)
 }
 
 void PlateauQt::BrancheEditeur() {
-  editeur_->Saisi = [this](const QString& texte) { saisies_.Tape(focus_, DepuisQt(texte)); };
+  editeur_->Saisi = [this](const QString& texte) { Tape(DepuisQt(texte)); };
   editeur_->Touche = [this](QKeyEvent& evenement) { return Touche(evenement); };
   editeur_->Clic = [this] { Focalise(focus_); };
   editeur_->Menu = [this] { OuvrePalette(); };
@@ -170,7 +169,7 @@ bool PlateauQt::ToucheDeConfort(const QKeyEvent& evenement) {
   const bool maj = evenement.modifiers() & Qt::ShiftModifier;
   switch (evenement.key()) {
     case Qt::Key_Z:
-      maj ? saisies_.Retablit() : saisies_.Annule();
+      Fait(maj ? fenetre_.conforts.Retablit : fenetre_.conforts.Annule);
       return true;
     case Qt::Key_V:
       if (maj) DeposeTexte(QApplication::clipboard()->text());
@@ -217,16 +216,27 @@ void PlateauQt::contextMenuEvent(QContextMenuEvent*) {
 
 // ---- comforts
 
+void PlateauQt::Fait(const std::function<void()>& acte) {
+  if (acte) pilote_.Execute(acte);
+}
+
+// The user makes this the text of the box with the focus.
+void PlateauQt::Tape(const Texte& texte) {
+  if (!fenetre_.plateau.TxtCase(focus_).Locked) Fait([&] { fenetre_.plateau.Saisit(focus_, texte); });
+}
+
 void PlateauQt::OuvrePalette() {
   if (focus_ == 0 || !fenetre_.conforts.Symboles) return;
   auto* palette = new PaletteSymboles(fenetre_.conforts.Symboles(), *editeur_, this);
-  palette->Choisi = [this](const Texte& symbole) { saisies_.Tape(focus_, symbole); };
+  palette->Choisi = [this](const Texte& symbole) { Tape(symbole); };
   palette->Montre(
       QRect(viewport()->mapToGlobal(RectangleCase(focus_).topLeft()), RectangleCase(focus_).size()));
 }
 
 void PlateauQt::DeposeTexte(const QString& texte) {
-  if (!saisies_.TapeGrille(DepuisQt(texte))) QApplication::beep();
+  Fait([&] {
+    if (!fenetre_.conforts.Colle || !fenetre_.conforts.Colle(DepuisQt(texte))) QApplication::beep();
+  });
 }
 
 void PlateauQt::CopieGrille() {

@@ -6,7 +6,7 @@
 
 #include "platform/fenetre.h"
 #include "qt/geometrie_plateau.h"
-#include "qt/saisies.h"
+#include "qt/pilote.h"
 
 namespace sudoku {
 
@@ -59,6 +59,8 @@ class PlateauQt : public QAbstractScrollArea {
   void BrancheEditeur();
   void OuvrePalette();
   void CopieGrille();
+  void Tape(const Texte& texte);
+  void Fait(const std::function<void()>& acte);
 
   void SuitFocus();
   void SuitEditeur();
@@ -84,7 +86,6 @@ class PlateauQt : public QAbstractScrollArea {
 
   Fenetre& fenetre_;
   Pilote& pilote_;
-  Saisies saisies_;
   GeometriePlateau geometrie_;
   EditeurCase* editeur_;
 

@@ -13,16 +13,17 @@ Programme::Programme(Systeme& systeme)
       affichage_(jeu_, principale_, systeme, assistant_),
       pilote_(jeu_, moteur_, affichage_),
       chrono_(jeu_, systeme, principale_, assistant_),
-      deroulement_(jeu_, systeme, principale_.plateau, moteur_, pilote_, affichage_, chrono_),
+      saisies_(jeu_, principale_.plateau),
+      deroulement_(jeu_, systeme, saisies_, moteur_, pilote_, affichage_, chrono_),
       dialogue_(systeme),
       stockage_(jeu_, systeme, principale_, deroulement_, affichage_, dialogue_),
       aPropos_(systeme, principale_),
-      saisie_(jeu_, principale_.plateau, moteur_, affichage_, chrono_, assistant_, stockage_),
+      saisie_(jeu_, principale_.plateau, saisies_, moteur_, affichage_, chrono_, assistant_, stockage_),
       commandes_(jeu_, systeme, principale_, affichage_, deroulement_, assistant_, stockage_) {
   jeu_.Message = [&systeme](TexteVue texte) { systeme.Message(texte); };
   assistant_.Branche(jeu_, pilote_, affichage_);
   BrancheFRMSudoku(principale_, commandes_, saisie_, chrono_, stockage_, aPropos_);
-  principale_.conforts = ConfortsDuJeu(jeu_, principale_.plateau, commandes_);
+  principale_.conforts = ConfortsDuJeu(jeu_, principale_.plateau, saisies_, commandes_);
   systeme.Ajoute(principale_);
   systeme.Ajoute(assistant_.LaFenetre());
 }

@@ -5,6 +5,7 @@
 #include "play/chrono.h"
 #include "play/commands.h"
 #include "play/game_flow.h"
+#include "play/saisies.h"
 #include "shell/about.h"
 #include "shell/com_dlg.h"
 #include "storage/game_storage.h"
@@ -40,6 +41,7 @@ class Programme {
   BoardDisplay affichage_;
   AutoDriver pilote_;
   Chrono chrono_;
+  Saisies saisies_;
   GameFlow deroulement_;
   ComDlg dialogue_;
   GameStorage stockage_;

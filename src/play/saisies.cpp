@@ -1,0 +1,62 @@
+#include "play/saisies.h"
+
+#include "grid/grille_texte.h"
+
+namespace sudoku {
+
+void Saisies::Note(int i, TexteVue avant, TexteVue apres) {
+  if (repete_ || avant == apres) return;
+  liste_.resize(place_);
+  liste_.push_back({i, Texte(avant), Texte(apres)});
+  ++place_;
+}
+
+void Saisies::Oublie() {
+  liste_.clear();
+  place_ = 0;
+}
+
+// Types, and tells whether the game has kept the text.
+bool Saisies::Tient(int i, const Texte& texte) {
+  if (i > plateau_.Cases() || plateau_.TxtCase(i).Locked) return false;
+  plateau_.SetFocus(i);
+  plateau_.Saisit(i, texte);
+  return i <= plateau_.Cases() && plateau_.TxtCase(i).Text == texte;
+}
+
+bool Saisies::Repete(int i, const Texte& texte) {
+  repete_ = true;
+  const bool tient = Tient(i, texte);
+  repete_ = false;
+  return tient;
+}
+
+void Saisies::Annule() {
+  if (place_ == 0) return;
+  const Saisie saisie = liste_[place_ - 1];
+  if (Repete(saisie.Index, saisie.avant) && place_ > 0) --place_;
+}
+
+void Saisies::Retablit() {
+  if (place_ == liste_.size()) return;
+  const Saisie saisie = liste_[place_];
+  if (Repete(saisie.Index, saisie.apres) && place_ < liste_.size()) ++place_;
+}
+
+bool Saisies::Colle(TexteVue texte) {
+  if (jeu_.VgEtat != kSaisieGrille) return false;
+  const auto contenus = LitGrilleTexte(texte, jeu_.VmGrille.Donnees().alphabet->Symboles());
+  if (!contenus) return false;
+  const auto contenu = [&](int i) -> const Texte& { return (*contenus)[static_cast<std::size_t>(i - 1)]; };
+  // What stands in the way goes first: a box takes another symbol only once it is empty.
+  for (int i = 1; i <= plateau_.Cases(); ++i) {
+    const Texte& ici = plateau_.TxtCase(i).Text;
+    if (!ici.empty() && ici != contenu(i) && !Tient(i, {})) return true;
+  }
+  for (int i = 1; i <= plateau_.Cases(); ++i) {
+    if (plateau_.TxtCase(i).Text != contenu(i) && !Tient(i, contenu(i))) return true;
+  }
+  return true;
+}
+
+}  // namespace sudoku
