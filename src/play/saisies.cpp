@@ -7,8 +7,9 @@ namespace sudoku {
 void Saisies::Note(int i, TexteVue avant, TexteVue apres) {
   if (repete_ || avant == apres) return;
   liste_.resize(place_);
-  liste_.push_back({i, Texte(avant), Texte(apres)});
+  liste_.push_back({i, Texte(avant), Texte(apres), suite_});
   ++place_;
+  suite_ = groupe_;
 }
 
 void Saisies::Oublie() {
@@ -32,31 +33,43 @@ bool Saisies::Repete(int i, const Texte& texte) {
 }
 
 void Saisies::Annule() {
-  if (place_ == 0) return;
-  const Saisie saisie = liste_[place_ - 1];
-  if (Repete(saisie.Index, saisie.avant) && place_ > 0) --place_;
+  while (place_ > 0) {
+    const Saisie saisie = liste_[place_ - 1];
+    if (!Repete(saisie.Index, saisie.avant) || place_ == 0) return;
+    --place_;
+    if (!saisie.suite) return;
+  }
 }
 
 void Saisies::Retablit() {
-  if (place_ == liste_.size()) return;
-  const Saisie saisie = liste_[place_];
-  if (Repete(saisie.Index, saisie.apres) && place_ < liste_.size()) ++place_;
+  while (place_ < liste_.size()) {
+    const Saisie saisie = liste_[place_];
+    if (!Repete(saisie.Index, saisie.apres) || place_ == liste_.size()) return;
+    ++place_;
+    if (place_ == liste_.size() || !liste_[place_].suite) return;
+  }
 }
 
 bool Saisies::Colle(TexteVue texte) {
   if (jeu_.VgEtat != kSaisieGrille) return false;
   const auto contenus = LitGrilleTexte(texte, jeu_.VmGrille.Donnees().alphabet->Symboles());
   if (!contenus) return false;
-  const auto contenu = [&](int i) -> const Texte& { return (*contenus)[static_cast<std::size_t>(i - 1)]; };
+  groupe_ = true;
+  TapeGrille(*contenus);
+  groupe_ = suite_ = false;
+  return true;
+}
+
+void Saisies::TapeGrille(const std::vector<Texte>& contenus) {
+  const auto contenu = [&](int i) -> const Texte& { return contenus[static_cast<std::size_t>(i - 1)]; };
   // What stands in the way goes first: a box takes another symbol only once it is empty.
   for (int i = 1; i <= plateau_.Cases(); ++i) {
     const Texte& ici = plateau_.TxtCase(i).Text;
-    if (!ici.empty() && ici != contenu(i) && !Tient(i, {})) return true;
+    if (!ici.empty() && ici != contenu(i) && !Tient(i, {})) return;
   }
   for (int i = 1; i <= plateau_.Cases(); ++i) {
-    if (plateau_.TxtCase(i).Text != contenu(i) && !Tient(i, contenu(i))) return true;
+    if (plateau_.TxtCase(i).Text != contenu(i) && !Tient(i, contenu(i))) return;
   }
-  return true;
 }
 
 }  // namespace sudoku

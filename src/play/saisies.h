@@ -19,11 +19,12 @@ class Saisies {
   // Another game begins, or the texts were not the user's: nothing before this can be gone back to.
   void Oublie();
 
-  // One step back, or forth again: the focus on the box, then the text is typed. Nothing at the ends.
+  // One step back, or forth again: for each text of the step, the focus on its box, then the text is typed. A
+  // refusal ends it part-way, and the next call goes on from there. Nothing at the ends.
   void Annule();
   void Retablit();
-  // Types a whole grid, box by box, until one is refused. False: the text stands for none, or the givens are
-  // not being typed now.
+  // Types a whole grid, box by box, until one is refused; all of it is one step. False: the text stands for
+  // none, or the givens are not being typed now.
   bool Colle(TexteVue texte);
 
  private:
@@ -31,15 +32,19 @@ class Saisies {
     int Index;
     Texte avant;
     Texte apres;
+    bool suite;  // belongs to the step of the one before it
   };
   bool Tient(int i, const Texte& texte);
   bool Repete(int i, const Texte& texte);
+  void TapeGrille(const std::vector<Texte>& contenus);
 
   const GameState& jeu_;
   Plateau& plateau_;
   std::vector<Saisie> liste_;
   std::size_t place_ = 0;  // entries before it are in force, those from it on were taken back
   bool repete_ = false;
+  bool groupe_ = false;  // a step of several texts is being typed
+  bool suite_ = false;   // … and has its first
 };
 
 }  // namespace sudoku

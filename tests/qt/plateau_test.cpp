@@ -165,6 +165,10 @@ TEST_F(UnPlateau, UneGrilleColleeEstTapeeCaseParCase) {
   QApplication::clipboard()->setText(QStringLiteral("1 . | . 4\n3 . | 1 .\n----+----\n2 . | . 3\n. 3 | . ."));
   j.Touche(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(j.Grille(), "1..43.1.2..3.3..");
+  j.Touche(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(j.Grille(), "2...............") << "one step, and what stood in the way is back";
+  j.Touche(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(j.Grille(), "1..43.1.2..3.3..");
   changements.clear();
   QApplication::clipboard()->setText(QStringLiteral("no grid"));
   j.Touche(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
