@@ -22,6 +22,18 @@ void Scene::Focus(Fenetre& fenetre, int Index) {
   fenetre.plateau.SetFocus(Index);
 }
 
+Texte Scene::Annule(Fenetre& fenetre) {
+  return fenetre.conforts.Annule();
+}
+
+Texte Scene::Retablit(Fenetre& fenetre) {
+  return fenetre.conforts.Retablit();
+}
+
+Texte Scene::Colle(Fenetre& fenetre, TexteVue texte) {
+  return fenetre.conforts.Colle(texte);
+}
+
 // A key handler if the window has one, otherwise the button that the key stands for.
 void Scene::Touche(Fenetre& fenetre, int KeyCode) {
   if (fenetre.KeyDown) return fenetre.KeyDown(KeyCode);

@@ -23,6 +23,10 @@ class Scene {
   virtual void Demarre(const std::function<void()>& depart) { depart(); }
   virtual void Saisit(Fenetre& fenetre, int Index, TexteVue texte);
   virtual void Focus(Fenetre& fenetre, int Index);
+  // Back, forth, a whole grid: empty, or what is said to the user.
+  virtual Texte Annule(Fenetre& fenetre);
+  virtual Texte Retablit(Fenetre& fenetre);
+  virtual Texte Colle(Fenetre& fenetre, TexteVue texte);
   virtual void Touche(Fenetre& fenetre, int KeyCode);
   virtual void Sonne(Minuterie& minuterie);
   virtual void Choisit(Fenetre& fenetre, ArticleMenu& article);

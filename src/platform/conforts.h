@@ -11,12 +11,11 @@ namespace sudoku {
 struct Conforts {
   // The symbols of the grid on the board.
   std::function<Texte()> Symboles = {};
-  // The user goes one step of the typing back, or forth again; nothing at the ends.
-  std::function<void()> Annule = {};
-  std::function<void()> Retablit = {};
-  // The user pastes a whole grid, which is typed box by box. False: the text stands for none, or a grid can't
-  // be typed now.
-  std::function<bool(TexteVue)> Colle = {};
+  // The user goes one step of the typing back, or forth again, or pastes a whole grid, which is typed box by
+  // box. What comes back is empty, or says to the user why nothing was done.
+  std::function<Texte()> Annule = {};
+  std::function<Texte()> Retablit = {};
+  std::function<Texte(TexteVue)> Colle = {};
   // The board as one line of text.
   std::function<Texte()> EcritGrille = {};
   // Where box i is, with its number: the sentences name boxes by it.

@@ -47,8 +47,8 @@ Texte EcritGrille(const Plateau& plateau) {
 Conforts ConfortsDuJeu(const GameState& jeu, const Plateau& plateau, Saisies& saisies, Commands& commandes) {
   return {
       .Symboles = [&jeu] { return jeu.VmGrille.Donnees().alphabet->Symboles(); },
-      .Annule = [&saisies] { saisies.Annule(); },
-      .Retablit = [&saisies] { saisies.Retablit(); },
+      .Annule = [&saisies] { return saisies.Annule(); },
+      .Retablit = [&saisies] { return saisies.Retablit(); },
       .Colle = [&saisies](TexteVue texte) { return saisies.Colle(texte); },
       .EcritGrille = [&plateau] { return EcritGrille(plateau); },
       .DecritPlace = [&jeu](int i) { return DecritPlace(jeu, i); },

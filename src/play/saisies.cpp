@@ -32,32 +32,36 @@ bool Saisies::Repete(int i, const Texte& texte) {
   return tient;
 }
 
-void Saisies::Annule() {
-  while (place_ > 0) {
+Texte Saisies::Annule() {
+  if (place_ == 0) return U"Rien à annuler";
+  for (bool suite = true; suite && place_ > 0;) {
     const Saisie saisie = liste_[place_ - 1];
-    if (!Repete(saisie.Index, saisie.avant) || place_ == 0) return;
+    if (!Repete(saisie.Index, saisie.avant) || place_ == 0) break;
     --place_;
-    if (!saisie.suite) return;
+    suite = saisie.suite;
   }
+  return {};
 }
 
-void Saisies::Retablit() {
-  while (place_ < liste_.size()) {
+Texte Saisies::Retablit() {
+  if (place_ == liste_.size()) return U"Rien à rétablir";
+  for (bool suite = true; suite && place_ < liste_.size();) {
     const Saisie saisie = liste_[place_];
-    if (!Repete(saisie.Index, saisie.apres) || place_ == liste_.size()) return;
+    if (!Repete(saisie.Index, saisie.apres) || place_ == liste_.size()) break;
     ++place_;
-    if (place_ == liste_.size() || !liste_[place_].suite) return;
+    suite = place_ < liste_.size() && liste_[place_].suite;
   }
+  return {};
 }
 
-bool Saisies::Colle(TexteVue texte) {
-  if (jeu_.VgEtat != kSaisieGrille) return false;
+Texte Saisies::Colle(TexteVue texte) {
+  if (jeu_.VgEtat != kSaisieGrille) return U"Une grille ne se colle que pendant la saisie des cases données";
   const auto contenus = LitGrilleTexte(texte, jeu_.VmGrille.Donnees().alphabet->Symboles());
-  if (!contenus) return false;
+  if (!contenus) return U"Le texte à coller n'est pas une grille de cette taille et de ces symboles";
   groupe_ = true;
   TapeGrille(*contenus);
   groupe_ = suite_ = false;
-  return true;
+  return {};
 }
 
 void Saisies::TapeGrille(const std::vector<Texte>& contenus) {

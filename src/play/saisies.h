@@ -20,12 +20,12 @@ class Saisies {
   void Oublie();
 
   // One step back, or forth again: for each text of the step, the focus on its box, then the text is typed. A
-  // refusal ends it part-way, and the next call goes on from there. Nothing at the ends.
-  void Annule();
-  void Retablit();
-  // Types a whole grid, box by box, until one is refused; all of it is one step. False: the text stands for
-  // none, or the givens are not being typed now.
-  bool Colle(TexteVue texte);
+  // refusal ends it part-way, and the next call goes on from there. Empty, or why there is none.
+  Texte Annule();
+  Texte Retablit();
+  // Types a whole grid, box by box, until one is refused; all of it is one step. Empty, or why nothing was
+  // typed: the text stands for no grid, or the givens are not being typed now.
+  Texte Colle(TexteVue texte);
 
  private:
   struct Saisie {

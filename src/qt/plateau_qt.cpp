@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QStyle>
+#include <QToolTip>
 
 #include "qt/editeur_case.h"
 #include "qt/mesure.h"
@@ -216,13 +217,23 @@ void PlateauQt::contextMenuEvent(QContextMenuEvent*) {
 
 // ---- comforts
 
-void PlateauQt::Fait(const std::function<void()>& acte) {
-  if (acte) pilote_.Execute(acte);
+void PlateauQt::Fait(const std::function<Texte()>& acte) {
+  Texte raison;
+  if (acte) pilote_.Execute([&] { raison = acte(); });
+  if (!raison.empty()) Dit(VersQt(raison));
+}
+
+void PlateauQt::Dit(const QString& raison) {
+  constexpr int kDuree = 4000;  // milliseconds
+  const QRect ici = focus_ != 0 ? RectangleCase(focus_) : viewport()->rect();
+  const QPoint coin = focus_ != 0 ? ici.bottomLeft() : ici.center();
+  QToolTip::showText(viewport()->mapToGlobal(coin), raison.toHtmlEscaped(), viewport(), {}, kDuree);
 }
 
 // The user makes this the text of the box with the focus.
 void PlateauQt::Tape(const Texte& texte) {
-  if (!fenetre_.plateau.TxtCase(focus_).Locked) Fait([&] { fenetre_.plateau.Saisit(focus_, texte); });
+  if (!fenetre_.plateau.TxtCase(focus_).Locked)
+    pilote_.Execute([&] { fenetre_.plateau.Saisit(focus_, texte); });
 }
 
 void PlateauQt::OuvrePalette() {
@@ -234,9 +245,7 @@ void PlateauQt::OuvrePalette() {
 }
 
 void PlateauQt::DeposeTexte(const QString& texte) {
-  Fait([&] {
-    if (!fenetre_.conforts.Colle || !fenetre_.conforts.Colle(DepuisQt(texte))) QApplication::beep();
-  });
+  Fait([&] { return fenetre_.conforts.Colle(DepuisQt(texte)); });
 }
 
 void PlateauQt::CopieGrille() {

@@ -30,7 +30,7 @@ class PlateauQt : public QAbstractScrollArea {
   // window above it belong to others.
   void Dimensionne(double zoom, Twips haut, QSize contenu);
 
-  // The text is typed as a grid; a beep says that it is none.
+  // The text is typed as a grid.
   void DeposeTexte(const QString& texte);
 
   const Plateau& LePlateau() const { return fenetre_.plateau; }
@@ -60,7 +60,9 @@ class PlateauQt : public QAbstractScrollArea {
   void OuvrePalette();
   void CopieGrille();
   void Tape(const Texte& texte);
-  void Fait(const std::function<void()>& acte);
+  // An act of the user; where nothing was done, a tool tip that goes away says why.
+  void Fait(const std::function<Texte()>& acte);
+  void Dit(const QString& raison);
 
   void SuitFocus();
   void SuitEditeur();

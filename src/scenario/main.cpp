@@ -1,8 +1,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <string_view>
 
 #include "platform/fichiers_disque.h"
+#include "scenario/aide.h"
 #include "scenario/session.h"
 
 namespace {
@@ -16,6 +18,10 @@ int main(int argc, char** argv) {
   if (argc > 2) {
     std::cerr << "usage : sudoku-scenario [FICHIER]\n";
     return kAppelIncorrect;
+  }
+  if (argc == 2 && std::string_view(argv[1]) == "--help") {
+    std::cout << sudoku::kAide;
+    return 0;
   }
   std::ifstream fichier;
   if (argc == 2) {

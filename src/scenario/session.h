@@ -56,6 +56,9 @@ class Session {
   Refus Registre(const Arguments& a);
   Refus Type(const Arguments& a);
   Refus Focus(const Arguments& a);
+  Refus Annule(const Arguments& a);
+  Refus Retablit(const Arguments& a);
+  Refus Colle(const Arguments& a);
   Refus Key(const Arguments& a);
   Refus Tick(const Arguments& a);
   Refus Click(const Arguments& a);

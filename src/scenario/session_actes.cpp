@@ -49,6 +49,12 @@ const Nomme* Connu(TexteVue commande, TexteVue nom) {
   return place == std::end(kNommes) ? nullptr : place;
 }
 
+// What the game says of an act that it didn't carry out; empty: it did.
+std::optional<Texte> Dit(Texte raison) {
+  if (raison.empty()) return std::nullopt;
+  return raison;
+}
+
 int Entier(const Mot& mot) {
   return static_cast<int>(std::clamp<std::int64_t>(
       LitNombre(mot.texte)->valeur, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
@@ -131,6 +137,21 @@ Session::Refus Session::Focus(const Arguments& a) {
   if (const Refus refus = CaseDuPlateau(a[0], Index)) return refus;
   scene_->Focus(Principale(), Index);
   return {};
+}
+
+Session::Refus Session::Annule(const Arguments&) {
+  if (const Refus refus = SansModale()) return refus;
+  return Dit(scene_->Annule(Principale()));
+}
+
+Session::Refus Session::Retablit(const Arguments&) {
+  if (const Refus refus = SansModale()) return refus;
+  return Dit(scene_->Retablit(Principale()));
+}
+
+Session::Refus Session::Colle(const Arguments& a) {
+  if (const Refus refus = SansModale()) return refus;
+  return Dit(scene_->Colle(Principale(), a[0].texte));
 }
 
 Session::Refus Session::Key(const Arguments& a) {

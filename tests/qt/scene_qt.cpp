@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 #include <QWindow>
 #include <cstdlib>
 #include <ostream>
@@ -21,7 +22,7 @@
 namespace sudoku {
 namespace {
 
-void Colle(QWidget* champ, TexteVue texte) {
+void Remplit(QWidget* champ, TexteVue texte) {
   champ->setFocus();
   QApplication::clipboard()->setText(VersQt(texte));
   QTest::keyClick(champ, Qt::Key_A, Qt::ControlModifier);
@@ -95,7 +96,7 @@ void SceneQt::Repond(const Boite& boite) {
   } else if (boite.genre == GenreBoite::kFichier) {
     QTest::keyClick(ecran, Qt::Key_Escape);  // paths that no dialog returns are answers too
   } else {
-    if (boite.genre == GenreBoite::kSaisie && !annule) Colle(ecran->findChild<QLineEdit*>(), boite.texte);
+    if (boite.genre == GenreBoite::kSaisie && !annule) Remplit(ecran->findChild<QLineEdit*>(), boite.texte);
     const bool bouton = boite.genre == GenreBoite::kMessage || !annule;
     CliqueBouton(ecran, bouton ? QStringLiteral("OK") : QStringLiteral("Annuler"));
   }
@@ -136,7 +137,7 @@ void SceneQt::Saisit(Fenetre& fenetre, int Index, TexteVue texte) {
   if (Index != fenetre.plateau.Focus() || (texte.empty() && boite.Text.empty())) {
     return Execute([&] { fenetre.plateau.Saisit(Index, texte); });
   }
-  Colle(&FenetreDe(fenetre)->LePlateau()->Editeur(), texte);
+  Remplit(&FenetreDe(fenetre)->LePlateau()->Editeur(), texte);
 }
 
 void SceneQt::Focus(Fenetre& fenetre, int Index) {
@@ -148,6 +149,29 @@ void SceneQt::Focus(Fenetre& fenetre, int Index) {
   } else {
     QTest::mouseClick(plateau.viewport(), Qt::LeftButton, {}, place.center());
   }
+}
+
+// What a tool tip says then is the answer.
+Texte SceneQt::Raccourci(Fenetre& fenetre, Qt::Key touche, bool maj) {
+  for (QWidget* bulle : QApplication::topLevelWidgets()) {
+    if (bulle->inherits("QTipLabel")) delete bulle;
+  }
+  PlateauQt* plateau = FenetreDe(fenetre)->LePlateau();
+  QTest::keyClick(plateau, touche, maj ? Qt::ControlModifier | Qt::ShiftModifier : Qt::ControlModifier);
+  return DepuisQt(QToolTip::text());
+}
+
+Texte SceneQt::Annule(Fenetre& fenetre) {
+  return Raccourci(fenetre, Qt::Key_Z, false);
+}
+
+Texte SceneQt::Retablit(Fenetre& fenetre) {
+  return Raccourci(fenetre, Qt::Key_Z, true);
+}
+
+Texte SceneQt::Colle(Fenetre& fenetre, TexteVue texte) {
+  QApplication::clipboard()->setText(VersQt(texte));
+  return Raccourci(fenetre, Qt::Key_V, true);
 }
 
 void SceneQt::Touche(Fenetre& fenetre, int KeyCode) {
@@ -196,7 +220,7 @@ void SceneQt::Selectionne(Fenetre& fenetre, Element& liste, int position) {
 void SceneQt::Edite(Fenetre& fenetre, Element& champ, TexteVue texte) {
   auto* ecran = Trouve(fenetre, champ.Name + ".champ");
   if (champ.Text.empty() && texte.empty()) return Execute([&] { champ.Edite(texte); });
-  Colle(ecran, texte);
+  Remplit(ecran, texte);
 }
 
 // A real double click would select what is under the mouse first, and the session selects nothing.

@@ -21,6 +21,9 @@ class SceneQt : public Scene, private SystemeQt {
   void Demarre(const std::function<void()>& depart) override { Execute(depart); }
   void Saisit(Fenetre& fenetre, int Index, TexteVue texte) override;
   void Focus(Fenetre& fenetre, int Index) override;
+  Texte Annule(Fenetre& fenetre) override;
+  Texte Retablit(Fenetre& fenetre) override;
+  Texte Colle(Fenetre& fenetre, TexteVue texte) override;
   void Touche(Fenetre& fenetre, int KeyCode) override;
   void Sonne(Minuterie& minuterie) override { Execute(minuterie.Timer); }
   void Choisit(Fenetre& fenetre, ArticleMenu& article) override;
@@ -57,6 +60,7 @@ class SceneQt : public Scene, private SystemeQt {
   void Repond(const Boite& boite);
   void Termine(const Boite& boite);
   void Compare();
+  Texte Raccourci(Fenetre& fenetre, Qt::Key touche, bool maj);
   QWidget* Trouve(const Fenetre& fenetre, const std::string& nom);
 
   std::ostream& sortie_;
