@@ -130,7 +130,7 @@ std::string Partie::Commande() {
     case 2:
       return "focus " + Case();
     case 3:
-      return "key " + std::to_string(octets_.Tire(64) - 1);
+      return Touche(octets_.Tire(64));
     case 4:
       return std::string(octets_.Un({"press", "release"})) + " BtViewSolution " +
              octets_.Un({"souris", "espace"});
@@ -151,6 +151,12 @@ std::string Partie::Commande() {
     default:
       return DansFenetre();
   }
+}
+
+std::string Partie::Touche(int tirage) {
+  constexpr const char* kActes[] = {"annule", "retablit", "annule", "colle \"1..4|3.1.|2..3|.3..\""};
+  constexpr int kCodes = 60;
+  return tirage < kCodes ? "key " + std::to_string(tirage - 1) : kActes[tirage - kCodes];
 }
 
 // Bytes as they stand, but for a run of the solver that is not known to be short.

@@ -43,6 +43,7 @@ class Partie : private std::streambuf {
   std::string Clique();
   std::string Montre();
   std::string Tape();
+  static std::string Touche(int tirage);
   std::string Case();
   std::string Chaine();
   std::string Chemin();
