@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "lot/resoudre.h"
+#include "plateau_alea.h"
 #include "series_bench.h"
 
 namespace sudoku::bench {
@@ -26,13 +27,49 @@ std::vector<std::string> Grilles(const fs::path& chemin) {
   return grilles;
 }
 
-void Resoudre(benchmark::State& state, const fs::path& chemin) {
-  const std::vector<std::string> grilles = Grilles(chemin);
+// Boards that the search solves, with tens to hundreds of suppositions. On most seeds of side 25 it is
+// hopeless.
+std::vector<Alea> Aleas(int N) {
+  std::vector<Alea> aleas;
+  const auto ajoute = [&](int rempli, std::initializer_list<std::uint32_t> graines) {
+    for (const std::uint32_t graine : graines) aleas.push_back({.N = N, .rempli = rempli, .graine = graine});
+  };
+  if (N == 16) {
+    ajoute(35, {3, 5, 9});
+    ajoute(40, {3, 4, 6, 10, 11});
+    ajoute(45, {6, 12});
+  } else {
+    ajoute(35, {19, 42});
+    ajoute(40, {9, 36, 47, 57});
+    ajoute(45, {13, 44, 46, 50});
+  }
+  return aleas;
+}
+
+// The same as lines.
+std::vector<std::string> GrillesAleatoires(int N) {
+  std::vector<std::string> grilles;
+  GameState jeu;
+  const Grille grille = Grille::Nouvelle(jeu, SymbolesPour(N));
+  for (const Alea& alea : Aleas(N)) {
+    Charge(alea, grille);
+    std::string& ligne = grilles.emplace_back();
+    for (int i = 1; i <= N * N; ++i) {
+      const Texte symbole = grille(i).ValeurSaisie();
+      ligne += symbole.empty() ? "." : VersUtf8(symbole);
+    }
+  }
+  return grilles;
+}
+
+void Resoudre(benchmark::State& state, const Texte& symboles, const std::vector<std::string>& grilles) {
   if (grilles.empty()) {
     state.SkipWithError("no grid of side 9");
     return;
   }
-  const auto ouvrier = lot::FaisResoudre(lot::Appel{});
+  lot::Appel appel;
+  appel.symboles = symboles;
+  const auto ouvrier = lot::FaisResoudre(appel);
   lot::Reponse reponse;
   for (auto _ : state) {
     for (const std::string& grille : grilles) {
@@ -50,6 +87,11 @@ void Resoudre(benchmark::State& state, const fs::path& chemin) {
 }  // namespace
 
 void InscritResoudre() {
+  for (const int N : {16, 25}) {
+    benchmark::RegisterBenchmark(("Resoudre" + std::to_string(N)).c_str(), [N](benchmark::State& state) {
+      Resoudre(state, SymbolesPour(N), GrillesAleatoires(N));
+    })->Unit(benchmark::kMillisecond);
+  }
   const char* const dossier = std::getenv("SUDOKU_GRILLES");
   if (dossier == nullptr) return;
   std::vector<fs::path> chemins;
@@ -60,7 +102,7 @@ void InscritResoudre() {
   for (const fs::path& chemin : chemins) {
     const std::string nom = "Resoudre/" + chemin.stem().string();
     benchmark::RegisterBenchmark(nom.c_str(), [chemin](benchmark::State& state) {
-      Resoudre(state, chemin);
+      Resoudre(state, lot::Appel{}.symboles, Grilles(chemin));
     })->Unit(benchmark::kMillisecond);
   }
 }

@@ -2,6 +2,7 @@
 //
 //   Resoudre/FILE       every grid of a file of the folder SUDOKU_GRILLES, as sudoku-lot resoudre does it
 //                       but for reading and writing; without the variable none
+//   Resoudre16, 25      the same for boards of these sides made from seeds, 55 to 65 per cent of them open
 //   Evaluation/N/FILL   one evaluation of a board of side N, FILL per cent of it given
 //   Frappe/N            one typed entry in a game, to the board's last redrawn cell
 //
