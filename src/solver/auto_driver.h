@@ -5,7 +5,7 @@
 #include "engine/evaluation.h"
 #include "grid/game_state.h"
 #include "solver/suppositions.h"
-#include "solver/travail9.h"
+#include "solver/travail_noyau.h"
 #include "solver/travail_grille.h"
 
 namespace sudoku {

@@ -8,7 +8,7 @@
 
 #include "engine/explications.h"
 #include "engine/moteur.h"
-#include "solver/noyau9.h"
+#include "solver/noyau.h"
 
 namespace sudoku {
 namespace {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "solver/noyau9.h"
+#include "solver/noyau.h"
 #include "solver/travail_grille.h"
 
 namespace sudoku {
 
-// A run on a grid of side 9 without unproved entries, on the kernel of noyau9.h. The player's grid is brought
+// A run on a grid of side 9 without unproved entries, on the kernel of noyau.h. The player's grid is brought
 // up to date when the run ends or somebody looks.
 class Travail9 : public Travail {
  public:

@@ -1,4 +1,4 @@
-#include "solver/noyau9.h"
+#include "solver/noyau.h"
 
 #include "engine/processeur.h"
 

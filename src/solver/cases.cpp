@@ -1,4 +1,4 @@
-#include "solver/cases9.h"
+#include "solver/cases.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "solver/travail9.h"
+#include "solver/travail_noyau.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,2 +1,2 @@
 #define SUDOKU_MOTEUR noyau_avx512
-#include "solver/noyau9_passe.inc"
+#include "solver/noyau_passe.inc"

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "solver/cases9.h"
+#include "solver/cases.h"
 
 namespace sudoku {
 

@@ -1,0 +1,2 @@
+#define SUDOKU_MOTEUR noyau_base
+#include "solver/noyau_passe.inc"
