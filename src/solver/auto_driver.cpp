@@ -13,7 +13,7 @@ void Ajoute(Texte& texte, std::uint64_t nombre) {
 }  // namespace
 
 AutoDriver::AutoDriver(GameState& jeu, Evaluateur& moteur, PlateauAuto& plateau, Lecture lecture)
-    : jeu_(jeu), plateau_(plateau), lecture_(lecture), general_(moteur), neuf_(moteur) {}
+    : jeu_(jeu), moteur_(moteur), plateau_(plateau), lecture_(lecture), general_(moteur) {}
 
 void AutoDriver::JeuAuto(bool VpReset, bool VpGuess) {
   if (VpReset) jeu_.VsResolu = false;
@@ -25,16 +25,10 @@ void AutoDriver::JeuAuto(bool VpReset, bool VpGuess) {
   if (jeu_.VgSilence) GrilleCopy(jeu_.VmGrille, jeu_.VmGrilleEtat);
   // A loud run writes straight into the live cells until the first Guess.
   Grille VlTravail = jeu_.VgSilence ? jeu_.VmGrilleEtat : jeu_.VmGrille;
-  std::int16_t VlVerdict = 0;
-  if (Travail9::Convient(VlTravail)) {
-    neuf_.Commence(VlTravail);
-    VlVerdict = Cherche(neuf_, VpGuess);
-    VlTravail = neuf_.Rend(lecture_ == Lecture::kContenus);
-  } else {
-    general_.Commence(VlTravail);
-    VlVerdict = Cherche(general_, VpGuess);
-    VlTravail = general_.Rend();
-  }
+  Travail& travail = TravailPour(VlTravail);
+  travail.Commence(VlTravail);
+  const std::int16_t VlVerdict = Cherche(travail, VpGuess);
+  VlTravail = travail.Rend(lecture_ == Lecture::kContenus);
   if (VlVerdict == 0) jeu_.VsResolu = true;
   if (jeu_.VgSilence) {
     jeu_.VgEtat = kJeu;
@@ -44,6 +38,12 @@ void AutoDriver::JeuAuto(bool VpReset, bool VpGuess) {
   }
   if (VlVerdict == 0) jeu_.VmGrilleEtat = VlTravail;
   plateau_.Affiche();
+}
+
+Travail& AutoDriver::TravailPour(const Grille& grille) {
+  if (!NoyauConvient(grille)) return general_;
+  if (coteNoyau_ != grille.N()) noyau_ = FaisTravailNoyau(coteNoyau_ = grille.N(), moteur_);
+  return *noyau_;
 }
 
 // Solve pass and supposition by turns. It ends: a turn opens a level, or refutes for good a candidate of the

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "engine/evaluation.h"
 #include "grid/game_state.h"
 #include "solver/suppositions.h"
-#include "solver/travail_noyau.h"
 #include "solver/travail_grille.h"
+#include "solver/travail_noyau.h"
 
 namespace sudoku {
 
@@ -40,6 +41,7 @@ class AutoDriver {
   std::uint64_t Tours() const { return tours_; }
 
  private:
+  Travail& TravailPour(const Grille& grille);
   std::int16_t Cherche(Travail& travail, bool VpGuess);
   bool GuessResult(std::int16_t VpResultat, Travail& travail);
   bool Guess(Travail& travail);
@@ -47,10 +49,12 @@ class AutoDriver {
   TexteVue MessageFinal(std::int16_t VlVerdict);
 
   GameState& jeu_;
+  Evaluateur& moteur_;
   PlateauAuto& plateau_;
   Lecture lecture_;
   TravailGrille general_;
-  Travail9 neuf_;
+  std::unique_ptr<Travail> noyau_;  // for grids of side coteNoyau_
+  int coteNoyau_ = 0;
   Suppositions VlSupp_;
   Essai Possible_;
   Texte message_;

@@ -2,29 +2,38 @@
 
 #include <algorithm>
 
+#include "engine/lieux.h"
+
 namespace sudoku {
 
-void Cases9::Vide() {
-  *this = Cases9{};
+template <int S>
+void Cases<S>::Vide() {
+  *this = Cases{};
   for (int g = 0; g < 3; ++g) {
-    std::fill_n(&unites[g][9], kVoies - 9, std::uint16_t{0xFFFF});
-    std::fill_n(&ouvertes[g][0], 9, std::uint16_t{0x1FF});
+    std::fill_n(this->unites[g] + N, Contenus<S>::kVoies - N, static_cast<Mot>(~Mot{0}));
+    std::ranges::fill(this->ouvertes[g], static_cast<Mot>(kLieux<S>.tous));
   }
 }
 
-void Cases9::Pose(int cellule, int symbole) {
-  const auto bit = [](int n) { return static_cast<std::uint16_t>(1 << n); };
-  const int l = cellule / 9;
-  const int c = cellule % 9;
-  const int numero[3] = {l / 3 * 3 + c / 3, l, c};
-  const int place[3] = {l % 3 * 3 + c % 3, c, l};
+template <int S>
+void Cases<S>::Pose(int cellule, int symbole) {
+  const auto bit = [](int n) { return static_cast<Mot>(Mot{1} << n); };
+  const Lieu<S>& lieu = kLieux<S>.lieux[cellule];
   for (int g = 0; g < 3; ++g) {
-    symboles[g][numero[g]] |= bit(symbole);
-    unites[g][symbole] |= bit(numero[g]);
-    ouvertes[g][numero[g]] &= static_cast<std::uint16_t>(~bit(place[g]));
+    const int numero = lieu.unite[g] / 3;
+    this->symboles[g][numero] |= bit(symbole);
+    this->unites[g][symbole] |= bit(numero);
+    this->ouvertes[g][numero] &= static_cast<Mot>(~bit(lieu.place[g]));
   }
   valeur[cellule] = static_cast<std::uint8_t>(symbole + 1);
   ++remplies;
 }
+
+template struct Cases<3>;
+template struct Cases<4>;
+template struct Cases<5>;
+template struct Cases<6>;
+template struct Cases<7>;
+template struct Cases<8>;
 
 }  // namespace sudoku

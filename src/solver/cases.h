@@ -6,15 +6,27 @@
 
 namespace sudoku {
 
-// A board of side 9 that a search writes on. Cells are 0 to 80, symbols 0 to 8.
-struct Cases9 : Contenus<3> {
-  std::uint8_t valeur[81];  // 0 for an open cell, else the symbol + 1
-  std::uint8_t remplies;    // cells that aren't open
+// A board of blocks of side S that a search writes on. Cells and symbols count from 0.
+template <int S>
+struct Cases : Contenus<S> {
+  using typename Contenus<S>::Mot;
+  using Contenus<S>::N;
+
+  std::uint8_t valeur[Taille(N * N)];  // 0 for an open cell, else the symbol + 1
+  std::uint16_t remplies;              // cells that aren't open
 
   // All cells are open.
   void Vide();
   // The cell, an open one, holds the symbol.
   void Pose(int cellule, int symbole);
 };
+
+// Made in cases.cpp, so that no version of the hot code makes one that others would share.
+extern template struct Cases<3>;
+extern template struct Cases<4>;
+extern template struct Cases<5>;
+extern template struct Cases<6>;
+extern template struct Cases<7>;
+extern template struct Cases<8>;
 
 }  // namespace sudoku

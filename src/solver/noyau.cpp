@@ -5,25 +5,36 @@
 namespace sudoku {
 
 namespace noyau_base {
-void JeuSolve(Cases9& cases, Appui appui, Passe9& passe);
+template <int S>
+void Resout(Cases<S>& cases, Appui appui, Passe<S>& passe);
 }
 #if defined(SUDOKU_VERSIONS_X86)
 namespace noyau_avx2 {
-void JeuSolve(Cases9& cases, Appui appui, Passe9& passe);
+template <int S>
+void Resout(Cases<S>& cases, Appui appui, Passe<S>& passe);
 }
 namespace noyau_avx512 {
-void JeuSolve(Cases9& cases, Appui appui, Passe9& passe);
+template <int S>
+void Resout(Cases<S>& cases, Appui appui, Passe<S>& passe);
 }
 #endif
 
-std::vector<JeuSolve9> VersionsJeuSolve9() {
-  std::vector<JeuSolve9> versions;
+template <int S>
+std::vector<Noyau<S>> VersionsNoyau() {
+  std::vector<Noyau<S>> versions;
 #if defined(SUDOKU_VERSIONS_X86)
-  if (MeilleuresInstructions() >= Instructions::kAvx512) versions.push_back(noyau_avx512::JeuSolve);
-  if (MeilleuresInstructions() >= Instructions::kAvx2) versions.push_back(noyau_avx2::JeuSolve);
+  if (MeilleuresInstructions() >= Instructions::kAvx512) versions.push_back(noyau_avx512::Resout<S>);
+  if (MeilleuresInstructions() >= Instructions::kAvx2) versions.push_back(noyau_avx2::Resout<S>);
 #endif
-  versions.push_back(noyau_base::JeuSolve);
+  versions.push_back(noyau_base::Resout<S>);
   return versions;
 }
+
+template std::vector<Noyau<3>> VersionsNoyau();
+template std::vector<Noyau<4>> VersionsNoyau();
+template std::vector<Noyau<5>> VersionsNoyau();
+template std::vector<Noyau<6>> VersionsNoyau();
+template std::vector<Noyau<7>> VersionsNoyau();
+template std::vector<Noyau<8>> VersionsNoyau();
 
 }  // namespace sudoku

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "grid/grille.h"
 #include "solver/suppositions.h"
 
 namespace sudoku {
@@ -10,6 +11,12 @@ namespace sudoku {
 class Travail {
  public:
   virtual ~Travail() = default;
+
+  // Works on the cells of `grille` until Detache.
+  virtual void Commence(const Grille& grille) = 0;
+  // The grid as the run leaves it, which it lets go of. Evaluated, unless `contenus` says that its contents
+  // alone will be read.
+  virtual Grille Rend(bool contenus) = 0;
 
   // Carries the deductions into the board until an evaluation leaves nothing to write. -1: a cell has no
   // candidate; 0: complete; otherwise the number of cells not settled. Only where `possibles` says so are the

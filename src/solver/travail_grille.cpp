@@ -18,7 +18,7 @@ void TravailGrille::Commence(const Grille& grille) {
   baseProuvee_ = false;
 }
 
-Grille TravailGrille::Rend() {
+Grille TravailGrille::Rend(bool /*contenus*/) {
   return std::exchange(travail_, Grille());
 }
 

@@ -10,12 +10,11 @@ class TravailGrille : public Travail {
  public:
   explicit TravailGrille(Evaluateur& moteur) : moteur_(moteur) {}
 
-  // Works on the cells of `grille` until Detache.
-  void Commence(const Grille& grille);
-  // The board as it stands; lets go of it.
-  Grille Rend();
   // Puts a cell of the board at this content and Etat, unjudged.
   void Charge(int cellule, Code symbole, std::int32_t etat);
+
+  void Commence(const Grille& grille) override;
+  Grille Rend(bool contenus) override;
 
   std::int16_t JeuSolve(bool possibles) override;
   void PrendBase() override;

@@ -3,34 +3,66 @@
 #include <algorithm>
 #include <bit>
 
+#include "engine/lieux.h"
 #include "grid/game_state.h"
+#include "solver/noyau.h"
+#include "solver/travail_grille.h"
 
 namespace sudoku {
 namespace {
-
-constexpr int kCases = 81;
-constexpr int kTous = 0x1FF;
 
 std::size_t At(int i) {
   return static_cast<std::size_t>(i);
 }
 
-}  // namespace
+template <int S>
+class TravailVoies : public Travail {
+ public:
+  explicit TravailVoies(Evaluateur& moteur)
+      : moteur_(moteur), general_(moteur), noyau_(VersionsNoyau<S>().front()) {}
 
-bool Travail9::Convient(const Grille& grille) {
-  if (grille.N() != 9) return false;
-  const Bloc& bloc = grille.Donnees();
-  for (int p = 0; p < 9; ++p) {
-    if (bloc.alphabet->Premiere(p) != p) return false;
-  }
-  for (int i = 1; i <= kCases; ++i) {
-    const bool symbole = bloc.saisie[At(i)] == kVide || bloc.alphabet->Position(bloc.saisie[At(i)]) >= 0;
-    if (!symbole || bloc.etat[At(i)] < kDonnee || bloc.etat[At(i)] > kProuvee) return false;
-  }
-  return true;
-}
+  void Commence(const Grille& grille) override;
+  Grille Rend(bool contenus) override;
 
-void Travail9::Commence(const Grille& grille) {
+  std::int16_t JeuSolve(bool possibles) override;
+  void PrendBase() override;
+  void Reconstruit() override;
+  void Detache() override { detachee_ = true; }
+  void Suppose(int cellule, Code symbole) override;
+  int CelluleOuverte(int cellule, Essai& Possible) override;
+  bool SymboleEnDouble() override;
+  std::int16_t Acheve() override;
+  void Montre() override;
+
+ private:
+  static constexpr int N = S * S;
+  static constexpr int kCases = N * N;
+  using Mot = typename Largeur<S>::Mot;
+  using Bits = typename Largeur<S>::Bits;
+
+  void Ecrit(Grille& grille) const;
+  // The base's contents go to the player's grid.
+  void EcritBase();
+  void PasseAuGeneral();
+
+  Evaluateur& moteur_;
+  TravailGrille general_;  // takes over an attempt in which a wrong entry comes up
+  bool auGeneral_ = false;
+  Noyau<S> noyau_;
+  Grille grille_;  // the player's: what was given, then the base
+  Grille copie_;   // what the last attempt is delivered in
+  bool detachee_ = false;
+  bool montree_ = false;
+  bool base_ = false;  // the base has been taken
+  Cases<S> casesBase_;
+  Cases<S> cases_;
+  Passe<S> passe_;
+  Mot candidatsBase_[Taille(kCases)];
+  const Mot* candidats_ = nullptr;  // of `cases_`, as the last evaluation or the base has them
+};
+
+template <int S>
+void TravailVoies<S>::Commence(const Grille& grille) {
   grille_ = grille;
   auGeneral_ = detachee_ = montree_ = base_ = false;
   cases_.Vide();
@@ -40,7 +72,8 @@ void Travail9::Commence(const Grille& grille) {
   }
 }
 
-Grille Travail9::Rend(bool contenus) {
+template <int S>
+Grille TravailVoies<S>::Rend(bool contenus) {
   Grille rendue = grille_;
   if (detachee_) {
     if (contenus) {
@@ -55,7 +88,7 @@ Grille Travail9::Rend(bool contenus) {
     copie_ = grille_;
   }
   if (auGeneral_) {
-    rendue = general_.Rend();
+    rendue = general_.Rend(contenus);
   } else {
     Ecrit(rendue);
     if (!contenus) moteur_.Evaluation(rendue, 2);
@@ -67,7 +100,8 @@ Grille Travail9::Rend(bool contenus) {
 
 // The contents that the run has written into `cases_`: proved ones while there is no base, or in it, all
 // others rest on suppositions.
-void Travail9::Ecrit(Grille& grille) const {
+template <int S>
+void TravailVoies<S>::Ecrit(Grille& grille) const {
   Bloc& bloc = grille.Donnees();
   for (int i = 1; i <= kCases; ++i) {
     if (bloc.saisie[At(i)] != kVide || cases_.valeur[i - 1] == 0) continue;
@@ -76,9 +110,10 @@ void Travail9::Ecrit(Grille& grille) const {
   }
 }
 
-std::int16_t Travail9::JeuSolve(bool possibles) {
+template <int S>
+std::int16_t TravailVoies<S>::JeuSolve(bool possibles) {
   if (!auGeneral_) {
-    jeuSolve_(cases_, base_ ? Appui::kPossible : Appui::kSur, passe_);
+    noyau_(cases_, base_ ? Appui::kPossible : Appui::kSur, passe_);
     candidats_ = passe_.candidats;
     // The kernel stops at the first cell without candidates; the engine then says what is left to the others.
     const bool complete = !passe_.erronee && (passe_.verdict >= 0 || !possibles);
@@ -88,20 +123,23 @@ std::int16_t Travail9::JeuSolve(bool possibles) {
   return general_.JeuSolve(possibles);
 }
 
-void Travail9::PrendBase() {
+template <int S>
+void TravailVoies<S>::PrendBase() {
   base_ = true;
   casesBase_ = cases_;
   std::ranges::copy(passe_.candidats, candidatsBase_);
 }
 
-void Travail9::Reconstruit() {
+template <int S>
+void TravailVoies<S>::Reconstruit() {
   auGeneral_ = false;
   cases_ = casesBase_;
   candidats_ = candidatsBase_;
   passe_.erronee = false;
 }
 
-void Travail9::Suppose(int cellule, Code symbole) {
+template <int S>
+void TravailVoies<S>::Suppose(int cellule, Code symbole) {
   if (!auGeneral_ && (candidats_[cellule - 1] >> symbole & 1) != 0) {
     cases_.Pose(cellule - 1, symbole);
     return;
@@ -111,7 +149,8 @@ void Travail9::Suppose(int cellule, Code symbole) {
 }
 
 // The attempt goes on with the engine: the base, evaluated, with what the attempt has written since.
-void Travail9::PasseAuGeneral() {
+template <int S>
+void TravailVoies<S>::PasseAuGeneral() {
   Montre();
   Grille grille;
   GrilleCopy(grille_, grille);
@@ -127,10 +166,11 @@ void Travail9::PasseAuGeneral() {
   auGeneral_ = true;
 }
 
-int Travail9::CelluleOuverte(int cellule, Essai& Possible) {
+template <int S>
+int TravailVoies<S>::CelluleOuverte(int cellule, Essai& Possible) {
   if (auGeneral_) return general_.CelluleOuverte(cellule, Possible);
   for (int i = cellule + 1; i <= kCases; ++i) {
-    std::uint32_t candidats = candidats_[i - 1];
+    Bits candidats = candidats_[i - 1];
     if (cases_.valeur[i - 1] != 0 || std::popcount(candidats) < 2) continue;
     Possible.clear();
     for (; candidats != 0; candidats &= candidats - 1) Possible.push_back(std::countr_zero(candidats));
@@ -139,33 +179,70 @@ int Travail9::CelluleOuverte(int cellule, Essai& Possible) {
   return 0;
 }
 
-bool Travail9::SymboleEnDouble() {
+template <int S>
+bool TravailVoies<S>::SymboleEnDouble() {
   if (auGeneral_) return general_.SymboleEnDouble();
-  for (int u = 0; u < 9; ++u) {
-    if ((cases_.symboles[0][u] & cases_.symboles[1][u] & cases_.symboles[2][u]) != kTous) return true;
+  for (int u = 0; u < N; ++u) {
+    const auto& symboles = cases_.symboles;
+    if ((symboles[0][u] & symboles[1][u] & symboles[2][u]) != kLieux<S>.tous) return true;
   }
   return false;
 }
 
 // The base has no wrong entries, and every cell that is open after a pass has several candidates, so that the
 // kernel itself never comes here.
-std::int16_t Travail9::Acheve() {
+template <int S>
+std::int16_t TravailVoies<S>::Acheve() {
   return auGeneral_ ? general_.Acheve() : passe_.verdict;
 }
 
-void Travail9::Montre() {
+template <int S>
+void TravailVoies<S>::Montre() {
   if (montree_) return;
   montree_ = true;
   EcritBase();
   moteur_.Evaluation(grille_, 2);
 }
 
-void Travail9::EcritBase() {
+template <int S>
+void TravailVoies<S>::EcritBase() {
   Bloc& bloc = grille_.Donnees();
   for (int i = 1; i <= kCases; ++i) {
     if (bloc.saisie[At(i)] != kVide || casesBase_.valeur[i - 1] == 0) continue;
     bloc.saisie[At(i)] = casesBase_.valeur[i - 1] - 1;
     bloc.etat[At(i)] = kProuvee;
+  }
+}
+
+}  // namespace
+
+bool NoyauConvient(const Grille& grille) {
+  if (grille.N() < 9 || grille.N() > 64) return false;
+  const Bloc& bloc = grille.Donnees();
+  for (int p = 0; p < grille.N(); ++p) {
+    if (bloc.alphabet->Premiere(p) != p) return false;
+  }
+  for (int i = 1; i <= grille.Borne(); ++i) {
+    const bool symbole = bloc.saisie[At(i)] == kVide || bloc.alphabet->Position(bloc.saisie[At(i)]) >= 0;
+    if (!symbole || bloc.etat[At(i)] < kDonnee || bloc.etat[At(i)] > kProuvee) return false;
+  }
+  return true;
+}
+
+std::unique_ptr<Travail> FaisTravailNoyau(int N, Evaluateur& moteur) {
+  switch (N) {
+    case 9:
+      return std::make_unique<TravailVoies<3>>(moteur);
+    case 16:
+      return std::make_unique<TravailVoies<4>>(moteur);
+    case 25:
+      return std::make_unique<TravailVoies<5>>(moteur);
+    case 36:
+      return std::make_unique<TravailVoies<6>>(moteur);
+    case 49:
+      return std::make_unique<TravailVoies<7>>(moteur);
+    default:
+      return std::make_unique<TravailVoies<8>>(moteur);
   }
 }
 

@@ -19,45 +19,58 @@ int Pleine(int N, int S, int cellule) {
 }
 
 // A board from right to hopeless: `erreurs` in a thousand contents are wrong.
-Cases9 Alea9(std::mt19937& suite, std::uint_fast32_t remplissage, std::uint_fast32_t erreurs) {
-  Cases9 cases;
+template <int S>
+Cases<S> Alea(std::mt19937& suite, std::uint_fast32_t remplissage, std::uint_fast32_t erreurs) {
+  constexpr int N = S * S;
+  Cases<S> cases;
   cases.Vide();
-  for (int i = 0; i < 81; ++i) {
+  for (int i = 0; i < N * N; ++i) {
     if (suite() % 100 >= remplissage) continue;
     const bool fausse = suite() % 1000 < erreurs;
-    cases.Pose(i, fausse ? static_cast<int>(suite() % 9) : Pleine(9, 3, i));
+    cases.Pose(i, fausse ? static_cast<int>(suite() % N) : Pleine(N, S, i));
   }
   return cases;
 }
 
-TEST(Noyau9, ToutesLesVersionsDonnentLeMeme) {
-  const auto versions = VersionsJeuSolve9();
-  std::mt19937 suite(9);
+template <int S>
+void CompareNoyaux(int tours, int voulues) {
+  constexpr int N = S * S;
+  const auto versions = VersionsNoyau<S>();
+  std::mt19937 suite(N);
   int avances = 0;
-  for (int tour = 0; tour < 4000; ++tour) {
-    const Cases9 depart = Alea9(suite, 15 + suite() % 50, tour % 3 == 0 ? 100 : 0);
+  for (int tour = 0; tour < tours; ++tour) {
+    const Cases<S> depart = Alea<S>(suite, 15 + suite() % 50, tour % 3 == 0 ? 900 / N : 0);
     for (const Appui appui : {Appui::kSur, Appui::kPossible}) {
-      Cases9 attendues = depart;
-      Passe9 attendue;
+      Cases<S> attendues = depart;
+      Passe<S> attendue;
       versions.back()(attendues, appui, attendue);
       avances += attendue.verdict > 0 ? 1 : 0;
-      for (const JeuSolve9 version : versions) {
-        Cases9 cases = depart;
-        Passe9 passe;
+      for (const Noyau<S> version : versions) {
+        Cases<S> cases = depart;
+        Passe<S> passe;
         version(cases, appui, passe);
         ASSERT_EQ(passe.erronee, attendue.erronee) << tour;
         ASSERT_EQ(std::memcmp(cases.valeur, attendues.valeur, sizeof cases.valeur), 0) << tour;
         if (passe.erronee) continue;
         ASSERT_EQ(passe.verdict, attendue.verdict) << tour;
         if (passe.verdict <= 0) continue;
-        for (int i = 0; i < 81; ++i) {
+        for (int i = 0; i < N * N; ++i) {
           const bool egaux = cases.valeur[i] != 0 || passe.candidats[i] == attendue.candidats[i];
           ASSERT_TRUE(egaux) << tour << ' ' << i;
         }
       }
     }
   }
-  EXPECT_GT(avances, 200) << "too few boards on which the deductions go to their end";
+  EXPECT_GT(avances, voulues) << "too few boards on which the deductions go to their end";
+}
+
+TEST(Noyau, ToutesLesVersionsDonnentLeMeme) {
+  CompareNoyaux<3>(4000, 200);
+  CompareNoyaux<4>(1000, 50);
+  CompareNoyaux<5>(500, 50);
+  CompareNoyaux<6>(100, 10);
+  CompareNoyaux<7>(50, 10);
+  CompareNoyaux<8>(50, 10);
 }
 
 TEST(Moteur, ToutesLesVersionsDonnentLeMeme) {
