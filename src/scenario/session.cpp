@@ -35,7 +35,8 @@ Session::Session(std::istream& entree, std::ostream& sortie, Fichiers& fichiers,
       sortie_(sortie),
       systeme_(sortie, fichiers, [this] { return Avance(); }),
       scene_(scene(systeme_)),
-      programme_(scene_->LeSysteme()) {}
+      programme_(scene_->LeSysteme()),
+      modales_(programme_.Modales()) {}
 
 void Session::Joue() {
   try {

@@ -82,7 +82,8 @@ class Session {
   SystemeSansEcran systeme_;
   std::unique_ptr<Scene> scene_;
   Programme programme_;
-  bool partie_ = false;  // `start` has run
+  std::vector<Fenetre> modales_;  // the tables of the windows that come up and go
+  bool partie_ = false;           // `start` has run
 };
 
 }  // namespace sudoku

@@ -1,7 +1,6 @@
 // What the commands of a session do, and which of them are refused.
 
 #include <algorithm>
-#include <array>
 #include <limits>
 
 #include "scenario/session.h"
@@ -12,41 +11,19 @@ namespace {
 
 const Texte kModale = U"fenêtre modale ouverte";
 
-// An element that commands name, the commands that know it, and the windows that have one of this name.
-struct Nomme {
-  TexteVue nom;
-  std::array<TexteVue, 3> commandes;
-  std::array<TexteVue, 2> fenetres;
-};
-
-constexpr Nomme kNommes[] = {
-    {U"BtOK", {U"click"}, {U"FRMParties", U"FRMNRVAbout"}},
-    {U"BtDel", {U"click"}, {U"FRMParties"}},
-    {U"BtSysInfo", {U"click"}, {U"FRMNRVAbout"}},
-    {U"BtViewSolution", {U"click", U"press", U"release"}, {U"FRMHelp"}},
-    {U"ChkLightSur", {U"click"}, {U"FRMHelp"}},
-    {U"ChkLightPoss", {U"click"}, {U"FRMHelp"}},
-    {U"ChkForeBlue", {U"click"}, {U"FRMHelp"}},
-    {U"ChkForeRed", {U"click"}, {U"FRMHelp"}},
-    {U"ChkListPoss", {U"click"}, {U"FRMHelp"}},
-    {U"ChkRep", {U"click"}, {U"FRMHelp"}},
-    {U"ChkTips", {U"click"}, {U"FRMHelp"}},
-    {U"LstLoad", {U"select", U"dblclick"}, {U"FRMParties"}},
-    {U"LstSave", {U"select", U"dblclick", U"edit"}, {U"FRMParties"}},
-    {U"FRMSudoku", {U"close"}, {U"FRMSudoku"}},
-    {U"FRMHelp", {U"close"}, {U"FRMHelp"}},
-    {U"FRMParties", {U"close"}, {U"FRMParties"}},
-    {U"FRMNRVAbout", {U"close"}, {U"FRMNRVAbout"}},
-};
-
-bool Connait(const Nomme& nomme, TexteVue commande) {
-  return std::find(nomme.commandes.begin(), nomme.commandes.end(), commande) != nomme.commandes.end();
-}
-
-const Nomme* Connu(TexteVue commande, TexteVue nom) {
-  const auto place = std::find_if(std::begin(kNommes), std::end(kNommes),
-                                  [&](const Nomme& n) { return n.nom == nom && Connait(n, commande); });
-  return place == std::end(kNommes) ? nullptr : place;
+// Whether the command acts on what the window calls `nom`, an element, a menu item or the window itself.
+bool AgitSur(TexteVue commande, Fenetre& fenetre, TexteVue nom) {
+  const std::string octets = VersUtf8(nom);
+  if (commande == U"close") return fenetre.Name == octets;
+  if (const ArticleMenu* article = fenetre.TrouveArticle(octets)) {
+    return commande == U"click" && article->Click != nullptr;
+  }
+  const Element* element = fenetre.Trouve(octets);
+  if (element == nullptr) return false;
+  const Genre genre = element->genre;
+  if (commande == U"click") return genre == Genre::kBouton || genre == Genre::kCaseACocher;
+  if (commande == U"press" || commande == U"release") return element->MouseDown != nullptr;
+  return genre == Genre::kChampListe || (genre == Genre::kListe && commande != U"edit");
 }
 
 // What the game says of an act that it didn't carry out; empty: it did.
@@ -78,15 +55,11 @@ Session::Refus Session::CaseDuPlateau(const Mot& mot, int& Index) {
 
 // The window of the element or window `nom`, if the command can act there.
 Session::Cible Session::Vise(TexteVue commande, TexteVue nom) {
-  const Nomme* nomme = Connu(commande, nom);
-  const bool menu = commande == U"click" && Principale().TrouveArticle(VersUtf8(nom)) != nullptr &&
-                    Principale().TrouveArticle(VersUtf8(nom))->Click != nullptr;
-  if (nomme == nullptr && !menu) return {.refus = U"pas d'élément " + Texte(nom)};
-  const auto possede = [&](const Fenetre& fenetre) {
-    if (menu) return &fenetre == &Principale();
-    const Texte nomFenetre = DepuisUtf8(fenetre.Name);
-    return nomFenetre == nomme->fenetres[0] || nomFenetre == nomme->fenetres[1];
-  };
+  const auto possede = [&](Fenetre& fenetre) { return AgitSur(commande, fenetre, nom); };
+  const auto reste = [&](Fenetre* fenetre) { return possede(*fenetre); };
+  if (std::ranges::none_of(systeme_.Fenetres(), reste) && std::ranges::none_of(modales_, possede)) {
+    return {.refus = U"pas d'élément " + Texte(nom)};
+  }
   if (const Boite* dessus = systeme_.Dessus()) {
     if (dessus->fenetre == nullptr || !possede(*dessus->fenetre)) return {.refus = kModale};
     return {.fenetre = dessus->fenetre};

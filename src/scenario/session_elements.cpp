@@ -9,45 +9,26 @@
 namespace sudoku {
 namespace {
 
-// What `show NAME` prints of an element: C Caption, T Text, V Value, G Left Top Width Height, S Width Height,
-// W Visible, E Enabled, M TopMost.
-struct Proprietes {
-  std::string_view nom;
-  std::string_view lettres;
-};
-
-constexpr Proprietes kProprietes[] = {
-    {"FRMSudoku", "CSWM"},
-    {"FRMHelp", "CSWM"},
-    {"FRMParties", "CS"},
-    {"FRMNRVAbout", "CS"},
-    {"LblInfos", "CG"},
-    {"LblChrono", "CGW"},
-    {"Tmr", "E"},
-    {"FrmGeneral", "CG"},
-    {"FrmCase", "CG"},
-    {"BtViewSolution", "CG"},
-    {"ChkLightSur", "CVG"},
-    {"ChkLightPoss", "CVG"},
-    {"ChkForeBlue", "CVG"},
-    {"ChkForeRed", "CVG"},
-    {"ChkListPoss", "CVG"},
-    {"ChkRep", "CVG"},
-    {"ChkTips", "CVG"},
-    {"TxtLightSur", "TGE"},
-    {"TxtLightPoss", "TGE"},
-    {"TxtListPoss", "TGE"},
-    {"TxtRep", "TGE"},
-    {"TxtTips", "TGE"},
-    {"BtOK", "CG"},
-    {"BtDel", "CG"},
-    {"BtSysInfo", "CG"},
-    {"lblTitle", "CG"},
-    {"lblVersion", "CG"},
-    {"lblDescription", "CG"},
-    {"lblDisclaimer", "G"},
-    {"PicIco", "G"},
-};
+// What `show NAME` prints of an element: C Caption, T Text, V Value, G Left Top Width Height, W Visible, E
+// Enabled. Nothing: the element can't be shown.
+std::string_view Proprietes(const Element& e) {
+  if (e.Name == "LblChrono") return "CGW";    // comes and goes
+  if (e.Name == "lblDisclaimer") return "G";  // its text is free
+  switch (e.genre) {
+    case Genre::kEtiquette:
+    case Genre::kCadre:
+    case Genre::kBouton:
+      return "CG";
+    case Genre::kCaseACocher:
+      return "CVG";
+    case Genre::kTexte:
+      return "TGE";
+    case Genre::kImage:
+      return "G";
+    default:
+      return {};
+  }
+}
 
 Texte Place(Twips Left, Twips Top, Twips Width, Twips Height) {
   return Paire(U"Left", Left) + Paire(U"Top", Top) + Paire(U"Width", Width) + Paire(U"Height", Height);
@@ -67,19 +48,6 @@ Texte ProprieteElement(char lettre, const Element& e) {
       return Paire(U"Enabled", e.Enabled);
     default:
       return Place(e.Left, e.Top, e.Width, e.Height);
-  }
-}
-
-Texte ProprieteFenetre(char lettre, const Fenetre& f) {
-  switch (lettre) {
-    case 'C':
-      return Paire(U"Caption", Cite(f.Caption));
-    case 'W':
-      return Paire(U"Visible", f.Visible);
-    case 'M':
-      return Paire(U"TopMost", f.TopMost);
-    default:
-      return Paire(U"Width", f.Width) + Paire(U"Height", f.Height);
   }
 }
 
@@ -126,26 +94,27 @@ bool SessionVue::ArticleOuMenu(std::string_view nom) {
   return true;
 }
 
-// An element of `fenetre`, or the window itself, that has properties to print.
+// An element of `fenetre`, a timer or the window itself, if it has properties to print.
 bool SessionVue::DansFenetre(Fenetre& fenetre, std::string_view nom) {
-  Element* element = fenetre.Trouve(nom);
-  if (element != nullptr && (element->genre == Genre::kListe || element->genre == Genre::kChampListe)) {
-    Liste(*element);
-    return true;
-  }
-  const auto place = std::find_if(std::begin(kProprietes), std::end(kProprietes),
-                                  [&](const Proprietes& p) { return p.nom == nom; });
-  if (place == std::end(kProprietes)) return false;
   Texte ligne = DepuisUtf8(nom);
-  const Minuterie* minuterie = fenetre.TrouveMinuterie(nom);
-  if (element == nullptr && minuterie == nullptr && fenetre.Name != nom) return false;
-  for (const char lettre : place->lettres) {
-    if (element != nullptr) {
-      ligne += ProprieteElement(lettre, *element);
-    } else {
-      ligne +=
-          minuterie != nullptr ? Paire(U"Enabled", minuterie->Enabled) : ProprieteFenetre(lettre, fenetre);
+  if (fenetre.Name == nom) {
+    ligne += Paire(U"Caption", Cite(fenetre.Caption)) + Paire(U"Width", fenetre.Width) +
+             Paire(U"Height", fenetre.Height);
+    if (&fenetre != systeme_.FenetreModale()) {
+      ligne += Paire(U"Visible", fenetre.Visible) + Paire(U"TopMost", fenetre.TopMost);
     }
+  } else if (const Minuterie* minuterie = fenetre.TrouveMinuterie(nom)) {
+    ligne += Paire(U"Enabled", minuterie->Enabled);
+  } else {
+    const Element* element = fenetre.Trouve(nom);
+    if (element == nullptr) return false;
+    if (element->genre == Genre::kListe || element->genre == Genre::kChampListe) {
+      Liste(*element);
+      return true;
+    }
+    const std::string_view lettres = Proprietes(*element);
+    if (lettres.empty()) return false;
+    for (const char lettre : lettres) ligne += ProprieteElement(lettre, *element);
   }
   Ligne(ligne);
   return true;

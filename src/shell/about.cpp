@@ -141,16 +141,19 @@ void StartSysInfo(Systeme& systeme) {
   systeme.Message(U"Les informations système ne sont pas disponibles actuellement");
 }
 
+Fenetre FRMNRVAbout::Table(Fenetre& proprietaire) {
+  return {.Name = "FRMNRVAbout",
+          .Caption = U"À propos de Sudoku",
+          .Width = 5730,
+          .Height = 3825,
+          .Dialogue = true,
+          .CentreSurProprietaire = true,
+          .proprietaire = &proprietaire,
+          .elements = Elements()};
+}
+
 FRMNRVAbout::FRMNRVAbout(Systeme& systeme, Fenetre& proprietaire)
-    : systeme_(systeme),
-      fenetre_{.Name = "FRMNRVAbout",
-               .Caption = U"À propos de Sudoku",
-               .Width = 5730,
-               .Height = 3825,
-               .Dialogue = true,
-               .CentreSurProprietaire = true,
-               .proprietaire = &proprietaire,
-               .elements = Elements()} {
+    : systeme_(systeme), fenetre_(Table(proprietaire)) {
   fenetre_.Trouve("BtOK")->Click = [this] { fenetre_.Ferme(); };
   fenetre_.Trouve("BtSysInfo")->Click = [this] { StartSysInfo(systeme_); };
 }

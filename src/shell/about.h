@@ -24,6 +24,9 @@ class FRMNRVAbout {
   FRMNRVAbout(const FRMNRVAbout&) = delete;
   FRMNRVAbout& operator=(const FRMNRVAbout&) = delete;
 
+  // Its table, without handlers.
+  static Fenetre Table(Fenetre& proprietaire);
+
   // Shows it and comes back when it has closed.
   void Montre() { systeme_.MontreModale(fenetre_); }
 

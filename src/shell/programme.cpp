@@ -2,6 +2,7 @@
 
 #include "play/conforts_jeu.h"
 #include "play/frm_sudoku.h"
+#include "storage/frm_parties.h"
 
 namespace sudoku {
 
@@ -26,6 +27,10 @@ Programme::Programme(Systeme& systeme)
   principale_.conforts = ConfortsDuJeu(jeu_, principale_.plateau, saisies_, commandes_);
   systeme.Ajoute(principale_);
   systeme.Ajoute(assistant_.LaFenetre());
+}
+
+std::vector<Fenetre> Programme::Modales() {
+  return {FRMParties::Table(principale_), FRMNRVAbout::Table(principale_)};
 }
 
 Programme::~Programme() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "assistant/frm_help.h"
 #include "play/cell_input.h"
 #include "play/chrono.h"
@@ -29,6 +31,8 @@ class Programme {
   Fenetre& Principale() { return principale_; }
   const Fenetre& Principale() const { return principale_; }
   Assistant& LAssistant() { return assistant_; }
+  // The tables of the windows that come up and go, without handlers.
+  std::vector<Fenetre> Modales();
   GameFlow& Deroulement() { return deroulement_; }
   Stockage& LeStockage() { return stockage_; }
 

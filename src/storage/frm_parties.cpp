@@ -7,7 +7,16 @@
 namespace sudoku {
 namespace {
 
-Fenetre Table(Fenetre& proprietaire) {
+std::int16_t NumeroDePartie(std::size_t numero) {
+  if (numero > static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
+    throw Erreur(kIndiceHorsSelection);
+  }
+  return static_cast<std::int16_t>(numero);
+}
+
+}  // namespace
+
+Fenetre FRMParties::Table(Fenetre& proprietaire) {
   return {.Name = "FRMParties",
           .Caption = U"Nom de la grille ?",
           .Width = 2580,
@@ -49,15 +58,6 @@ Fenetre Table(Fenetre& proprietaire) {
                         .Height = 375,
                         .TabIndex = 3}}};
 }
-
-std::int16_t NumeroDePartie(std::size_t numero) {
-  if (numero > static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
-    throw Erreur(kIndiceHorsSelection);
-  }
-  return static_cast<std::int16_t>(numero);
-}
-
-}  // namespace
 
 FRMParties::FRMParties(GameState& jeu, Systeme& systeme, Fenetre& proprietaire)
     : jeu_(jeu),

@@ -14,6 +14,9 @@ class FRMParties {
   FRMParties(const FRMParties&) = delete;
   FRMParties& operator=(const FRMParties&) = delete;
 
+  // Its table, without handlers.
+  static Fenetre Table(Fenetre& proprietaire);
+
   // Shows it and comes back when it has closed.
   void Montre();
 
