@@ -1,9 +1,11 @@
 #include "lot/appel.h"
 
-#include <CLI/CLI.hpp>
+#include <getopt.h>
+
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
+#include <map>
 #include <string_view>
 #include <thread>
 
@@ -67,44 +69,8 @@ Texte Symboles(const std::string& mot) {
   return *symboles;
 }
 
-// The library's own messages are English: they are told by their kind.
-std::string Raison(const CLI::ParseError& erreur) {
-  if (erreur.get_exit_code() == static_cast<int>(CLI::ExitCodes::ArgumentMismatch)) {
-    return "une option attend une valeur qui n'est pas donnée";
-  }
-  return "options incorrectes";
-}
-
-void Analyse(CLI::App& app, std::vector<std::string> mots) {
-  mots.erase(mots.begin());                // the command
-  std::reverse(mots.begin(), mots.end());  // the order that the library takes words in
-  try {
-    app.parse(std::move(mots));
-  } catch (const CLI::ParseError& erreur) {
-    throw AppelIncorrect{Raison(erreur)};
-  }
-}
-
 int Processus(int demandes) {
   return demandes > 0 ? demandes : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
-}
-
-// What isn't an option is a file, and behind "--" everything. The library would take "[a]" for a list of
-// files.
-std::vector<std::string> Fichiers(const std::vector<std::string>& restes) {
-  std::vector<std::string> fichiers;
-  bool options = true;
-  for (const std::string& mot : restes) {
-    if (options && mot == "--") {
-      options = false;
-    } else if (options && mot.size() > 1 && mot.front() == '-') {
-      throw AppelIncorrect{"option inconnue : " + mot};
-    } else {
-      fichiers.push_back(mot);
-    }
-  }
-  if (fichiers.empty()) fichiers.emplace_back("-");
-  return fichiers;
 }
 
 struct Commande {
@@ -124,38 +90,80 @@ const Commande& Connue(const std::string& mot) {
   return *commande;
 }
 
-Appel Lis(std::vector<std::string> mots) {
+constexpr option kOptions[] = {{"symboles", required_argument, nullptr, 0},
+                               {"processus", required_argument, nullptr, 0},
+                               {"passes", required_argument, nullptr, 0},
+                               {"deduction", no_argument, nullptr, 0},
+                               {"texte", no_argument, nullptr, 0}};
+
+// The words of a call: options with their values, of an option given twice the last, and what is no option.
+struct Mots {
+  std::map<std::string, std::string> options;
+  std::vector<std::string> fichiers;
+  std::string inconnue;  // the first that looks like an option and is none
+};
+
+std::vector<option> OptionsDe(const Commande& commande) {
+  std::vector<option> options;
+  for (const option& o : kOptions) {
+    if (commande.options.find(std::string("--") + o.name) != std::string_view::npos) options.push_back(o);
+  }
+  options.push_back({});
+  return options;
+}
+
+// The words, the command first, which the C library takes for the name of the program.
+Mots Trie(const Commande& commande, std::vector<std::string> mots) {
+  constexpr int kFichier = 1;
+  const std::vector<option> options = OptionsDe(commande);
+  std::vector<char*> argv;
+  for (std::string& mot : mots) argv.push_back(mot.data());
+  Mots tries;
+  opterr = 0;
+  optind = 0;
+  int ici = 1;
+  for (int lue = 0;
+       (lue = getopt_long(static_cast<int>(argv.size()), argv.data(), "-:", options.data(), nullptr)) != -1;
+       ici = optind) {
+    const std::string mot = argv[static_cast<std::size_t>(ici)];
+    const std::string nom = mot.substr(0, mot.find('='));
+    if (lue == kFichier) {
+      tries.fichiers.push_back(mot);
+    } else if (std::ranges::none_of(options, [&](const option& o) {
+                 return o.name != nullptr && nom == std::string("--") + o.name;
+               })) {
+      // The beginning of a name would do for the library, and not here; what it took for the value is a word.
+      optind = std::min(optind, ici + 1);
+      if (tries.inconnue.empty()) tries.inconnue = mot;
+    } else if (lue == ':') {
+      throw AppelIncorrect{"une option attend une valeur qui n'est pas donnée"};
+    } else if (lue == '?') {
+      throw AppelIncorrect{"options incorrectes"};
+    } else {
+      tries.options[nom] = optarg == nullptr ? "" : optarg;
+    }
+  }
+  tries.fichiers.insert(tries.fichiers.end(), mots.begin() + optind, mots.end());
+  return tries;
+}
+
+Appel Lis(const std::vector<std::string>& mots) {
   constexpr int kProcessusMax = 1024;
   const Commande& commande = Connue(mots.front());
+  Mots tries = Trie(commande, mots);
+  const auto donnee = [&](const char* nom) { return tries.options.contains(nom); };
   Appel appel;
   appel.commande = commande.nom;
-  // Values as words: what is wrong with them is to be said in French.
-  std::string symboles;
-  std::string processus;
-  std::string passes;
-  CLI::App app;
-  app.set_help_flag();
-  app.allow_extras();
-  const auto permise = [&](std::string_view nom) {
-    return commande.options.find(nom) != std::string_view::npos;
-  };
-  const auto valeur = [&](const char* nom, std::string& mot) {
-    if (permise(nom)) app.add_option(nom, mot)->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-  };
-  const auto drapeau = [&](const char* nom, bool& mis) {
-    if (permise(nom)) app.add_flag(nom, mis);
-  };
-  valeur("--symboles", symboles);
-  valeur("--processus", processus);
-  valeur("--passes", passes);
-  drapeau("--deduction", appel.deduction);
-  drapeau("--texte", appel.texte);
-  Analyse(app, std::move(mots));
-  const auto donnee = [&](const char* nom) { return permise(nom) && app.count(nom) > 0; };
-  if (donnee("--symboles")) appel.symboles = Symboles(symboles);
-  if (donnee("--processus")) appel.processus = Processus(Entier(processus, "--processus", 0, kProcessusMax));
-  if (donnee("--passes")) appel.passes = Entier(passes, "--passes", 1, 2);
-  appel.fichiers = Fichiers(app.remaining());
+  appel.deduction = donnee("--deduction");
+  appel.texte = donnee("--texte");
+  if (donnee("--symboles")) appel.symboles = Symboles(tries.options["--symboles"]);
+  if (donnee("--processus")) {
+    appel.processus = Processus(Entier(tries.options["--processus"], "--processus", 0, kProcessusMax));
+  }
+  if (donnee("--passes")) appel.passes = Entier(tries.options["--passes"], "--passes", 1, 2);
+  if (!tries.inconnue.empty()) throw AppelIncorrect{"option inconnue : " + tries.inconnue};
+  appel.fichiers = std::move(tries.fichiers);
+  if (appel.fichiers.empty()) appel.fichiers.emplace_back("-");
   if (commande.fichierDeJeu && appel.fichiers.size() > 1) throw AppelIncorrect{"un seul fichier à la fois"};
   return appel;
 }

@@ -38,6 +38,9 @@ essai 2 'pas un nombre de 1 à 2' expliquer --passes ''
 essai 2 'pas un nombre de 0 à' resoudre --processus -1
 essai 2 'pas un nombre de 0 à' resoudre --processus 99999999999
 essai 2 'options incorrectes' resoudre --deduction=peut-être
+essai 2 'options incorrectes' expliquer --texte=1
+essai 2 'option inconnue : -xyz' resoudre -xyz
+essai 2 'Choix incorrect : 0 symbole(s)' resoudre --symboles= 1234
 essai 2 'un seul fichier' importer a b
 essai 2 'option inconnue : --symboles' exporter --symboles 1234 f.sud
 essai 2 'Choix incorrect' resoudre --symboles ''
