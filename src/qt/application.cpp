@@ -95,8 +95,6 @@ void PrepareAffichage(bool ecran) {
 
 void PrepareApplication(QApplication& application) {
   ChargeIcones();
-  QGuiApplication::setDesktopFileName(
-      QStringLiteral("solver-de-sudoku"));  // as installed: its icon, its group
   QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
   auto* francais = new QTranslator(&application);
   if (francais->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
@@ -106,7 +104,7 @@ void PrepareApplication(QApplication& application) {
   QApplication::setPalette(QApplication::style()->standardPalette());
   QApplication::setFont(PoliceQt({}));
   QApplication::setQuitOnLastWindowClosed(false);
-  QGuiApplication::setDesktopFileName(QStringLiteral("solver-de-sudoku"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("solver-de-sudoku"));  // as installed: icon and group
   InstalleLecture();
   // Drawn in five sizes: the first window is on the screen sooner when that waits.
   QTimer::singleShot(0, &application, [] { QGuiApplication::setWindowIcon(IconeDuJeu()); });
