@@ -3,6 +3,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <QDialogButtonBox>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPainter>
@@ -74,6 +75,13 @@ class Style : public QProxyStyle {
   QIcon standardIcon(StandardPixmap quoi, const QStyleOption* option, const QWidget* widget) const override {
     if (quoi == SP_ToolBarHorizontalExtensionButton) return {};
     return QProxyStyle::standardIcon(quoi, option, widget);
+  }
+  // Of the buttons of boxes Yes stands before No, OK before Annuler, and none has a picture.
+  int styleHint(StyleHint quoi, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* retour) const override {
+    if (quoi == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
+    if (quoi == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(quoi, option, widget, retour);
   }
   // The bar's ground is that of the window. It is filled last, with its entries left out by a clipping that a
   // picture of lines (SVG) doesn't know: only the line below it is drawn.

@@ -1,23 +1,21 @@
 #include "qt/boites.h"
 
-#include <QDialog>
 #include <QFileDialog>
 #include <QFileSystemModel>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QIdentityProxyModel>
-#include <QKeyEvent>
+#include <QInputDialog>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTreeView>
-#include <QVBoxLayout>
-#include <utility>
 
 #include "qt/icone.h"
-#include "qt/mesure.h"
 #include "qt/texte_qt.h"
 
 namespace sudoku {
@@ -31,89 +29,32 @@ void Installe(QDialog& boite, const PlaceDeBoite& place, const char* nom) {
   if (place.dessus) boite.setWindowFlag(Qt::WindowStaysOnTopHint);
 }
 
-// A prompt, perhaps a field, and a row of buttons.
-class Boite : public QDialog {
- public:
-  Boite(const PlaceDeBoite& place, const char* nom, QString texte)
-      : QDialog(place.proprietaire, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                        Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
-        texte_(std::move(texte)),
-        pile_(new QVBoxLayout(this)),
-        boutons_(new QHBoxLayout) {
-    Installe(*this, place, nom);
-    setFont(PoliceQt({}));
-    pile_->setContentsMargins(16, 14, 16, 12);
-    pile_->setSpacing(12);
-    pile_->setSizeConstraint(QLayout::SetFixedSize);
-    AjouteTexte();
-  }
+// A text that is too tall for the screen rolls.
+void Enroule(QMessageBox& boite) {
+  auto* texte = boite.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  const int place = boite.screen()->availableSize().height() * 2 / 3;
+  const QSize taille = texte->sizeHint();
+  if (taille.height() < place) return;
+  auto* rouleau = new QScrollArea(&boite);
+  rouleau->setFrameShape(QFrame::NoFrame);
+  delete boite.layout()->replaceWidget(texte, rouleau);
+  rouleau->setWidget(texte);
+  rouleau->setFixedSize(taille.width() + rouleau->verticalScrollBar()->sizeHint().width(), place);
+}
 
-  void Bouton(const QString& texte, int reponse, bool defaut) {
-    auto* bouton = new QPushButton(texte, this);
-    bouton->setMinimumWidth(76);
-    bouton->setAutoDefault(true);
-    bouton->setAccessibleDescription(texte_);
-    connect(bouton, &QPushButton::clicked, this, [this, reponse] { done(reponse); });
-    boutons_->addWidget(bouton);
-    if (!defaut) return;
-    bouton->setDefault(true);
-    bouton->setFocus();
-  }
+void Prepare(QMessageBox& boite, const PlaceDeBoite& place, const char* nom, const QString& texte) {
+  Installe(boite, place, nom);
+  boite.setTextFormat(Qt::PlainText);
+  boite.setText(texte);
+  boite.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  Enroule(boite);
+}
 
-  QLineEdit* Champ(const QString& defaut) {
-    auto* champ = new QLineEdit(defaut, this);
-    champ->setMinimumWidth(300);
-    champ->setAccessibleName(texte_);
-    champ->selectAll();
-    pile_->addWidget(champ);
-    return champ;
-  }
-
-  // As on other desktops the letter alone is enough where there is no field to type it into.
-  void keyPressEvent(QKeyEvent* evenement) override {
-    for (QPushButton* bouton : findChildren<QPushButton*>()) {
-      const QKeySequence touche = QKeySequence::mnemonic(bouton->text());
-      if (!touche.isEmpty() && touche[0].key() == evenement->key()) return bouton->click();
-    }
-    QDialog::keyPressEvent(evenement);
-  }
-
-  int Repond() {
-    boutons_->insertStretch(0);
-    boutons_->addStretch();
-    pile_->addLayout(boutons_);
-    return exec();
-  }
-
- private:
-  void AjouteTexte() {
-    constexpr int kLargeur = 480;
-    auto* texte = new QLabel(texte_, this);
-    texte->setMinimumWidth(200);  // room for the title
-    texte->setTextFormat(Qt::PlainText);
-    texte->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    if (texte->sizeHint().width() > kLargeur) {
-      texte->setWordWrap(true);
-      texte->setFixedWidth(kLargeur);
-      texte->setFixedHeight(texte->heightForWidth(kLargeur));
-    }
-    const QSize ecran = screen()->availableSize();
-    if (texte->sizeHint().height() < ecran.height() * 2 / 3) {
-      pile_->addWidget(texte);
-      return;
-    }
-    auto* rouleau = new QScrollArea(this);
-    rouleau->setFrameShape(QFrame::NoFrame);
-    rouleau->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    rouleau->setWidget(texte);
-    rouleau->setFixedSize(texte->sizeHint().width() + 24, ecran.height() * 2 / 3);
-    pile_->addWidget(rouleau);
-  }
-
-  QString texte_;
-  QVBoxLayout* pile_;
-  QHBoxLayout* boutons_;
-};
+void Ajoute(QMessageBox& boite, QMessageBox::StandardButton bouton, const QString& texte) {
+  QPushButton* ici = boite.addButton(bouton);
+  ici->setText(texte);
+  ici->setAccessibleDescription(boite.text());
+}
 
 // The file dialog takes dates and sizes from the desktop's language, and has no word of its own for a folder.
 class ModeleFrancais : public QIdentityProxyModel {
@@ -156,26 +97,34 @@ QStringList Filtres(const Texte& liste) {
 }  // namespace
 
 void MontreMessage(const PlaceDeBoite& place, const QString& texte) {
-  Boite boite(place, "message", texte);
-  boite.Bouton(QStringLiteral("OK"), QDialog::Accepted, true);
-  boite.Repond();
+  QMessageBox boite(place.proprietaire);
+  Prepare(boite, place, "message", texte);
+  Ajoute(boite, QMessageBox::Ok, QStringLiteral("OK"));
+  boite.setDefaultButton(QMessageBox::Ok);
+  boite.exec();
 }
 
 bool PoseQuestion(const PlaceDeBoite& place, const QString& texte) {
-  Boite boite(place, "question", texte);
-  boite.Bouton(QStringLiteral("&Oui"), QDialog::Accepted, false);
-  boite.Bouton(QStringLiteral("&Non"), QDialog::Rejected, true);
-  return boite.Repond() == QDialog::Accepted;
+  QMessageBox boite(place.proprietaire);
+  Prepare(boite, place, "question", texte);
+  Ajoute(boite, QMessageBox::Yes, QStringLiteral("&Oui"));
+  Ajoute(boite, QMessageBox::No, QStringLiteral("&Non"));
+  boite.setDefaultButton(QMessageBox::No);
+  boite.setEscapeButton(QMessageBox::No);
+  return boite.exec() == QMessageBox::Yes;
 }
 
 QString DemandeTexte(const PlaceDeBoite& place, const QString& texte, const QString& defaut) {
-  Boite boite(place, "saisie", texte);
-  const QLineEdit* champ = boite.Champ(defaut);
-  boite.Bouton(QStringLiteral("OK"), QDialog::Accepted, true);
-  boite.Bouton(QStringLiteral("Annuler"), QDialog::Rejected, false);
-  boite.setFocusProxy(nullptr);
-  const_cast<QLineEdit*>(champ)->setFocus();
-  return boite.Repond() == QDialog::Accepted ? champ->text() : QString();
+  constexpr int kLargeur = 300;
+  QInputDialog boite(place.proprietaire);
+  Installe(boite, place, "saisie");
+  boite.setLabelText(texte);
+  boite.setTextValue(defaut);
+  boite.setOkButtonText(QStringLiteral("OK"));
+  boite.setCancelButtonText(QStringLiteral("Annuler"));
+  boite.findChild<QLabel*>()->setTextFormat(Qt::PlainText);
+  boite.findChild<QLineEdit*>()->setMinimumWidth(kLargeur);
+  return boite.exec() == QDialog::Accepted ? boite.textValue() : QString();
 }
 
 QString DemandeChemin(const PlaceDeBoite& place, const DemandeFichier& demande) {

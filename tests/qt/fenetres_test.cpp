@@ -18,7 +18,7 @@ namespace sudoku {
 namespace {
 
 QString TexteDe(QWidget& boite) {
-  return boite.findChild<QLabel*>()->text();
+  return boite.findChild<QLabel*>("qt_msgbox_label")->text();
 }
 
 // Symbols 1234, six givens that leave one solution: 1234 3412 2143 4321.

@@ -175,7 +175,7 @@ TEST_F(UnPlateau, UneGrilleColleeEstTapeeCaseParCase) {
   EXPECT_TRUE(changements.empty());
   QApplication::clipboard()->setText(QStringLiteral("11.............."));
   j.Quand("message", [&](QWidget& boite) {
-    EXPECT_EQ(boite.findChild<QLabel*>()->text(), QStringLiteral("Impossible"));
+    EXPECT_EQ(boite.findChild<QLabel*>("qt_msgbox_label")->text(), QStringLiteral("Impossible"));
     j.Touche(Qt::Key_Return);
   });
   j.Touche(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);

@@ -65,7 +65,8 @@ void SceneQt::Pas() {
   if (!vue && (modale != nullptr || papier_.Dessus() != nullptr)) return Planifie();
   const Boite* boite = papier_.Dessus();
   if (vue && boite != nullptr && boite->fenetre == nullptr && boite->genre != GenreBoite::kFichier) {
-    const auto* texte = modale->findChild<QLabel*>();
+    const auto* texte = modale->findChild<QLabel*>("qt_msgbox_label");
+    if (texte == nullptr) texte = modale->findChild<QLabel*>();
     const bool titre = titre_.empty() || modale->windowTitle() == VersQt(titre_);
     const bool tel = texte->textFormat() == Qt::PlainText && texte->text() == VersQt(texte_);
     if (!titre || !tel) sortie_ << "! à l'écran : boîte\n";
