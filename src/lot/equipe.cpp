@@ -53,6 +53,9 @@ void Equipe::Confie() {
   aFaire_.notify_one();
 }
 
+// livres_ <= pris_ <= confies_ <= livres_ + places: a place is the reader's until its line is handed over,
+// one worker's until it is finished, and then whoever's delivers. A worker takes half of its equal share of
+// what waits, so that nobody holds many lines while another runs dry, and many at once where many wait.
 void Equipe::Travaille(Ouvrier& ouvrier) {
   std::unique_lock verrou(mutex_);
   for (;;) {

@@ -186,6 +186,9 @@ QSize FenetreQt::Disponible() const {
   return screen()->availableSize() - bords;
 }
 
+// From top to bottom: menu bar; labels, at a scale at which they can be read; the board, at the zoom. Without a
+// board the window has the record's size. With one it grows and shrinks with the zoom, as far as the screen
+// allows: then the board scrolls, and the bar of one direction takes its room from the other.
 void FenetreQt::Dispose() {
   voulue_ = QSize(fenetre_.Width, fenetre_.Height);
   const int menu = barre_ != nullptr ? barre_->sizeHint().height() : 0;
@@ -194,7 +197,6 @@ void FenetreQt::Dispose() {
   if (plateau_ != nullptr) {
     Twips haut = 0;
     for (const Element& element : fenetre_.elements) haut = std::max(haut, element.Top + element.Height);
-    // Small boards keep labels that can be read.
     echelle = std::clamp(zoom_, 1.0, 2.0);
     const int entete = Pixels(haut, echelle);
     const QSize contenu(Pixels(fenetre_.Width, zoom_),
