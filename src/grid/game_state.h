@@ -9,7 +9,8 @@
 
 namespace sudoku {
 
-// VgEtat. Modes 3 and 5 to 7 exist only inside a procedure, which gives the old mode back.
+// VgEtat. Modes 3 and 5 to 7 exist only inside a procedure: an evaluation in two passes leaves 2, the others
+// give the old mode back.
 enum Mode : std::int32_t {
   kSansGrille = 0,
   kSaisieGrille = 1,  // the givens are typed

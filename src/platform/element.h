@@ -10,10 +10,10 @@
 namespace sudoku {
 
 // View elements are plain records. The logic writes their fields, the window system shows what they hold. It
-// looks at them at two moments only: when a handler that it called returns, and before it opens a box or a
-// window. Nothing else runs in between, so no record has to report its changes (the board, which has many
-// cells, keeps a list of them: plateau.h). What the user does goes the other way, through the operations
-// below that are named after a user's act; they write the fields and then run the handler.
+// looks at them at three moments only: when a handler that it called returns, before it opens a box or a
+// window, and in DoEvents. Nothing else runs in between, so no record has to report its changes (the board,
+// which has many cells, keeps a list of them: plateau.h). What the user does goes the other way, through the
+// operations below that are named after a user's act; they write the fields and then run the handler.
 
 using Twips = std::int32_t;     // 1440 to the inch, 15 to a pixel of 96 to the inch
 using Couleur = std::uint32_t;  // 0x00BBGGRR
