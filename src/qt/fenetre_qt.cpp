@@ -186,8 +186,8 @@ QSize FenetreQt::Disponible() const {
   return screen()->availableSize() - bords;
 }
 
-// From top to bottom: menu bar; labels, at a scale at which they can be read; the board, at the zoom. Without a
-// board the window has the record's size. With one it grows and shrinks with the zoom, as far as the screen
+// From top to bottom: menu bar; labels, at a scale at which they can be read; the board, at the zoom. Without
+// a board the window has the record's size. With one it grows and shrinks with the zoom, as far as the screen
 // allows: then the board scrolls, and the bar of one direction takes its room from the other.
 void FenetreQt::Dispose() {
   voulue_ = QSize(fenetre_.Width, fenetre_.Height);

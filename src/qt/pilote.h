@@ -10,6 +10,8 @@ class Pilote {
  public:
   virtual ~Pilote() = default;
   virtual void Execute(const std::function<void()>& acte) = 0;
+  // … and another follows at once: what this one wrote is shown after that, or when none comes.
+  virtual void Precede(const std::function<void()>& acte) = 0;
   // … and the pointer says that it may take a while.
   virtual void ExecuteCommande(const std::function<void()>& acte) = 0;
   // A handler is on the stack.

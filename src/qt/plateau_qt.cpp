@@ -161,8 +161,11 @@ bool PlateauQt::Touche(QKeyEvent& evenement) {
   }
   const int code = CodeTouche(evenement);
   const int avant = fenetre_.plateau.Focus();
-  if (code != 0 && fenetre_.KeyDown) pilote_.Execute([&] { fenetre_.KeyDown(code); });
-  return fenetre_.plateau.Focus() != avant;
+  if (code == 0 || !fenetre_.KeyDown) return false;
+  pilote_.Precede([&] { fenetre_.KeyDown(code); });
+  if (fenetre_.plateau.Focus() == avant) return false;  // the box gets it
+  pilote_.Execute([] {});
+  return true;
 }
 
 bool PlateauQt::ToucheDeConfort(const QKeyEvent& evenement) {

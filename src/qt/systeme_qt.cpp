@@ -5,7 +5,6 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QProcess>
-#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <cstdio>
@@ -35,7 +34,10 @@ class SansAttente {
 
 }  // namespace
 
-SystemeQt::SystemeQt() = default;
+SystemeQt::SystemeQt() {
+  retard_.setSingleShot(true);
+  retard_.callOnTimeout([this] { Execute([] {}); });
+}
 
 SystemeQt::~SystemeQt() = default;
 
@@ -47,6 +49,13 @@ void SystemeQt::Execute(const std::function<void()>& acte) {
   --profondeur_;
   SynchroniseTout();
   FinDeHandler();
+}
+
+void SystemeQt::Precede(const std::function<void()>& acte) {
+  ++profondeur_;
+  acte();
+  --profondeur_;
+  retard_.start(0);
 }
 
 void SystemeQt::ExecuteCommande(const std::function<void()>& acte) {
@@ -67,6 +76,7 @@ void SystemeQt::FinDeHandler() {
 }
 
 void SystemeQt::SynchroniseTout() {
+  retard_.stop();
   for (Connue& connue : fenetres_) {
     if (!connue.qt && connue.fenetre->Visible) {
       // The later windows belong to the first and come up without taking the focus.

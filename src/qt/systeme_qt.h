@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <memory>
 #include <vector>
 
@@ -34,6 +35,7 @@ class SystemeQt : public Systeme, public Pilote {
   bool Lance(TexteVue chemin) override;
 
   void Execute(const std::function<void()>& acte) override;
+  void Precede(const std::function<void()>& acte) override;
   void ExecuteCommande(const std::function<void()>& acte) override;
   bool Occupe() const override { return profondeur_ > 0; }
 
@@ -61,6 +63,7 @@ class SystemeQt : public Systeme, public Pilote {
   std::vector<FenetreQt*> modales_;
   int profondeur_ = 0;
   bool fermetureDemandee_ = false;
+  QTimer retard_;  // runs from a Precede until its changes are shown
   bool premiereVue_ = false;
 };
 

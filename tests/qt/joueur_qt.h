@@ -39,6 +39,7 @@ class JoueurQt {
   void NouvelleGrille(const QString& symboles);
 
   GameState& Jeu() { return programme_.Jeu(); }
+  sudoku::Fenetre& Principale() { return programme_.Principale(); }
   Plateau& LePlateau() { return programme_.Principale().plateau; }
   Minuterie& Tmr() { return *programme_.Principale().TrouveMinuterie("Tmr"); }
   FenetreQt& Fenetre() { return *systeme_.FenetreDe(programme_.Principale()); }

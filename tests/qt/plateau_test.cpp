@@ -55,6 +55,21 @@ class UnPlateau : public testing::Test {
 };
 using Liste = std::vector<std::pair<int, Texte>>;
 
+TEST_F(UnPlateau, UneFrappeSeMontreUneFois) {
+  Ouvre();
+  j.CliqueCase(1);
+  Fenetre& fenetre = j.Principale();
+  int touches = 0;
+  fenetre.KeyDown = [&](int) { fenetre.Caption = U"vue " + Decimal(++touches); };
+  QString pendant;
+  j.LePlateau().Change = [&](int) { pendant = j.Fenetre().windowTitle(); };
+  j.Tape(QStringLiteral("1"));
+  EXPECT_EQ(pendant, QStringLiteral("Solver de Sudoku")) << "the key and its text are shown together";
+  EXPECT_EQ(j.Fenetre().windowTitle(), QStringLiteral("vue 1"));
+  j.Touche(Qt::Key_F, Qt::AltModifier);
+  Attends([&] { return j.Fenetre().windowTitle() == QStringLiteral("vue 2"); }, "a key without a text");
+}
+
 TEST_F(UnPlateau, ChaqueFrappeEtChaqueCollageFaitUnChangement) {
   Ouvre(QStringLiteral("123456789"));
   j.CliqueCase(1);
