@@ -9,7 +9,8 @@ namespace sudoku {
 
 // A button that listens to being held, with any mouse button or the space bar. What begins ends exactly once:
 // at the first release of either, or when the button loses the focus, its window is deactivated, or it is
-// hidden.
+// hidden. By hand: pressed and released of the toolkit's button are of the left mouse button only, and end
+// where the pointer leaves the button.
 class BoutonTenu : public QPushButton {
  public:
   BoutonTenu(Element& element, Pilote& pilote, QWidget* parent);

@@ -71,6 +71,7 @@ int GeometriePlateau::CaseSous(QPoint point) const {
   return trouvee;
 }
 
+// By hand: the boxes of a row are numbers, and no list that a library could search.
 int GeometriePlateau::PremiereDans(const Rangee& rangee, int gauche) const {
   int bas = rangee.premiere;
   int haut = rangee.derniere + 1;
