@@ -194,7 +194,8 @@ std::optional<Appel> LisAppel(int argc, const char* const* argv, int& statut) {
     if (mots.empty()) throw AppelIncorrect{"il manque la commande"};
     return Lis(mots);
   } catch (const AppelIncorrect& erreur) {
-    Ecris(stderr, "sudoku-lot : " + erreur.raison + "\nsudoku-lot --aide dit comment l'appeler.\n");
+    Ecris(stderr,
+          "sudoku-lot : " + Montrable(erreur.raison) + "\nsudoku-lot --aide dit comment l'appeler.\n");
     statut = 2;
     return std::nullopt;
   }

@@ -81,7 +81,7 @@ class Deroulement {
   void Signale(const std::string& texte, int statut) {
     (statut == kAlerte ? alerte_ : illisible_) = true;
     sortie_.Pousse();
-    progres_.Message(texte + "\n");
+    progres_.Message(texte);
   }
 
   const Appel& appel_;

@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "lot/sortie.h"
+#include "text/texte.h"
 
 namespace sudoku::lot {
 namespace {
@@ -52,7 +53,7 @@ Progres::~Progres() {
 
 void Progres::Message(std::string_view texte) {
   const std::lock_guard verrou(mutex_);
-  EcrisTout(STDERR_FILENO, montre_ ? std::string(kEfface).append(texte) : std::string(texte));
+  EcrisTout(STDERR_FILENO, std::string(montre_ ? kEfface : "") + Montrable(texte) + "\n");
   montre_ = false;
 }
 

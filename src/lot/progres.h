@@ -27,6 +27,7 @@ class Progres {
     grilles_.fetch_add(1, std::memory_order_relaxed);
     lus_.store(lus, std::memory_order_relaxed);
   }
+  // A line of its own on standard error; control characters are shown.
   void Message(std::string_view texte);
 
  private:

@@ -15,7 +15,7 @@ namespace sudoku::lot {
 namespace {
 
 int Refuse(const std::string& fichier, const std::string& raison) {
-  EcrisTout(STDERR_FILENO, fichier + ": " + raison + "\n");
+  EcrisTout(STDERR_FILENO, Montrable(fichier + ": " + raison) + "\n");
   return 1;
 }
 

@@ -65,7 +65,7 @@ Dessine FormeDe(const QString& nom) {
 
 void SystemeSansJoueur::Message(TexteVue texte, TexteVue) {
   dit_ = true;
-  std::fprintf(stderr, "%s\n", VersUtf8(texte).c_str());
+  std::fprintf(stderr, "%s\n", Montrable(VersUtf8(texte), "\n").c_str());
 }
 
 void SystemeSansJoueur::MontreModale(Fenetre& fenetre) {

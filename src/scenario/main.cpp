@@ -27,7 +27,7 @@ int main(int argc, char** argv) {
   if (argc == 2) {
     fichier.open(argv[1], std::ios::binary);
     if (!fichier || std::filesystem::is_directory(argv[1])) {
-      std::cerr << argv[1] << " : la session ne peut pas être lue\n";
+      std::cerr << sudoku::Montrable(argv[1]) << " : la session ne peut pas être lue\n";
       return kSessionIllisible;
     }
   }

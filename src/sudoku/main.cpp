@@ -38,7 +38,7 @@ int Capture(const char* image, const char* fichier) {
   systeme.Execute([&] { programme.Demarre(LigneDeCommande(fichier)); });
   if (systeme.ADitQuelqueChose()) return 1;
   if (DessineDansFichier(*systeme.FenetreDe(programme.Principale()), QFile::decodeName(image))) return 0;
-  std::fprintf(stderr, "%s : Erreur d'accès au chemin/fichier\n", image);
+  std::fprintf(stderr, "%s : Erreur d'accès au chemin/fichier\n", sudoku::Montrable(image).c_str());
   return 1;
 }
 

@@ -89,6 +89,25 @@ Texte DepuisUtf8(std::string_view octets) {
   return texte;
 }
 
+std::string Montrable(std::string_view octets, std::string_view permis) {
+  constexpr std::string_view kHexa = "0123456789ABCDEF";
+  std::string montre;
+  for (std::size_t i = 0; i < octets.size();) {
+    const std::size_t debut = i;
+    char32_t c = 0;
+    const bool forme = LitCodePoint(octets, i, c);
+    const std::string_view ici = octets.substr(debut, i - debut);
+    const bool controle = c < U' ' || (c >= 0x7F && c < 0xA0);
+    if (forme && (!controle || permis.find(ici) != std::string_view::npos)) {
+      montre += ici;
+    } else {
+      const auto code = static_cast<unsigned char>(forme ? c : static_cast<unsigned char>(ici.front()));
+      ((montre += "\\x") += kHexa[code / 16]) += kHexa[code % 16];
+    }
+  }
+  return montre;
+}
+
 std::optional<Texte> DepuisUtf8Strict(std::string_view octets) {
   Texte texte;
   for (std::size_t i = 0; i < octets.size();) {

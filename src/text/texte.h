@@ -44,6 +44,10 @@ Texte HeuresMinutesSecondes(std::int64_t secondes);
 Texte DepuisUtf8(std::string_view octets);
 std::string VersUtf8(TexteVue texte);
 
+// UTF-8 as a terminal or a message may show it: control characters, among them those that begin an escape,
+// and ill-formed bytes are written as "\\x1B", all but those in `permis`.
+std::string Montrable(std::string_view octets, std::string_view permis = {});
+
 // As DepuisUtf8, but nothing where the bytes are ill-formed.
 std::optional<Texte> DepuisUtf8Strict(std::string_view octets);
 

@@ -26,6 +26,8 @@ essai 0 'resoudre' --aide
 essai 0 'resoudre' resoudre --help
 essai 2 'il manque la commande'
 essai 2 'commande inconnue : résoudre' résoudre
+essai 2 'commande inconnue : \x1B[2J\x9D' $'\e[2J\xc2\x9d'
+essai 1 '\x07rien: fichier introuvable' resoudre $'\arien'
 essai 2 'option inconnue : --passes' resoudre --passes 1
 essai 2 'option inconnue : --deduction' expliquer --deduction
 essai 2 'option inconnue : -x' resoudre -x

@@ -24,6 +24,15 @@ TEST(Texte, SansEnleveDeGaucheADroiteUneSeuleFois) {
   for (const auto& c : cas) EXPECT_EQ(Sans(c.texte, c.retire), c.reste) << VersUtf8(c.texte);
 }
 
+TEST(Texte, MontrableNEnvoieRienAuTerminal) {
+  const struct {
+    std::string_view octets, montre;
+  } cas[] = {{"\x1B]0;a\x07", "\\x1B]0;a\\x07"}, {"\xC2\x9D\xC2\xA0", "\\x9D\xC2\xA0"},
+             {"\x7F\x9D", "\\x7F\\x9D"},         {"é\n\r", "é\n\\x0D"},
+             {"\xE2\x82", "\\xE2\\x82"},         {{"\0~", 2}, "\\x00~"}};
+  for (const auto& c : cas) EXPECT_EQ(Montrable(c.octets, "\n\t"), c.montre);
+}
+
 TEST(Texte, Utf8MalForme) {
   EXPECT_EQ(DepuisUtf8("a\xC3\xA9\xFF\xE2\x82"), U"aé\xFFFD\xFFFD\xFFFD");
   EXPECT_EQ(DepuisUtf8Strict("a\xC3\xA9"), Texte(U"aé"));
