@@ -8,6 +8,7 @@
 #include <cstdlib>
 
 #include "lot/lignes.h"
+#include "text/texte.h"
 
 namespace sudoku::lot {
 namespace {
@@ -30,6 +31,11 @@ int EcrisTout(int fd, std::string_view texte) {
     }
   }
   return 0;
+}
+
+int EcrisSortie(std::string_view texte) {
+  static const bool terminal = isatty(STDOUT_FILENO) != 0;
+  return EcrisTout(STDOUT_FILENO, terminal ? Montrable(texte, "\n\t") : texte);
 }
 
 Sortie::Sortie() : veilleur_(&Sortie::Veille, this) {}
@@ -61,7 +67,7 @@ void Sortie::Pousse() {
 }
 
 void Sortie::PousseTampon() {
-  const int erreur = EcrisTout(STDOUT_FILENO, tampon_);
+  const int erreur = EcrisSortie(tampon_);
   tampon_.clear();
   if (erreur == 0) return;
   if (erreur != EPIPE) EcrisTout(STDERR_FILENO, "sortie standard: " + RaisonSysteme(erreur) + "\n");

@@ -33,6 +33,10 @@ class Sortie {
   std::thread veilleur_;  // last: it uses the others
 };
 
+// Writes to standard output: everything as it is, but on a terminal control characters are shown, for nobody
+// knows who chose the names and symbols. The number of the error, 0 for none.
+int EcrisSortie(std::string_view texte);
+
 // Writes all of it to a file descriptor; the number of the error, 0 for none.
 int EcrisTout(int fd, std::string_view texte);
 

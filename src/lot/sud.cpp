@@ -101,13 +101,6 @@ std::optional<std::string> Ligne(TexteVue chaine, TexteVue symboles) {
   return VersUtf8(donnees ? EcritGrilleTexte(contenus) : Texte(*etats));
 }
 
-// A name as the end of a line.
-std::string NomSurUneLigne(Texte nom) {
-  std::ranges::replace_if(
-      nom, [](char32_t c) { return c < U' '; }, U' ');
-  return VersUtf8(nom);
-}
-
 }  // namespace
 
 int Importe(const Appel& appel) {
@@ -139,14 +132,14 @@ int Exporte(const Appel& appel) {
     statut = Refuse(fichier, "la grille est plus courte que ses symboles ne le demandent");
   }
   for (std::size_t i = 1; i < lu.VgParties.size(); ++i) {
-    const std::string nom = NomSurUneLigne(lu.VgParties[i].Nom);
+    const std::string nom = VersUtf8(lu.VgParties[i].Nom);
     if (const auto etats = Etats(lu.VgParties[i].Grille, *lu.VmValeurs)) {
       lignes += VersUtf8(*etats) + "\t" + nom + "\n";
     } else {
       statut = Refuse(fichier, "la partie « " + nom + " » est plus courte que la grille");
     }
   }
-  const int erreur = EcrisTout(STDOUT_FILENO, lignes);
+  const int erreur = EcrisSortie(lignes);
   return erreur == 0 ? statut : Refuse("sortie standard", RaisonSysteme(erreur));
 }
 

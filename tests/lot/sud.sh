@@ -32,12 +32,22 @@ importe $'.0 0 040 0 020 0 030 0 040 0 0.0' '.234' '.0 0 040 0 020 0 030 0 040 0
 
 # A library goes both ways, and a name that isn't fit for a line stays on it.
 printf '1234\r\n10 0 0 0 0 020 0 030 0 0 0 0 040\r\nEssai-1012 0 0 0 020 0 030 0 0 0 0 040\r\nun\x1fdeux\ttrois-1032 0 0 0 020 0 030 0 0 0 0 040\r\n\0' > biblio.sud
-attendu=$'1.....2..3.....4\n1012 0 0 0 020 0 030 0 0 0 0 040\tEssai\n1032 0 0 0 020 0 030 0 0 0 0 040\tun-deux trois'
+attendu=$'1.....2..3.....4\n1012 0 0 0 020 0 030 0 0 0 0 040\tEssai\n1032 0 0 0 020 0 030 0 0 0 0 040\tun-deux\ttrois'
 rendu=$("$lot" exporter biblio.sud)
 [ "$rendu" = "$attendu" ] || dit "the library comes out as “$rendu”"
 "$lot" exporter biblio.sud | "$lot" importer --symboles 1234 > encore.sud
 "$lot" exporter encore.sud | cmp - <(echo "$attendu") || echec=1
 "$lot" exporter biblio.sud | "$lot" expliquer --symboles 1234 > /dev/null || dit "a line is no grid for expliquer"
+
+# What a terminal would obey stays as it is in a file, and is shown on a terminal; in messages it is always shown.
+printf '1\e23\r\n\e0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0\r\n\e]0;a\x07\x9d-101\r\nb\x9dc-\e0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0\r\n\0' > $'\ef'
+attendu=$'\e...............\n\e0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0\tb\xc2\x9dc'
+message='\x1Bf: la partie « \x1B]0;a\x07\x9D » est plus courte que la grille'
+"$lot" exporter $'\ef' 2> dit | cmp - <(echo "$attendu") || dit "in a file another library"
+[ "$(cat dit)" = "$message" ] || dit "the message is $(cat -v dit)"
+rendu=$(script -qec "'$lot' exporter ?f 2> /dev/null" /dev/null < /dev/null | tr -d '\r')
+attendu=${attendu//$'\e'/'\x1B'}
+[ "$rendu" = "${attendu/$'\xc2\x9d'/'\x9D'}" ] || dit "a terminal is sent $(cat -v <<< "$rendu")"
 
 # The game opens what is imported, and exports what it saves.
 printf '1..4\n..2.\n.3..\n4..1\n' | "$lot" importer --symboles 1234 > jeu.sud
