@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "qt/capture.h"
+#include "text/texte.h"
 
 namespace sudoku {
 namespace {
@@ -18,7 +19,7 @@ constexpr const char* kUsage =
     "Usage : sudoku [FICHIER.sud]\n        sudoku --capture IMAGE.png|.svg|.pdf [FICHIER.sud]\n";
 
 std::optional<Appel> Refuse(const std::string& raison) {
-  std::fputs(("sudoku : " + raison + "\n" + kUsage).c_str(), stderr);
+  std::fputs(("sudoku : " + Montrable(raison) + "\n" + kUsage).c_str(), stderr);
   return std::nullopt;
 }
 
