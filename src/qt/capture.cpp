@@ -1,5 +1,6 @@
 #include "qt/capture.h"
 
+#include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -20,16 +21,29 @@ bool DessinePng(FenetreQt& fenetre, QIODevice& fichier) {
   return fenetre.grab().save(&fichier, "PNG");
 }
 
+// The characters that no XML holds as pictures of them. Only the symbols of a grid, and names, can be such.
+QByteArray XmlBienForme(const QByteArray& xml) {
+  QByteArray sain;
+  sain.reserve(xml.size());
+  for (const char c : xml) {
+    const auto octet = static_cast<unsigned char>(c);
+    const bool tenable = octet >= ' ' || c == '\t' || c == '\n' || c == '\r';
+    tenable ? sain.append(c) : sain.append("\xE2\x90").append(static_cast<char>(0x80 + octet));
+  }
+  return sain.replace("\xEF\xBF\xBE", "\xEF\xBF\xBD").replace("\xEF\xBF\xBF", "\xEF\xBF\xBD");
+}
+
 bool DessineSvg(FenetreQt& fenetre, QIODevice& fichier) {
+  QBuffer xml;
   QSvgGenerator dessin;
-  dessin.setOutputDevice(&fichier);
+  dessin.setOutputDevice(&xml);
   dessin.setSize(fenetre.size());
   dessin.setViewBox(fenetre.rect());
   dessin.setTitle(fenetre.windowTitle());
   dessin.setResolution(fenetre.logicalDpiX());
   QPainter p(&dessin);
   Rend(fenetre, p);
-  return p.end();
+  return p.end() && fichier.write(XmlBienForme(xml.data())) >= 0;
 }
 
 bool DessinePdf(FenetreQt& fenetre, QIODevice& fichier) {

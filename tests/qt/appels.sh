@@ -33,6 +33,7 @@ essai 2 'le même fichier' --capture rien.png rien.png
 essai 2 'un seul fichier' --capture a.png jeu.sud jeu.sud
 essai 2 'un seul fichier' jeu.sud jeu.sud
 essai 2 'option inconnue : -x' -x
+essai 2 'option inconnue : -\x1B[2J' $'-\e[2J'
 essai 2 'option inconnue : --capture' --capture a.png --capture
 essai 1 '53 - Fichier introuvable' --capture a.png rien.sud
 essai 1 "d.png : Erreur d'accès" --capture d.png jeu.sud
@@ -48,4 +49,9 @@ for image in 'a.png:\x89PNG' 'a.svg:<?xml' 'a.pdf:%PDF'; do
   "$sudoku" --capture "${image%:*}" jeu.sud || dit "$image: not drawn"
   [ "$(head -c 4 "${image%:*}")" = "$(printf '%b' "${image#*:}" | head -c 4)" ] || dit "$image: no such file"
 done
+
+# Symbols, and a name, that no XML holds.
+printf '\xef\xbb\xbf1\e\xef\xbf\xbf4\r\n10\e0\xef\xbf\xbf0 0 0 0 0 0 0 0 0 0 0 0 0 0\r\na\x01-10\e0\xef\xbf\xbf0 0 0 0 0 0 0 0 0 0 0 0 0 0\r\n\0' > signes.sud
+"$sudoku" --capture signes.svg signes.sud && xmllint --noout signes.svg || dit "signes.svg: no XML"
+grep -q $'\xe2\x90\x9b' signes.svg || dit "signes.svg: without its symbol"
 exit $echec
