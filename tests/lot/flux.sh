@@ -33,6 +33,12 @@ for processus in 1 2 5; do
 done
 [ "$(wc -l < "$dossier/1") $(wc -l < "$dossier/1.err")" = "686 115" ] || dit "800 lines, 114 of them bad, and a file that isn't there"
 
+# Shared out by GNU parallel, the lines give what one process gives.
+parallel --will-cite --pipe --keep-order --jobs 2 --block 500 "$lot" resoudre --symboles 1234 < "$dossier/lignes" \
+  > "$dossier/partages" 2> "$dossier/partages.err"
+"$lot" resoudre --symboles 1234 < "$dossier/lignes" 2> "$dossier/seul.err" | cmp - "$dossier/partages" || echec=1
+[ "$(cut -d: -f3- "$dossier/partages.err")" = "$(cut -d: -f3- "$dossier/seul.err")" ] || dit "parallel: other messages"
+
 # Lines far longer than any grid.
 longue() { head -c 40000000 /dev/zero | tr '\0' "$1"; }
 { printf '%s\t' $grille; longue x; echo; longue 1; echo; echo $grille; printf '#'; longue 2; } \
