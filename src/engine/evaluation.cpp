@@ -13,13 +13,13 @@ Evaluateur::Evaluateur(GameState& jeu) : jeu_(jeu) {}
 std::int16_t Evaluateur::Evaluation(Grille& VpGrille, int VpPasses, bool premiereConnue) {
   const Bloc& bloc = VpGrille.Donnees();
   if (cote_ != VpGrille.N()) moteur_ = VersionsMoteur().front()(cote_ = VpGrille.N());
-  levees_.clear();
+  revisions_.levees.clear();
   for (int passes = VpPasses;; passes = 2) {
     const bool seconde =
         premiereConnue && passes == 2 && std::ranges::find(bloc.etat, kPossible) != bloc.etat.end();
     ++reprises_;
     tours_ += moteur_->Passes(jeu_, VpGrille, passes, seconde);
-    const std::int32_t verdict = GrilleCheck(VpGrille, levees_);
+    const std::int32_t verdict = GrilleCheck(VpGrille, revisions_);
     if (passes == 2) jeu_.VgEtat = kJeu;
     if (verdict != kReevaluer) return static_cast<std::int16_t>(verdict);
   }

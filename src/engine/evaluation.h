@@ -33,7 +33,7 @@ class Evaluateur {
   GameState& jeu_;
   std::unique_ptr<Moteur> moteur_;  // for grids of side cote_
   int cote_ = 0;
-  Levees levees_;
+  Revisions revisions_;
   std::uint64_t reprises_ = 0;
   std::uint64_t tours_ = 0;
 };

@@ -90,34 +90,46 @@ bool SymboleEnDouble(const Grille& VpGrille) {
   return false;
 }
 
-std::int32_t GrilleCheck(Grille& VpGrille, Levees& levees) {
-  Bloc& bloc = VpGrille.Donnees();
-  int remplies = 0;
-  for (int i = 1; i <= VpGrille.Borne(); ++i) {
-    if (bloc.SansCandidat(i)) return -1;
-    std::int32_t& etat = bloc.etat[At(i)];
-    if (etat == kDonnee || etat == kProuvee) {
-      if (bloc.saisie[At(i)] != kVide) ++remplies;
-      continue;
-    }
-    const std::int32_t avant = etat;
-    if (etat == kErronee) {
-      const bool levable = levees.empty() || levees[At(i)] < VpGrille.N();
-      if (levable && bloc.Permet(i, bloc.saisie[At(i)])) etat = kPossible;
-    }
-    if (etat != kPossible) continue;
-    etat = Juge(bloc, i);
-    if (etat == avant) {
-      if (etat == kPossible) ++remplies;
-      continue;
-    }
-    if (avant == kErronee && etat == kPossible) {
-      if (levees.empty()) levees.assign(At(VpGrille.Borne() + 1), 0);
-      ++levees[At(i)];
-    }
-    return kReevaluer;
+Visite VisiteCase(Bloc& bloc, int cellule, Revisions& revisions) {
+  const std::size_t i = At(cellule);
+  if (bloc.SansCandidat(cellule)) return Visite::kSansCandidat;
+  std::int32_t& etat = bloc.etat[i];
+  const std::int32_t avant = etat;
+  if (etat == kDonnee || etat == kProuvee)
+    return bloc.saisie[i] != kVide ? Visite::kPleine : Visite::kARemplir;
+  std::vector<std::int16_t>& levees = revisions.levees;
+  if (etat == kErronee) {
+    const bool levable = levees.empty() || levees[i] < bloc.geometrie->N();
+    if (levable && bloc.Permet(cellule, bloc.saisie[i])) etat = kPossible;
   }
-  return VpGrille.Borne() - remplies;
+  if (etat != kPossible) return Visite::kARemplir;
+  etat = Juge(bloc, cellule);
+  if (etat == avant) return etat == kPossible ? Visite::kPleine : Visite::kARemplir;
+  if (avant == kErronee && etat == kPossible) {
+    if (levees.empty()) levees.assign(bloc.etat.size(), 0);
+    ++levees[i];
+  }
+  revisions.cellule = cellule;
+  return Visite::kChange;
+}
+
+std::int32_t GrilleCheck(Grille& VpGrille, Revisions& revisions) {
+  Bloc& bloc = VpGrille.Donnees();
+  int pleines = 0;
+  for (int i = 1; i <= VpGrille.Borne(); ++i) {
+    switch (VisiteCase(bloc, i, revisions)) {
+      case Visite::kSansCandidat:
+        return -1;
+      case Visite::kChange:
+        return kReevaluer;
+      case Visite::kPleine:
+        ++pleines;
+        break;
+      case Visite::kARemplir:
+        break;
+    }
+  }
+  return VpGrille.Borne() - pleines;
 }
 
 }  // namespace sudoku

@@ -77,15 +77,30 @@ void GrilleCopy(const Grille& VpSource, Grille& VpDest);
 // A symbol stands twice in some unit, as the cells hold them, whatever their Etat.
 bool SymboleEnDouble(const Grille& VpGrille);
 
-// Lifts of wrong entries to possible ones within one outermost evaluation, a cell a count; empty: none yet.
-using Levees = std::vector<std::int16_t>;
+// What GrilleCheck did to entries within one outermost evaluation.
+struct Revisions {
+  std::vector<std::int16_t>
+      levees;       // lifts of wrong entries to possible ones, a cell a count; empty: none yet
+  int cellule = 0;  // whose Etat changed last
+};
+
+// What GrilleCheck makes of one cell.
+enum class Visite {
+  kSansCandidat,
+  kARemplir,  // empty, or judged wrong
+  kPleine,    // a given, a proved or a possible entry
+  kChange     // its Etat is another now
+};
+
+// Judges the entry of a cell of an evaluated grid anew. A cell found at 3 and left at 2 is noted as lifted;
+// after N of those it stays at 3, which ends the evaluation of entries of several symbols that would go to
+// and fro for ever.
+Visite VisiteCase(Bloc& bloc, int cellule, Revisions& revisions);
 
 // The verdict on an evaluated grid: -1 where a cell has no candidate, otherwise the number of cells that are
-// empty or judged wrong. It judges the player's entries anew, cell by cell; kReevaluer at the first change of
-// an Etat: what the deductions rested on has moved, and the caller has to evaluate with two passes again.
-// A cell found at 3 and left at 2 is noted in `levees`; after N of those it stays at 3, which ends the
-// evaluation of entries of several symbols that would go to and fro for ever.
+// empty or judged wrong. It visits cell by cell; kReevaluer at the first change of an Etat: what the
+// deductions rested on has moved, and the caller has to evaluate with two passes again.
 inline constexpr std::int32_t kReevaluer = -2;
-std::int32_t GrilleCheck(Grille& VpGrille, Levees& levees);
+std::int32_t GrilleCheck(Grille& VpGrille, Revisions& revisions);
 
 }  // namespace sudoku
