@@ -18,8 +18,12 @@ std::int16_t Evaluateur::Evaluation(Grille& VpGrille, int VpPasses, bool premier
     const bool seconde =
         premiereConnue && passes == 2 && std::ranges::find(bloc.etat, kPossible) != bloc.etat.end();
     ++reprises_;
-    tours_ += moteur_->Passes(jeu_, VpGrille, passes, seconde);
-    const std::int32_t verdict = GrilleCheck(VpGrille, revisions_);
+    const std::uint64_t tours = moteur_->Passes(jeu_, VpGrille, passes, seconde);
+    tours_ += tours;
+    std::int32_t verdict = GrilleCheck(VpGrille, revisions_);
+    // Without a turn of deduction: the candidates of the first pass had a cell to fill.
+    if (verdict == kReevaluer && passes == 2 && !seconde && tours == 0)
+      verdict = reprise_.Suit(VpGrille, revisions_);
     if (passes == 2) jeu_.VgEtat = kJeu;
     if (verdict != kReevaluer) return static_cast<std::int16_t>(verdict);
   }

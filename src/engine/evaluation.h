@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "engine/moteur.h"
+#include "engine/reprise.h"
 #include "grid/game_state.h"
 
 namespace sudoku {
@@ -33,6 +34,7 @@ class Evaluateur {
   GameState& jeu_;
   std::unique_ptr<Moteur> moteur_;  // for grids of side cote_
   int cote_ = 0;
+  Reprise reprise_;
   Revisions revisions_;
   std::uint64_t reprises_ = 0;
   std::uint64_t tours_ = 0;
