@@ -8,14 +8,11 @@
 #include <cstdio>
 
 #include "qt/fenetre_qt.h"
+#include "qt/papier.h"
 #include "qt/texte_qt.h"
 
 namespace sudoku {
 namespace {
-
-void Rend(FenetreQt& fenetre, QPainter& p) {
-  fenetre.render(&p, QPoint(), QRegion(), QWidget::DrawChildren | QWidget::DrawWindowBackground);
-}
 
 bool DessinePng(FenetreQt& fenetre, QIODevice& fichier) {
   return fenetre.grab().save(&fichier, "PNG");
@@ -34,31 +31,27 @@ QByteArray XmlBienForme(const QByteArray& xml) {
 }
 
 bool DessineSvg(FenetreQt& fenetre, QIODevice& fichier) {
+  const QSize taille = TailleSurPapier(fenetre.LaFenetre());
   QBuffer xml;
   QSvgGenerator dessin;
   dessin.setOutputDevice(&xml);
-  dessin.setSize(fenetre.size());
-  dessin.setViewBox(fenetre.rect());
+  dessin.setResolution(kPapierParPouce);
+  dessin.setSize(taille);
+  dessin.setViewBox(QRect(QPoint(), taille));
   dessin.setTitle(fenetre.windowTitle());
-  dessin.setResolution(fenetre.logicalDpiX());
   QPainter p(&dessin);
-  Rend(fenetre, p);
+  DessineSurPapier(fenetre.LaFenetre(), p);
   return p.end() && fichier.write(XmlBienForme(xml.data())) >= 0;
 }
 
 bool DessinePdf(FenetreQt& fenetre, QIODevice& fichier) {
   QPdfWriter page(&fichier);
+  page.setResolution(kPapierParPouce);
   page.setPageSize(QPageSize(QPageSize::A4));
   page.setPageMargins(QMarginsF(20, 20, 20, 20), QPageLayout::Millimeter);
   page.setTitle(fenetre.windowTitle());
   QPainter p(&page);
-  // As wide as the page; a small board no larger than three times its size.
-  const double unite = page.logicalDpiX() / 96.0;
-  const double echelle = std::min({3 * unite, static_cast<double>(page.width()) / fenetre.width(),
-                                   static_cast<double>(page.height()) / fenetre.height()});
-  p.translate((page.width() - fenetre.width() * echelle) / 2, 0);
-  p.scale(echelle, echelle);
-  Rend(fenetre, p);
+  DessineSurPapier(fenetre.LaFenetre(), p);
   return p.end();
 }
 

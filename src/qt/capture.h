@@ -23,11 +23,11 @@ class SystemeSansJoueur : public SystemeQt {
   bool dit_ = false;
 };
 
-// The name of a file says what is drawn into it: .png a picture, .svg a drawing, .pdf one page of A4 to
-// print. False: it says none of these.
+// The name of a file says what is drawn into it: .png a picture of the window, .svg and .pdf its title and
+// its board for paper, black on white, .pdf on a page of A4. False: it says none of these.
 bool FormeConnue(std::string_view nom);
 
-// Draws the inside of a window, with the whole board, into a file of a known form. What was there before is
+// Draws a window, with the whole board, into a file of a known form. What was there before is
 // replaced when the new one is whole. False: it can't be written, and nothing has changed.
 bool DessineDansFichier(FenetreQt& fenetre, const QString& chemin);
 

@@ -1,8 +1,8 @@
 // The game on a desktop.
 //
 //   sudoku [FICHIER]                     plays, with this game file if one is named
-//   sudoku --capture IMAGE [FICHIER]     draws its window into IMAGE (.png, .svg, .pdf) and ends; needs no
-//   display
+//   sudoku --capture IMAGE [FICHIER]     draws its window into IMAGE (.png), or its title and grid for paper
+//                                        (.svg, .pdf), and ends; needs no display
 
 #include <QFile>
 #include <csignal>

@@ -3,16 +3,22 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <regex>
 
 #include "joueur.h"
+#include "qt/capture.h"
 #include "qt/editeur_case.h"
 #include "qt/joueur_qt.h"
+#include "qt/mesure.h"
+#include "qt/texte_qt.h"
 
 namespace sudoku {
 namespace {
@@ -183,6 +189,23 @@ TEST(Fenetres, LApercuTientAussiLongtempsQueLeBouton) {
   EXPECT_EQ(j.Grille(), avant) << "hiding ends it";
   QTest::mousePress(bouton, Qt::LeftButton);  // and the game may end while it is held
   EXPECT_TRUE(std::filesystem::remove(fichier));
+}
+
+TEST(Fenetres, SurPapierLeTitreEtLaGrilleEnNoirSurBlanc) {
+  JoueurQt j;
+  j.Demarre();
+  j.NouvelleGrille(QStringLiteral("1234"));
+  const std::string chemin = FichierDEssai("papier") + ".svg";
+  ASSERT_TRUE(DessineDansFichier(j.Fenetre(), QString::fromStdString(chemin)));
+  const std::string dessin = LitOctets(chemin);
+  EXPECT_NE(dessin.find("(Nouvelle grille)"), std::string::npos);
+  EXPECT_NE(dessin.find("width=\"170mm\""), std::string::npos) << "as wide as A4 allows";
+  EXPECT_EQ(dessin.find(">Jeu<"), std::string::npos);
+  const std::regex couleur("#[0-9a-f]{6}");
+  for (std::sregex_iterator c(dessin.begin(), dessin.end(), couleur); c != std::sregex_iterator(); ++c) {
+    EXPECT_TRUE(c->str() == "#000000" || c->str() == "#ffffff") << c->str();
+  }
+  EXPECT_TRUE(std::filesystem::remove(chemin));
 }
 
 TEST(Fenetres, LaBoiteAProposSeFermeParEchappement) {
