@@ -2,7 +2,6 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QScrollBar>
 
 #include "qt/mesure.h"
 #include "qt/texte_qt.h"
@@ -32,7 +31,7 @@ class ChampElement : public ElementQt {
   void Contenu() override {
     if (champ_->isReadOnly() == element_.Enabled) {
       champ_->setReadOnly(!element_.Enabled);
-      champ_->setFocusPolicy(element_.Enabled ? Qt::StrongFocus : Qt::NoFocus);
+      champ_->setFocusPolicy(element_.Enabled || !Echantillon() ? Qt::StrongFocus : Qt::NoFocus);
     }
     const QString texte = VersQt(element_.Text);
     if (champ_->text() == texte) return;
@@ -44,13 +43,19 @@ class ChampElement : public ElementQt {
     police_ = PoliceQt(element_.police, echelle);
     Ajuste();
   }
+  // A field that shows a colour and never a text.
+  bool Echantillon() const { return element_.BackColor != kCouleurSysteme; }
+  // A little too long a text is condensed. One that would be unreadable so goes on beyond the edge: the
+  // arrows go there, and the tooltip has the whole.
   void Ajuste() {
     constexpr int kBord = 8;
+    constexpr int kLisible = 80;
     const int largeur = champ_->width() - kBord;
-    const QFont police = element_.Enabled ? police_ : Condensee(police_, champ_->text(), largeur);
-    champ_->setFont(police);
-    const bool coupe = QFontMetrics(police).horizontalAdvance(champ_->text()) > largeur;
-    champ_->setToolTip(coupe ? champ_->text().toHtmlEscaped() : QString());
+    const QString texte = champ_->text();
+    const QFont condensee = Condensee(police_, texte, largeur, kLisible);
+    const bool coupe = QFontMetrics(condensee).horizontalAdvance(texte) > largeur;
+    champ_->setFont(coupe || element_.Enabled ? police_ : condensee);
+    champ_->setToolTip(coupe ? texte.toHtmlEscaped() : QString());
   }
 
   QLineEdit* champ_;
@@ -68,10 +73,6 @@ class ChampLongElement : public ElementQt {
     widget->setReadOnly(true);
     widget->setUndoRedoEnabled(false);
     widget->setTabChangesFocus(true);
-    widget->setFocusPolicy(Qt::NoFocus);
-    QObject::connect(widget->verticalScrollBar(), &QScrollBar::rangeChanged, widget, [this](int, int haut) {
-      champ_->setFocusPolicy(haut > 0 ? Qt::StrongFocus : Qt::NoFocus);
-    });
   }
   void Contenu() override {
     if (montre_ == element_.Text) return;

@@ -6,8 +6,8 @@
 
 namespace sudoku {
 
-// A text box of one line or several. A disabled one only displays: it takes no focus, unless it has more
-// lines than it shows and is to be read with the keyboard.
+// A text box of one line or several. A disabled one only displays: it is read, and its text gone through,
+// with the keyboard; one with a colour of its own is a sample of that colour and takes no focus.
 std::unique_ptr<ElementQt> FabriqueChamp(Element& element, QWidget* parent, Pilote& pilote);
 
 }  // namespace sudoku

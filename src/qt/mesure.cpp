@@ -16,10 +16,10 @@ QFont PoliceQt(const Police& police, double echelle) {
   return f;
 }
 
-QFont Condensee(QFont police, const QString& texte, int largeur) {
+QFont Condensee(QFont police, const QString& texte, int largeur, int moindre) {
   const int voulue = QFontMetrics(police).horizontalAdvance(texte);
   if (voulue <= largeur || voulue == 0) return police;
-  for (int pourcent = std::max(50, 100 * largeur / voulue); pourcent >= 50; pourcent -= 5) {
+  for (int pourcent = std::max(moindre, 100 * largeur / voulue); pourcent >= moindre; pourcent -= 5) {
     police.setStretch(pourcent);
     if (QFontMetrics(police).horizontalAdvance(texte) <= largeur) break;
   }

@@ -24,7 +24,7 @@ inline QColor CouleurQt(Couleur c) {
 // The font of a table, sized in pixels, in an installed face with the metrics of the one that is named there.
 QFont PoliceQt(const Police& police, double echelle = 1);
 
-// `police` narrowed as far as it takes (down to half) for `texte` to fit into `largeur` pixels.
-QFont Condensee(QFont police, const QString& texte, int largeur);
+// `police` narrowed as far as it takes (down to `moindre` percent) for `texte` to fit into `largeur` pixels.
+QFont Condensee(QFont police, const QString& texte, int largeur, int moindre = 50);
 
 }  // namespace sudoku

@@ -191,6 +191,25 @@ TEST(Fenetres, LApercuTientAussiLongtempsQueLeBouton) {
   EXPECT_TRUE(std::filesystem::remove(fichier));
 }
 
+TEST(Fenetres, DesValeursTropNombreusesDefilentEtRestentLisibles) {
+  JoueurQt j;
+  j.Demarre();
+  j.NouvelleGrille(QStringLiteral("1234"));
+  j.Menu(Qt::Key_Question, Qt::Key_A);
+  auto* champ = j.Assistant().findChild<QLineEdit*>("TxtListPoss");
+  const QString valeurs = QStringLiteral("A-B-C-D-E-F-G-H-I-J-K-L-M-N-O-P-Q-R-S-T-U-V-W-X-Y");
+  j.LeSysteme().Execute([&] { j.Aide().Trouve("TxtListPoss")->Text = DepuisQt(valeurs); });
+  EXPECT_LE(champ->font().stretch(), 100);
+  EXPECT_NE(champ->font().stretch(), 50);
+  EXPECT_EQ(champ->toolTip(), valeurs);
+  champ->setFocus();
+  QTest::keyClick(champ, Qt::Key_End);
+  EXPECT_EQ(champ->cursorPosition(), valeurs.size());
+  EXPECT_TRUE(champ->focusPolicy() & Qt::TabFocus);
+  EXPECT_EQ(j.Assistant().findChild<QLineEdit*>("TxtLightSur")->focusPolicy(), Qt::NoFocus)
+      << "only a colour";
+}
+
 TEST(Fenetres, SurPapierLeTitreEtLaGrilleEnNoirSurBlanc) {
   JoueurQt j;
   j.Demarre();
