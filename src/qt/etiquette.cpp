@@ -2,20 +2,22 @@
 
 #include <QPainter>
 
+#include "qt/mesure.h"
+
 namespace sudoku {
 
 void Etiquette::Montre(const QString& texte) {
   if (texte_ == texte) return;
   texte_ = texte;
-  MetAJourBulle();
+  Ajuste();
   update();
 }
 
 void Etiquette::Apparence(const QFont& police, bool centre, bool bordure) {
-  setFont(police);
+  police_ = police;
   centre_ = centre;
   bordure_ = bordure;
-  MetAJourBulle();
+  Ajuste();
 }
 
 QRect Etiquette::Dedans() const {
@@ -23,7 +25,8 @@ QRect Etiquette::Dedans() const {
   return rect().adjusted(bord, bord, -bord, -bord);
 }
 
-void Etiquette::MetAJourBulle() {
+void Etiquette::Ajuste() {
+  setFont(centre_ ? Condensee(police_, texte_, Dedans().width(), 60) : police_);
   const bool coupe = centre_ && fontMetrics().horizontalAdvance(texte_) > Dedans().width();
   // As rich text a name in angle brackets would vanish.
   setToolTip(coupe ? texte_.toHtmlEscaped() : QString());
@@ -32,8 +35,9 @@ void Etiquette::MetAJourBulle() {
 void Etiquette::paintEvent(QPaintEvent*) {
   QPainter p(this);
   if (bordure_) {
-    p.setPen(palette().color(QPalette::Dark));
-    p.drawRect(rect().adjusted(0, 0, -1, -1));
+    // Filled: a drawn line of a fraction of a pixel may fall outside, where nothing is shown.
+    const QRegion bord = QRegion(rect()) - rect().adjusted(1, 1, -1, -1);
+    for (const QRect& cote : bord) p.fillRect(cote, palette().color(QPalette::Dark));
   }
   p.setPen(palette().color(QPalette::WindowText));
   if (centre_) {

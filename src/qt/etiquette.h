@@ -6,7 +6,8 @@
 
 namespace sudoku {
 
-// A label. A centred one is one line: what doesn't fit is elided, and the whole text is its tooltip. Any
+// A label. A centred one is one line: what doesn't fit is condensed, then elided with the whole text as its
+// tooltip. Any
 // other is wrapped at its width. A screen reader finds its text, but is not told of every change: a clock in
 // a label would never let it finish.
 class Etiquette : public QWidget {
@@ -19,12 +20,13 @@ class Etiquette : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent*) override;
-  void resizeEvent(QResizeEvent*) override { MetAJourBulle(); }
+  void resizeEvent(QResizeEvent*) override { Ajuste(); }
 
  private:
   QRect Dedans() const;
-  void MetAJourBulle();
+  void Ajuste();
 
+  QFont police_;
   QString texte_;
   bool centre_ = false;
   bool bordure_ = false;
