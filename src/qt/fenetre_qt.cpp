@@ -256,8 +256,30 @@ void FenetreQt::showEvent(QShowEvent* evenement) {
   }
   if (premier != nullptr) premier->setFocus();
 }
+// A tool comes up beside its owner. Where the screen has no room there, it comes to the edge of the screen
+// and leaves menus and labels free.
+void FenetreQt::PlaceACote() {
+  const auto* voisine = dynamic_cast<const FenetreQt*>(parentWidget());
+  if (placee_ || voisine == nullptr || windowType() != Qt::Tool) return;
+  placee_ = true;
+  const QRect ecran = voisine->screen()->availableGeometry();
+  const QRect place = voisine->frameGeometry();
+  // Its frame will be as thick, and as long as that isn't there the place is that of what it holds.
+  const QSize cadre = size() + place.size() - voisine->size();
+  const QPoint dedans = voisine->geometry().topLeft() - place.topLeft();
+  QPoint coin(place.right() + 1, place.top());
+  if (coin.x() + cadre.width() > ecran.right() + 1) coin.setX(place.left() - cadre.width());
+  if (coin.x() < ecran.left()) {
+    coin.setX(ecran.right() + 1 - cadre.width());
+    if (voisine->plateau_ != nullptr) coin.setY(voisine->plateau_->mapToGlobal(QPoint()).y());
+  }
+  const int bas = std::max(ecran.top(), ecran.bottom() + 1 - cadre.height());
+  move(QPoint(coin.x(), std::clamp(coin.y(), ecran.top(), bas)) + dedans);
+}
+
 
 // The real frame is known, or the window is on another screen.
+  PlaceACote();
 bool FenetreQt::event(QEvent* evenement) {
   const bool resultat = QWidget::event(evenement);
   if (evenement->type() == QEvent::ScreenChangeInternal && plateau_ != nullptr) Dispose();

@@ -77,6 +77,7 @@ class FenetreQt : public QWidget {
   void CentreSurProprietaire();
   void ChangeZoom(int pas);
   bool ToucheDeZoom(const QKeyEvent& evenement);
+  void PlaceACote();
   bool ToucheDeBouton(const QKeyEvent& evenement);
   bool Appuie(bool Element::*role);
 
@@ -97,5 +98,6 @@ class FenetreQt : public QWidget {
   Texte titre_;
   QSize voulue_;  // Width, Height of the record when it was last laid out
 };
+  bool placee_ = false;  // from then on the user moves it
 
 }  // namespace sudoku

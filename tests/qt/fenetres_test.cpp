@@ -158,6 +158,8 @@ TEST(Fenetres, LApercuTientAussiLongtempsQueLeBouton) {
   j.Menu(Qt::Key_Question, Qt::Key_A);
   EXPECT_TRUE(j.Assistant().isVisible());
   EXPECT_TRUE(j.Fenetre().isActiveWindow()) << "it comes up without taking the focus";
+  EXPECT_FALSE(j.Assistant().frameGeometry().intersects(j.Fenetre().frameGeometry()))
+      << "and beside the board";
   auto* bouton = j.Assistant().findChild<QPushButton*>("BtViewSolution");
   const std::string avant = j.Grille();
   const std::string solution = "1234341221434321";
