@@ -71,7 +71,12 @@ void NoteMessage(QtMsgType type, const QMessageLogContext&, const QString& texte
 // needs, is not drawn at every start.
 class Style : public QProxyStyle {
  public:
-  Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+  explicit Style(double echelle) : QProxyStyle(QStringLiteral("Fusion")), echelle_(echelle) {}
+  int pixelMetric(PixelMetric quoi, const QStyleOption* option, const QWidget* widget) const override {
+    const int mesure = QProxyStyle::pixelMetric(quoi, option, widget);
+    const bool suit = quoi == PM_IndicatorWidth || quoi == PM_IndicatorHeight || quoi == PM_ScrollBarExtent;
+    return suit ? static_cast<int>(std::lround(mesure * echelle_)) : mesure;
+  }
   QIcon standardIcon(StandardPixmap quoi, const QStyleOption* option, const QWidget* widget) const override {
     if (quoi == SP_ToolBarHorizontalExtensionButton) return {};
     return QProxyStyle::standardIcon(quoi, option, widget);
@@ -91,7 +96,20 @@ class Style : public QProxyStyle {
     p->setPen(option->palette.window().color().darker(112));
     p->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
   }
+
+ private:
+  double echelle_;
 };
+
+// Fonts of up to 11 points are what desktops come with, and the tables' own size stands for them; one that
+// somebody has made larger makes all larger.
+double EchellePour(const QFont& duBureau) {
+  constexpr double kOrdinaire = 11;
+  constexpr double kMoyenne = 10;
+  const double points =
+      duBureau.pointSizeF() > 0 ? duBureau.pointSizeF() : duBureau.pixelSize() / kPixelsParPoint;
+  return points <= kOrdinaire ? 1 : std::min(points / kMoyenne, 3.0);
+}
 
 }  // namespace
 
@@ -108,9 +126,10 @@ void PrepareApplication(QApplication& application) {
   if (francais->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(francais);
   }
-  QApplication::setStyle(new Style);
+  const double echelle = EchellePour(QApplication::font());
+  QApplication::setStyle(new Style(echelle));
   QApplication::setPalette(QApplication::style()->standardPalette());
-  QApplication::setFont(PoliceQt({}));
+  QApplication::setFont(PoliceQt({}, echelle));
   QApplication::setQuitOnLastWindowClosed(false);
   QGuiApplication::setDesktopFileName(QStringLiteral("solver-de-sudoku"));  // as installed: icon and group
   InstalleLecture();

@@ -16,10 +16,15 @@
 #include <QTreeView>
 
 #include "qt/icone.h"
+#include "qt/mesure.h"
 #include "qt/texte_qt.h"
 
 namespace sudoku {
 namespace {
+
+int AuBureau(int pixels) {
+  return static_cast<int>(std::lround(pixels * EchelleDuBureau()));
+}
 
 void Installe(QDialog& boite, const PlaceDeBoite& place, const char* nom) {
   boite.setObjectName(QString::fromLatin1(nom));
@@ -75,10 +80,10 @@ class ModeleFrancais : public QIdentityProxyModel {
 
 void ElargitColonnes(QFileDialog& boite) {
   constexpr int kLargeurs[] = {220, 70, 110, 110};
-  boite.resize(680, 420);
+  boite.resize(AuBureau(680), AuBureau(420));
   const auto* arbre = boite.findChild<QTreeView*>(QStringLiteral("treeView"));
   if (arbre == nullptr) return;
-  for (int n = 0; n < 4; ++n) arbre->header()->resizeSection(n, kLargeurs[n]);
+  for (int n = 0; n < 4; ++n) arbre->header()->resizeSection(n, AuBureau(kLargeurs[n]));
 }
 
 // "Sudoku Files (*.sud)" of the pairs of description and pattern of a request.

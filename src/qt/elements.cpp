@@ -92,14 +92,14 @@ class CaseACocherElement : public ElementQt {
     const QString texte = VersQt(element_.Caption);
     if (case_->text() != texte) {
       case_->setText(texte);
-      Taille(1);
+      Taille(Echelle());
     }
     if (case_->isChecked() != (element_.Value != 0)) case_->setChecked(element_.Value != 0);
   }
   void Taille(double echelle) override {
-    constexpr int kMarque = 24;  // the box itself and the gap behind it
-    case_->setFont(
-        Condensee(PoliceQt(element_.police, echelle), case_->text(), Rectangle(echelle).width() - kMarque));
+    constexpr double kMarque = 24;  // the box itself and the gap behind it
+    case_->setFont(Condensee(PoliceQt(element_.police, echelle), case_->text(),
+                             Rectangle(echelle).width() - static_cast<int>(kMarque * echelle)));
   }
 
   QCheckBox* case_;
@@ -162,7 +162,7 @@ class BoutonElement : public ElementQt {
     const QString texte = VersQt(element_.Caption);
     if (bouton_->text() == texte) return;
     bouton_->setText(texte);
-    Taille(1);
+    Taille(Echelle());
   }
   void Taille(double echelle) override {
     constexpr int kMarge = 8;
@@ -178,13 +178,16 @@ class ImageElement : public ElementQt {
   ImageElement(Element& element, QWidget* parent) : ImageElement(element, new QLabel(parent)) {}
 
  private:
-  ImageElement(Element& element, QLabel* widget) : ElementQt(element, widget) {
-    constexpr int kCote = 32;
+  ImageElement(Element& element, QLabel* widget) : ElementQt(element, widget), image_(widget) {
     widget->setAlignment(Qt::AlignCenter);
-    widget->setPixmap(IconeDuJeu().pixmap(QSize(kCote, kCote), widget->devicePixelRatioF()));
   }
   void Contenu() override {}
-  void Taille(double) override {}
+  void Taille(double echelle) override {
+    const int cote = static_cast<int>(std::lround(32 * echelle));
+    image_->setPixmap(IconeDuJeu().pixmap(QSize(cote, cote), image_->devicePixelRatioF()));
+  }
+
+  QLabel* image_;
 };
 
 class TraitElement : public ElementQt {

@@ -32,6 +32,8 @@ class ElementQt {
   virtual void Contenu() = 0;
   // Size and font have changed to `echelle`.
   virtual void Taille(double echelle) = 0;
+  // That of the last Taille.
+  double Echelle() const { return echelle_; }
   // Lines are places, not rectangles.
   virtual QRect Rectangle(double echelle) const;
 

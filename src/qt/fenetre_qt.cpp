@@ -10,7 +10,6 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "qt/mesure.h"
 #include "qt/plateau_qt.h"
 #include "qt/texte_qt.h"
 #include "qt/touches.h"
@@ -38,7 +37,7 @@ FenetreQt::FenetreQt(Fenetre& fenetre, Pilote& pilote, QWidget* proprietaire, Ma
       dessus_(maniere.dessus) {
   if (maniere.modale) setWindowModality(Qt::ApplicationModal);
   setObjectName(QString::fromStdString(fenetre.Name));
-  setFont(PoliceQt({}));
+  setFont(PoliceQt({}, bureau_));
   if (fenetre_.avecPlateau) {
     plateau_ = new PlateauQt(fenetre_, pilote_, fond_);
     plateau_->ToucheDeFenetre = [this](const QKeyEvent& evenement) { return ToucheDeZoom(evenement); };
@@ -192,16 +191,24 @@ QSize FenetreQt::Disponible() const {
 void FenetreQt::Dispose() {
   voulue_ = QSize(fenetre_.Width, fenetre_.Height);
   const int menu = barre_ != nullptr ? barre_->sizeHint().height() : 0;
-  QSize taille(Pixels(fenetre_.Width), Pixels(fenetre_.Height));
-  double echelle = 1;
+  const QSize disponible = Disponible();
+  const QSize table(Pixels(fenetre_.Width), Pixels(fenetre_.Height));
+  double echelle = bureau_;
+  if (plateau_ == nullptr && bureau_ > 1) {
+    echelle = std::clamp(
+        std::min(1.0 * disponible.width() / table.width(), 1.0 * disponible.height() / table.height()), 1.0,
+        bureau_);
+  }
+  QSize taille = (QSizeF(table) * echelle).toSize();
   if (plateau_ != nullptr) {
     Twips haut = 0;
     for (const Element& element : fenetre_.elements) haut = std::max(haut, element.Top + element.Height);
-    echelle = std::clamp(zoom_, 1.0, 2.0);
+    echelle = bureau_ * std::clamp(zoom_, 1.0, 2.0);
+    const double zoom = bureau_ * zoom_;
     const int entete = Pixels(haut, echelle);
-    const QSize contenu(Pixels(fenetre_.Width, zoom_),
-                        static_cast<int>(std::lround((taille.height() - menu - Pixels(haut)) * zoom_)));
-    const QSize disponible = Disponible();
+    const QSize contenu(
+        Pixels(fenetre_.Width, zoom),
+        static_cast<int>(std::lround((table.height() - menu / bureau_ - Pixels(haut)) * zoom)));
     const int barre = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     taille = QSize(contenu.width(), menu + entete + contenu.height());
     if (taille.height() > disponible.height()) taille.rwidth() += barre;
@@ -209,7 +216,7 @@ void FenetreQt::Dispose() {
     if (barre_ != nullptr) taille.setWidth(std::max(taille.width(), barre_->sizeHint().width()));
     taille = taille.boundedTo(disponible);
     plateau_->setGeometry(0, entete, taille.width(), taille.height() - menu - entete);
-    plateau_->Dimensionne(zoom_, haut, contenu);
+    plateau_->Dimensionne(zoom, haut, contenu);
   }
   setFixedSize(taille);
   if (barre_ != nullptr) barre_->setGeometry(0, 0, taille.width(), menu);
@@ -239,23 +246,6 @@ void FenetreQt::CentreSurProprietaire() {
   move(cadre.topLeft());
 }
 
-void FenetreQt::showEvent(QShowEvent* evenement) {
-  CentreSurProprietaire();
-  QWidget::showEvent(evenement);
-  if (focusWidget() != nullptr || plateau_ != nullptr) return;
-  // The first stop in the order of the Tab key.
-  QWidget* premier = nullptr;
-  int rang = 0;
-  for (const auto& element : elements_) {
-    const Element& e = element->LElement();
-    if (e.TabIndex < 0 || !e.TabStop || !e.Visible || element->Widget()->focusPolicy() == Qt::NoFocus)
-      continue;
-    if (e.genre == Genre::kCadre || (premier != nullptr && e.TabIndex > rang)) continue;
-    premier = element->Widget();
-    rang = e.TabIndex;
-  }
-  if (premier != nullptr) premier->setFocus();
-}
 // A tool comes up beside its owner. Where the screen has no room there, it comes to the edge of the screen
 // and leaves menus and labels free.
 void FenetreQt::PlaceACote() {
@@ -279,7 +269,6 @@ void FenetreQt::PlaceACote() {
 
 
 // The real frame is known, or the window is on another screen.
-  PlaceACote();
 bool FenetreQt::event(QEvent* evenement) {
   const bool resultat = QWidget::event(evenement);
   if (evenement->type() == QEvent::ScreenChangeInternal && plateau_ != nullptr) Dispose();
@@ -287,6 +276,24 @@ bool FenetreQt::event(QEvent* evenement) {
 }
 
 // ---- larger and smaller
+void FenetreQt::showEvent(QShowEvent* evenement) {
+  CentreSurProprietaire();
+  PlaceACote();
+  QWidget::showEvent(evenement);
+  if (focusWidget() != nullptr || plateau_ != nullptr) return;
+  // The first stop in the order of the Tab key.
+  QWidget* premier = nullptr;
+  int rang = 0;
+  for (const auto& element : elements_) {
+    const Element& e = element->LElement();
+    if (e.TabIndex < 0 || !e.TabStop || !e.Visible || element->Widget()->focusPolicy() == Qt::NoFocus)
+      continue;
+    if (e.genre == Genre::kCadre || (premier != nullptr && e.TabIndex > rang)) continue;
+    premier = element->Widget();
+    rang = e.TabIndex;
+  }
+  if (premier != nullptr) premier->setFocus();
+}
 
 void FenetreQt::ChangeZoom(int pas) {
   constexpr int kPourcents[] = {25, 33, 50, 67, 80, 90, 100, 110, 125, 150, 175, 200, 250, 300, 350, 400};

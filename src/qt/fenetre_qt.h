@@ -8,6 +8,7 @@
 
 #include "platform/fenetre.h"
 #include "qt/elements.h"
+#include "qt/mesure.h"
 #include "qt/pilote.h"
 
 class QAction;
@@ -76,8 +77,8 @@ class FenetreQt : public QWidget {
   void RentreDansLEcran();
   void CentreSurProprietaire();
   void ChangeZoom(int pas);
-  bool ToucheDeZoom(const QKeyEvent& evenement);
   void PlaceACote();
+  bool ToucheDeZoom(const QKeyEvent& evenement);
   bool ToucheDeBouton(const QKeyEvent& evenement);
   bool Appuie(bool Element::*role);
 
@@ -91,13 +92,14 @@ class FenetreQt : public QWidget {
   std::vector<Tic> tics_;
   QEventLoop boucle_;
 
-  double zoom_ = 1;
-  int roue_ = 0;  // parts of a wheel's notch
+  const double bureau_ = EchelleDuBureau();
+  double zoom_ = 1;  // beside it
+  int roue_ = 0;     // parts of a wheel's notch
   bool sansEcran_ = false;
   bool dessus_;
   Texte titre_;
+  bool placee_ = false;  // from then on the user moves it
   QSize voulue_;  // Width, Height of the record when it was last laid out
 };
-  bool placee_ = false;  // from then on the user moves it
 
 }  // namespace sudoku

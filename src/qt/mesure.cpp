@@ -1,5 +1,6 @@
 #include "qt/mesure.h"
 
+#include <QApplication>
 #include <QFontMetrics>
 #include <algorithm>
 
@@ -14,6 +15,10 @@ QFont PoliceQt(const Police& police, double echelle) {
   f.setBold(police.Gras);
   f.setItalic(police.Italique);
   return f;
+}
+
+double EchelleDuBureau() {
+  return QApplication::font().pixelSize() / (Police().Taille * kPixelsParPoint);
 }
 
 QFont Condensee(QFont police, const QString& texte, int largeur, int moindre) {

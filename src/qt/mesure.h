@@ -27,4 +27,8 @@ QFont PoliceQt(const Police& police, double echelle = 1);
 // `police` narrowed as far as it takes (down to `moindre` percent) for `texte` to fit into `largeur` pixels.
 QFont Condensee(QFont police, const QString& texte, int largeur, int moindre = 50);
 
+// How many times larger than in the tables windows and menus are, as the desktop's font wants it: that of the
+// application, which is made so in PrepareApplication.
+double EchelleDuBureau();
+
 }  // namespace sudoku

@@ -212,6 +212,21 @@ TEST(Fenetres, DesValeursTropNombreusesDefilentEtRestentLisibles) {
       << "only a colour";
 }
 
+TEST(Fenetres, LaPoliceDuBureauAgranditTout) {
+  QApplication::setFont(PoliceQt({}, 2));
+  JoueurQt j;
+  j.Demarre();
+  j.NouvelleGrille(QStringLiteral("1234"));
+  j.Menu(Qt::Key_Question, Qt::Key_A);
+  QApplication::setFont(PoliceQt({}));
+  EXPECT_EQ(j.Ecran().RectangleCase(1).size(), QSize(50, 50));
+  EXPECT_EQ(j.Assistant().size(), QSize(578, 730));
+  for (const QCheckBox* boite : j.Assistant().findChildren<QCheckBox*>()) {
+    EXPECT_EQ(boite->font().pixelSize(), 22);
+    EXPECT_LE(boite->sizeHint().width(), boite->width()) << boite->text().toStdString();
+  }
+}
+
 TEST(Fenetres, SurPapierLeTitreEtLaGrilleEnNoirSurBlanc) {
   JoueurQt j;
   j.Demarre();
