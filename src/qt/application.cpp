@@ -18,7 +18,7 @@
 #include <cstdlib>
 
 #include "qt/icone.h"
-#include "qt/lecture_plateau.h"
+#include "qt/lecture.h"
 #include "qt/mesure.h"
 #include "qt/systeme_qt.h"
 

@@ -19,7 +19,7 @@ void Fond(QWidget* widget, const Element& element) {
 class ChampElement : public ElementQt {
  public:
   ChampElement(Element& element, QWidget* parent, Pilote& pilote)
-      : ChampElement(element, new QLineEdit(parent), pilote) {}
+      : ChampElement(element, new ChampQt(parent), pilote) {}
 
  private:
   ChampElement(Element& element, QLineEdit* widget, Pilote& pilote)

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QStyle>
 #include <QWindow>
@@ -63,10 +64,19 @@ void FenetreQt::FabriqueElements() {
     if (element.genre == Genre::kCadre) elements_.back()->Widget()->lower();
   }
   if (plateau_ != nullptr) plateau_->lower();
-  for (const auto& element : elements_) {
-    if (element->LElement().Libelle.empty()) continue;
-    const Element* libelle = fenetre_.Trouve(element->LElement().Libelle);
-    element->Widget()->setAccessibleName(VersQt(libelle->Caption));
+  for (const auto& element : elements_) Nomme(*element);
+}
+
+// For readers: a field by its label, a list without one by what the window asks.
+void FenetreQt::Nomme(const ElementQt& element) {
+  const Element& e = element.LElement();
+  const bool liste = e.genre == Genre::kListe || e.genre == Genre::kChampListe;
+  if (e.Libelle.empty() && !liste) return;
+  const QString nom = VersQt(e.Libelle.empty() ? fenetre_.Caption : fenetre_.Trouve(e.Libelle)->Caption);
+  element.Widget()->setAccessibleName(nom);
+  for (QWidget* partie :
+       element.Widget()->findChildren<QWidget*>(QRegularExpression(QStringLiteral("\\.")))) {
+    partie->setAccessibleName(nom);
   }
 }
 
@@ -267,15 +277,6 @@ void FenetreQt::PlaceACote() {
   move(QPoint(coin.x(), std::clamp(coin.y(), ecran.top(), bas)) + dedans);
 }
 
-
-// The real frame is known, or the window is on another screen.
-bool FenetreQt::event(QEvent* evenement) {
-  const bool resultat = QWidget::event(evenement);
-  if (evenement->type() == QEvent::ScreenChangeInternal && plateau_ != nullptr) Dispose();
-  return resultat;
-}
-
-// ---- larger and smaller
 void FenetreQt::showEvent(QShowEvent* evenement) {
   CentreSurProprietaire();
   PlaceACote();
@@ -294,6 +295,15 @@ void FenetreQt::showEvent(QShowEvent* evenement) {
   }
   if (premier != nullptr) premier->setFocus();
 }
+
+// The real frame is known, or the window is on another screen.
+bool FenetreQt::event(QEvent* evenement) {
+  const bool resultat = QWidget::event(evenement);
+  if (evenement->type() == QEvent::ScreenChangeInternal && plateau_ != nullptr) Dispose();
+  return resultat;
+}
+
+// ---- larger and smaller
 
 void FenetreQt::ChangeZoom(int pas) {
   constexpr int kPourcents[] = {25, 33, 50, 67, 80, 90, 100, 110, 125, 150, 175, 200, 250, 300, 350, 400};

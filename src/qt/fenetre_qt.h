@@ -65,6 +65,7 @@ class FenetreQt : public QWidget {
   };
 
   void FabriqueElements();
+  void Nomme(const ElementQt& element);
   void FabriqueMenus();
   void FabriqueMinuteries();
   void OrdreDeTabulation();
@@ -76,8 +77,8 @@ class FenetreQt : public QWidget {
   QSize Disponible() const;
   void RentreDansLEcran();
   void CentreSurProprietaire();
-  void ChangeZoom(int pas);
   void PlaceACote();
+  void ChangeZoom(int pas);
   bool ToucheDeZoom(const QKeyEvent& evenement);
   bool ToucheDeBouton(const QKeyEvent& evenement);
   bool Appuie(bool Element::*role);
@@ -97,8 +98,8 @@ class FenetreQt : public QWidget {
   int roue_ = 0;     // parts of a wheel's notch
   bool sansEcran_ = false;
   bool dessus_;
-  Texte titre_;
   bool placee_ = false;  // from then on the user moves it
+  Texte titre_;
   QSize voulue_;  // Width, Height of the record when it was last laid out
 };
 

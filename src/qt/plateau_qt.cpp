@@ -10,6 +10,7 @@
 #include <QToolTip>
 
 #include "qt/editeur_case.h"
+#include "qt/lecture_plateau.h"
 #include "qt/mesure.h"
 #include "qt/palette_symboles.h"
 #include "qt/texte_qt.h"
@@ -79,7 +80,7 @@ void PlateauQt::SuitFocus() {
   editeur_->show();
   editeur_->setFocus();
   redessins_ = fenetre_.plateau.Redessins() - 1;  // the selection is to be written
-  AnnonceFocus();
+  AnnonceFocus(*this);
 }
 
 void PlateauQt::SuitEditeur() {
@@ -112,6 +113,9 @@ void PlateauQt::SuitChangements() {
       if (i > 0 && i <= fenetre_.plateau.Cases()) Repeint(i);
     }
   }
+  if (QAccessible::isActive()) {
+    for (const std::int32_t i : changees) AnnonceChangement(*this, i);
+  }
   fenetre_.plateau.OublieChangees();
 }
 
@@ -141,14 +145,6 @@ void PlateauQt::Tabulation(bool avant) {
       return Focalise(i);
     }
   }
-}
-
-void PlateauQt::AnnonceFocus() {
-  // Without a reader nothing is made to be announced.
-  if (!QAccessible::isActive() || focus_ == 0) return;
-  QAccessibleEvent annonce(this, QAccessible::Focus);
-  annonce.setChild(focus_ - 1);
-  QAccessible::updateAccessibility(&annonce);
 }
 
 // ---- keys and mouse

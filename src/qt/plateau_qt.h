@@ -71,7 +71,6 @@ class PlateauQt : public QAbstractScrollArea {
   void Tabulation(bool avant);
   void MontreFocus();
   void PlaceEditeur();
-  void AnnonceFocus();
 
   void Redimensionne();
   void MontreBarres();

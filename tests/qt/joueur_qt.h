@@ -43,7 +43,8 @@ class JoueurQt {
   Plateau& LePlateau() { return programme_.Principale().plateau; }
   Minuterie& Tmr() { return *programme_.Principale().TrouveMinuterie("Tmr"); }
   FenetreQt& Fenetre() { return *systeme_.FenetreDe(programme_.Principale()); }
-  FenetreQt& Assistant() { return *systeme_.FenetreDe(programme_.LAssistant().LaFenetre()); }
+  sudoku::Fenetre& Aide() { return programme_.LAssistant().LaFenetre(); }
+  FenetreQt& Assistant() { return *systeme_.FenetreDe(Aide()); }
   PlateauQt& Ecran() { return *Fenetre().LePlateau(); }
   SystemeQt& LeSysteme() { return systeme_; }
   // The texts on the board, "." for an empty box.

@@ -345,13 +345,41 @@ TEST_F(UnPlateau, UnLecteurDEcranEntendChaqueCase) {
   EXPECT_EQ(horloge->text(QAccessible::Name), QStringLiteral("00:00:00"));
 
   const QAccessibleInterface* plateau = QAccessible::queryAccessibleInterface(&j.Ecran());
-  EXPECT_EQ(plateau->childCount(), 16);
+  EXPECT_EQ(plateau->text(QAccessible::Name), QStringLiteral("Plateau"));
+  EXPECT_EQ(plateau->parent()->parent()->role(), QAccessible::Window);
+  EXPECT_EQ(plateau->childCount(), 17) << "the editor stands behind the boxes";
   EXPECT_EQ(plateau->child(15)->text(QAccessible::Name),
             QStringLiteral("vide, case 16, ligne 4, colonne 4, carré 4"));
   EXPECT_TRUE(plateau->child(0)->state().readOnly);
+  EXPECT_EQ(plateau->child(0)->textInterface()->text(0, 1), QStringLiteral("3"));
+  auto* editeur = QAccessible::queryAccessibleInterface(&Editeur());
+  EXPECT_EQ(editeur->parent(), plateau);
+  EXPECT_EQ(plateau->indexOfChild(editeur), 16);
+  EXPECT_EQ(editeur->text(QAccessible::Name), plateau->child(0)->text(QAccessible::Name));
+}
+
+// What the assistant shows of an entry is said when it comes to be shown, and not before.
+TEST_F(UnPlateau, UnLecteurDEcranEntendCeQueMontreLAssistant) {
+  Ouvre();
+  j.CliqueCase(1);
+  j.Tape(QStringLiteral("3"));
+  j.Menu(Qt::Key_J, Qt::Key_D);
   j.Menu(Qt::Key_Question, Qt::Key_A);
+  const LecteurDEcran lecteur;
+  j.CliqueCase(2);
+  LecteurDEcran::Oublie();
+  j.Tape(QStringLiteral("3"));
+  const QString place = QStringLiteral(", case 2, ligne 1, colonne 2, carré 1");
+  EXPECT_TRUE(lecteur.Entendu(false).contains(QStringLiteral("3") + place));
+  LecteurDEcran::Oublie();
+  auto& erronees = *j.Aide().Trouve("ChkForeRed");
+  j.LeSysteme().Execute([&] { erronees.Clique(); });
+  EXPECT_TRUE(lecteur.Entendu(false).contains(QStringLiteral("3, saisie erronée") + place));
+
   const auto* reponse = QAccessible::queryAccessibleInterface(j.Assistant().findChild<QLineEdit*>("TxtRep"));
   EXPECT_EQ(reponse->text(QAccessible::Name), QStringLiteral("Réponse :"));
+  EXPECT_TRUE(reponse->state().focusable && reponse->state().readOnly && !reponse->state().editable);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&j.Assistant())->role(), QAccessible::Dialog);
 }
 
 }  // namespace
