@@ -26,7 +26,8 @@ QRect Etiquette::Dedans() const {
 }
 
 void Etiquette::Ajuste() {
-  setFont(centre_ ? Condensee(police_, texte_, Dedans().width(), 60) : police_);
+  constexpr int kMarge = 4;  // between a text and the border of the label below it
+  setFont(centre_ ? Condensee(police_, texte_, Dedans().width() - kMarge, 60) : police_);
   const bool coupe = centre_ && fontMetrics().horizontalAdvance(texte_) > Dedans().width();
   // As rich text a name in angle brackets would vanish.
   setToolTip(coupe ? texte_.toHtmlEscaped() : QString());
