@@ -87,7 +87,7 @@ class Images {
   }
 
  private:
-  Fenetre& Principale() { return programme_->Principale().LaFenetre(); }
+  Fenetre& Principale() { return programme_->Principale(); }
 
   void Ouvre(const std::string& fichier) {
     programme_->Demarre(DepuisQt('"' + QString::fromStdString(fichier) + '"'));
@@ -95,7 +95,7 @@ class Images {
 
   void Tic(int secondes) {
     systeme_->MetHeure(secondes);
-    programme_->Principale().Tmr().Timer();
+    Principale().TrouveMinuterie("Tmr")->Timer();
   }
 
   QPixmap Vue(const Fenetre& fenetre) {
