@@ -18,9 +18,12 @@
 namespace sudoku::fuzz {
 namespace {
 
-constexpr TexteVue kSymboles[] = {
-    U"123456789", U"1234", U"0123456789ABCDEF", U"aAbB",     U"ABCDEFGHIJKLMNOPQRSTUVWXY", U"5",
-    U"1111",      U". 0#", U"Σσς🙂",       U"-.0 _|+*é"};
+constexpr TexteVue kSymboles[] = {U"123456789", U"1234", U"0123456789ABCDEF", U"aAbB",     U"ABCDEFGHI", U"5",
+                                  U"1111",      U". 0#", U"Σσς🙂",       U"-.0 _|+*é"};
+
+// With few cells open there are few levels of suppositions, and so few passes between two boxes.
+constexpr int kVidesMax = 30;
+constexpr int kBoitesMax = 5;
 
 // Ends runs that open too many boxes.
 class Impatient : public PlateauAuto {
@@ -28,15 +31,18 @@ class Impatient : public PlateauAuto {
   struct Assez {};
   void Affiche() override {}
   void Message(TexteVue) override {
-    if (++messages_ > 30) throw Assez();
+    if (++messages_ > kBoitesMax) throw Assez();
   }
 
  private:
   int messages_ = 0;
 };
 
-// As `resoudre`. With few cells open there are few levels of suppositions, and so few passes between two
-// boxes.
+auto Vides(const GameState& jeu) {
+  return std::ranges::count(std::span(jeu.VmGrille.Donnees().saisie).subspan(1), kVide);
+}
+
+// As `resoudre`.
 class Resolveur : public lot::Ouvrier {
  public:
   Resolveur(const lot::Appel& appel, Lecture lecture) : appel_(appel), lecture_(lecture) {}
@@ -45,16 +51,14 @@ class Resolveur : public lot::Ouvrier {
     lot::LecteurGrille lecteur(jeu, appel_.symboles);
     if (lecteur.Lis(champ)) return;
     jeu.VgEtat = kJeu;
-    const auto vides = std::ranges::count(std::span(jeu.VmGrille.Donnees().saisie).subspan(1), kVide);
     Evaluateur moteur(jeu);
     Impatient plateau;
     try {
-      AutoDriver(jeu, moteur, plateau, lecture_).JeuAuto(true, !appel_.deduction && vides <= 100);
+      AutoDriver(jeu, moteur, plateau, lecture_).JeuAuto(true, !appel_.deduction && Vides(jeu) <= kVidesMax);
     } catch (const Impatient::Assez&) {
       return;
     }
-    const bool pleine = std::ranges::count(std::span(jeu.VmGrille.Donnees().saisie).subspan(1), kVide) == 0;
-    if (jeu.VsResolu && !pleine) reponse.alerte = "résolue et incomplète";
+    if (jeu.VsResolu && Vides(jeu) > 0) reponse.alerte = "résolue et incomplète";
   }
 
  private:
@@ -62,20 +66,33 @@ class Resolveur : public lot::Ouvrier {
   Lecture lecture_;
 };
 
+// As `verifier`, which counts without bound, where few cells are open.
+class Verificateur : public lot::Ouvrier {
+ public:
+  explicit Verificateur(const lot::Appel& appel)
+      : lecteur_(jeu_, appel.symboles), ouvrier_(lot::FaisVerifier(appel)) {}
+  void Traite(std::string_view champ, lot::Reponse& reponse) override {
+    if (lecteur_.Lis(champ) || Vides(jeu_) <= kVidesMax) ouvrier_->Traite(champ, reponse);
+  }
+
+ private:
+  GameState jeu_;
+  lot::LecteurGrille lecteur_;
+  std::unique_ptr<lot::Ouvrier> ouvrier_;
+};
+
 std::unique_ptr<lot::Ouvrier> Choisit(int commande, const lot::Appel& appel) {
   if (commande < 2)
     return std::make_unique<Resolveur>(appel, commande == 0 ? Lecture::kTout : Lecture::kContenus);
-  if (commande == 2 && appel.symboles.size() <= 9)
-    return lot::FaisVerifier(appel);  // it counts without bound
+  if (commande == 2) return std::make_unique<Verificateur>(appel);
   return lot::FaisExpliquer(appel);
 }
 
 void ParLignes(std::string_view octets, lot::Ouvrier& ouvrier) {
-  const int fd = ::memfd_create("lignes", MFD_CLOEXEC);
-  if (fd < 0 || ::write(fd, octets.data(), octets.size()) < 0) return;
-  lot::Lignes lignes([] {});
+  static const int fd = ::memfd_create("lignes", MFD_CLOEXEC);
+  static lot::Lignes lignes([] {});
+  if (::ftruncate(fd, 0) != 0 || ::pwrite(fd, octets.data(), octets.size(), 0) < 0) return;
   lignes.Ouvre("/proc/self/fd/" + std::to_string(fd));
-  ::close(fd);
   while (const auto ligne = lignes.Suivante()) {
     lot::Reponse reponse;
     ouvrier.Traite(ligne->champ, reponse);

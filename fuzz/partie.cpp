@@ -28,10 +28,6 @@ bool Ecourte(const std::string& ligne) {
 std::string Guillemets(TexteVue texte) {
   return VersUtf8(Cite(texte));
 }
-template <class Table>
-TexteVue Choisit(Octets& octets, const Table& table) {
-  return table[octets.Tire(static_cast<int>(std::size(table)))];
-}
 
 }  // namespace
 
@@ -173,7 +169,13 @@ std::string Partie::Reponse(GenreBoite genre) {
     return DansFenetre();
   }
   if (octets_.Tire(8) == 0) return "answer annuler";
-  return "answer " + (genre == GenreBoite::kSaisie ? Guillemets(Choisit(octets_, kSymboles)) : Chemin());
+  return "answer " + (genre == GenreBoite::kSaisie ? Guillemets(Symboles()) : Chemin());
+}
+
+// Side 16 in long games alone: of others there are to be many.
+TexteVue Partie::Symboles() {
+  const TexteVue symboles = kSymboles[octets_.Tire(static_cast<int>(std::size(kSymboles)))];
+  return symboles.size() > 9 && !longue_ ? kSymboles[0] : symboles;
 }
 
 std::string Partie::DansFenetre() {
@@ -254,7 +256,7 @@ bool Partie::ResoutVite() {
   const Grille& grille = Jeu().VmGrille;
   int vides = 0;
   for (int i = 1; i <= grille.Borne(); ++i) vides += grille(i).ValeurSaisie().empty() ? 1 : 0;
-  return vides <= (longue_ ? 16 : 50);
+  return vides <= 16;
 }
 
 }  // namespace sudoku::fuzz

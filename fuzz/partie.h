@@ -20,7 +20,7 @@ class Partie : private std::streambuf {
   // `depart` is the first line of the session. etatsDuJeu: as for Invariants.
   Partie(Octets& octets, FichiersMemoire& fichiers, std::string depart, bool etatsDuJeu);
   void Joue() { session_.Joue(); }
-  // Many commands instead of a few hundred: the program isn't ended, nothing is typed that a file can't keep,
+  // Many commands instead of a hundred: the program isn't ended, nothing is typed that a file can't keep,
   // no supposition is made where many cells are open, and the disk doesn't fail, for every save that fails
   // leaves a copy.
   void Longue(int commandes);
@@ -39,6 +39,7 @@ class Partie : private std::streambuf {
   std::string Commande();
   std::string LigneBrute();
   std::string Reponse(GenreBoite genre);
+  TexteVue Symboles();
   std::string DansFenetre();
   std::string Clique();
   std::string Montre();
@@ -54,7 +55,7 @@ class Partie : private std::streambuf {
   FichiersMemoire& fichiers_;
   std::string depart_;
   std::string ligne_;
-  int restantes_ = 300;
+  int restantes_ = 100;
   bool longue_ = false;
   std::int32_t etatAvant_ = kSansGrille;
   std::istream entree_{this};
