@@ -117,6 +117,7 @@ Mots Trie(const Commande& commande, std::vector<std::string> mots) {
   constexpr int kFichier = 1;
   const std::vector<option> options = OptionsDe(commande);
   std::vector<char*> argv;
+  argv.reserve(mots.size());
   for (std::string& mot : mots) argv.push_back(mot.data());
   Mots tries;
   opterr = 0;
