@@ -11,15 +11,44 @@ namespace {
 constexpr char32_t kSepareScores = U'\0';
 constexpr char32_t kTiret = U'-';
 constexpr char32_t kTiretRange = U'\x1F';
+constexpr char32_t kBourre = U'\x1E';
 constexpr TexteVue kFinDeLigne = U"\r\n";
 
+// How many kBourre stand at the beginning of a text.
+std::size_t Bourre(TexteVue texte) {
+  return std::min(texte.find_first_not_of(kBourre), texte.size());
+}
+
 void AjouteRange(Texte& texte, TexteVue morceau) {
-  std::ranges::replace_copy(morceau, std::back_inserter(texte), kTiret, kTiretRange);
+  while (!morceau.empty()) {
+    const char32_t c = morceau.front();
+    morceau.remove_prefix(1);
+    if (c != kTiret && c != kTiretRange) {
+      texte += c;
+      continue;
+    }
+    const std::size_t bourre = Bourre(morceau);
+    texte += kTiretRange;
+    texte.append(2 * bourre + (c == kTiret ? 0 : 1), kBourre);
+    morceau.remove_prefix(bourre);
+  }
 }
 
 Texte Derange(TexteVue morceau) {
-  Texte texte(morceau);
-  std::ranges::replace(texte, kTiretRange, kTiret);
+  Texte texte;
+  texte.reserve(morceau.size());
+  while (!morceau.empty()) {
+    const char32_t c = morceau.front();
+    morceau.remove_prefix(1);
+    if (c != kTiretRange) {
+      texte += c;
+      continue;
+    }
+    const std::size_t bourre = Bourre(morceau);
+    texte += bourre % 2 == 0 ? kTiret : kTiretRange;
+    texte.append(bourre / 2, kBourre);
+    morceau.remove_prefix(bourre);
+  }
   return texte;
 }
 

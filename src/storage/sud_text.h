@@ -20,7 +20,9 @@ namespace sudoku {
 //   [00]Marie-00:03:17[00]…   one line of scores: a NUL, then name, "-", time, NUL for each
 //
 // The score line has no line end, and is a NUL alone where there is no score. In names and in the library's
-// state strings [1F] stands for "-". A line's first byte tells what it is; there is no magic number.
+// state strings [1F] stands for "-", and [1F][1E] for the character 1F itself: behind either, r characters 1E
+// of the text are written as 2 r more of them. A line's first byte tells what it is; there is no magic
+// number.
 
 // The bytes of a file, in code page 1252 or UTF-8 as the text needs.
 std::string EcritSud(TexteVue VmValeurs, TexteVue initiale, const std::vector<ClsPartie>& VgParties,

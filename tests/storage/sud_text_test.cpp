@@ -86,6 +86,26 @@ TEST(EcritSud, RelitEtRecritALOctetPourToutesLesTailles) {
   }
 }
 
+// Whatever a name or a cell holds beside the two characters that stand for "-" and for each other.
+TEST(EcritSud, LesSignesDuTiretReviennent) {
+  const Texte lettres = U"-\x1F\x1Ex";
+  for (std::size_t n = 0; n < 256; ++n) {
+    Texte nom;
+    for (std::size_t reste = n; nom.size() < 4; reste /= 4) nom += lettres[reste % 4];
+    const LectureSud lu = LitSud(EcritSud(U"\x1F",
+                                          U"\x1F"
+                                          U"0",
+                                          {{}, {nom, nom}}, {{}, {nom, 0}}));
+    const Texte attendu =
+        U"\x1F|\x1F"
+        U"0|" +
+        nom + U"=" + nom + U"|scores " + nom + U"=00:00:00";
+    ASSERT_EQ(Resume(lu), VersUtf8(attendu)) << n;
+  }
+  EXPECT_EQ(EcritSud(U"1", U" 0", {{}, {U"a\x1F\x1E-\x1E", U""}}, {{}}),
+            "1\r\n 0\r\na\x1F\x1E\x1E\x1E\x1F\x1E\x1E-\r\n\0"s);
+}
+
 TEST(EcritSud, ExempleALOctet) {
   const std::vector<ClsPartie> parties = {{}, {U"Essai", U"103143 0 0 0 0 0 0 0 0 0 0 0 020"}};
   const std::vector<TypScore> scores = {{}, {U"Marie", Jours(197'000)}};
