@@ -158,6 +158,10 @@ Appel Lis(const std::vector<std::string>& mots) {
   appel.deduction = donnee("--deduction");
   appel.texte = donnee("--texte");
   if (donnee("--symboles")) appel.symboles = Symboles(tries.options["--symboles"]);
+  if (commande.fichierDeJeu && Contient(appel.symboles, U"\n")) {
+    throw AppelIncorrect{
+        "Choix incorrect : une fin de ligne n'est pas un symbole qu'un fichier puisse tenir"};
+  }
   if (donnee("--processus")) {
     appel.processus = Processus(Entier(tries.options["--processus"], "--processus", 0, kProcessusMax));
   }

@@ -19,6 +19,13 @@ int Refuse(const std::string& fichier, const std::string& raison) {
   return 1;
 }
 
+// A name from a line; a NUL at its beginning would make its line in a game file one of scores.
+Texte Nom(std::string_view octets) {
+  Texte nom = DepuisUtf8(octets);
+  std::ranges::replace(nom, U'\0', U' ');
+  return nom;
+}
+
 // What the lines of a text hold: games, each a state string with its name, and the grid's own text.
 struct Contenu {
   std::optional<Texte> initiale;  // the first state string without a name
@@ -61,7 +68,7 @@ class Lecteur {
     const bool etats =
         texte && texte->size() == 2 * symboles_.size() * symboles_.size() && !etats_.Lis(champ);
     if (etats && tabulation != std::string_view::npos) {
-      contenu.parties.push_back({DepuisUtf8(entree.substr(tabulation + 1)), ChaineEtats(jeu_.VmGrille)});
+      contenu.parties.push_back({Nom(entree.substr(tabulation + 1)), ChaineEtats(jeu_.VmGrille)});
     } else if (etats && !contenu.initiale) {
       contenu.initiale = ChaineInitiale(jeu_.VmGrille);
     } else if (!entree.starts_with('#') || Contient(symboles_, U"#")) {

@@ -49,6 +49,7 @@ essai 2 'Choix incorrect' resoudre --symboles ''
 essai 2 'Choix incorrect' resoudre --symboles 12345
 essai 2 'Choix incorrect' resoudre --symboles $'\xff234'
 essai 2 'Choix incorrect' resoudre --symboles "$(printf '%0196d' 0)"
+essai 2 'Choix incorrect : une fin de ligne' importer --symboles $'12\n4'
 # The word behind --symboles is the symbols, whatever it is.
 essai 2 'Choix incorrect : 2 symbole(s)' resoudre --symboles --
 essai 2 'Choix incorrect : 6 symbole(s)' resoudre --symboles --aide

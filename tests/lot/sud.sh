@@ -37,6 +37,8 @@ rendu=$("$lot" exporter biblio.sud)
 [ "$rendu" = "$attendu" ] || dit "the library comes out as “$rendu”"
 "$lot" exporter biblio.sud | "$lot" importer --symboles 1234 > encore.sud
 "$lot" exporter encore.sud | cmp - <(echo "$attendu") || echec=1
+printf '1..4..2..3..4..1\n1012 0 0 0 020 0 030 0 0 0 0 040\t\0a\n' | "$lot" importer --symboles 1234 > encore.sud
+[ "$("$lot" exporter encore.sud | tail -n 1)" = $'1012 0 0 0 020 0 030 0 0 0 0 040\t a' ] || dit "a NUL takes a game with it"
 "$lot" exporter biblio.sud | "$lot" expliquer --symboles 1234 > /dev/null || dit "a line is no grid for expliquer"
 
 # What a terminal would obey stays as it is in a file, and is shown on a terminal; in messages it is always shown.
