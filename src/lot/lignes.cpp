@@ -52,13 +52,22 @@ std::string RaisonSysteme(int erreur) {
       return "c'est un dossier ; il faut un fichier de grilles";
     case ENOTDIR:
       return "un des dossiers du chemin est un fichier";
+    case ELOOP:
+      return "trop de liens qui mènent l'un à l'autre";
     case ENAMETOOLONG:
       return "chemin trop long";
     case ENOSPC:
     case EDQUOT:
       return "plus de place sur le disque";
+    case EFBIG:
+      return "fichier plus grand que la limite";
     case EBADF:
       return "flux fermé";
+    case EMFILE:
+    case ENFILE:
+      return "trop de fichiers ouverts";
+    case ENOMEM:
+      return "mémoire insuffisante";
     case EIO:
       return "erreur du périphérique";
     default:

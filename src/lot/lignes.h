@@ -35,8 +35,9 @@ class Lignes {
   // Bytes handed out so far, of all files.
   std::int64_t Octets() const { return octets_; }
 
-  // The longest grid: 169 by 169 cells, a character of four bytes and a digit each.
-  static constexpr std::size_t kChampMax = 169UL * 169 * 5;
+  // As many bytes as the characters of the longest grid, 169 by 169 cells of two, can have: a longer field
+  // has too many characters, whatever they are.
+  static constexpr std::size_t kChampMax = 169UL * 169 * 2 * 4;
 
  private:
   std::optional<std::string_view> LigneBrute();

@@ -8,6 +8,8 @@ echo 1111111111111111 > '[a]'
 cp '[a]' ++
 cp '[a]' ./-x
 mkdir dossier
+ln -s boucle boucle
+printf '\U1f642%.0s' {1..75000} > long
 echec=0
 
 essai() {
@@ -65,6 +67,8 @@ essai 0 "$resolu" resoudre --symboles 1123 --symboles 1234
 essai 1 'rien: fichier introuvable' resoudre --symboles 1234 rien ++
 essai 1 "$resolu" resoudre --symboles 1234 rien ++
 essai 1 "dossier: c'est un dossier" resoudre dossier
+essai 1 'boucle: trop de liens' exporter boucle
+essai 1 'long:1: plus de 57122 caractère(s)' resoudre --symboles "$(printf '%0169d' 0)" long
 essai 1 '++/x: un des dossiers du chemin est un fichier' resoudre ++/x
 essai 1 '++:1: 16 caractère(s) ; il en faut 81' resoudre --processus 0 ++
 exit $echec
