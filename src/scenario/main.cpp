@@ -1,3 +1,4 @@
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -12,6 +13,11 @@ namespace {
 constexpr int kSessionIllisible = 1;
 constexpr int kAppelIncorrect = 2;
 
+int Illisible(const char* nom) {
+  std::cerr << sudoku::Montrable(nom) << " : la session ne peut pas être lue\n";
+  return kSessionIllisible;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -23,16 +29,15 @@ int main(int argc, char** argv) {
     std::cout << sudoku::kAide;
     return 0;
   }
+  std::signal(SIGXFSZ, SIG_IGN);  // a write beyond the limit fails, and ends nothing
   std::ifstream fichier;
   if (argc == 2) {
     fichier.open(argv[1], std::ios::binary);
-    if (!fichier || std::filesystem::is_directory(argv[1])) {
-      std::cerr << sudoku::Montrable(argv[1]) << " : la session ne peut pas être lue\n";
-      return kSessionIllisible;
-    }
+    if (!fichier || std::filesystem::is_directory(argv[1])) return Illisible(argv[1]);
   }
+  std::istream& session = argc == 2 ? fichier : std::cin;
   sudoku::FichiersDisque fichiers;
-  sudoku::Session(argc == 2 ? fichier : std::cin, std::cout, fichiers).Joue();
+  sudoku::Session(session, std::cout, fichiers).Joue();
   std::cout.flush();
-  return 0;
+  return session.bad() ? Illisible(argc == 2 ? argv[1] : "entrée standard") : 0;
 }

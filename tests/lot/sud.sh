@@ -58,6 +58,9 @@ rendu=$(printf 'start "\\"jeu.sud\\""\nshow grid\ntype 2 "2"\nclick MnuSave\nedi
 rendu=$("$lot" exporter jeu.sud)
 [[ $rendu == "$ligne"$'\n'"1021"*$'\t'"ici" ]] || dit "the saved game comes out as “$rendu”"
 
+"$scenario" /proc/self/mem > sortie 2>&1 && dit "a session that can't be read ends well"
+grep -q '^/proc/self/mem : ' sortie || dit "“$(cat sortie)” for a session that can't be read"
+
 # refuse TEXT SYMBOLS MESSAGE: importing says so and writes nothing.
 refuse() {
   local rendu
