@@ -1,21 +1,58 @@
 // Solves and explains grids in bulk, with no window system.
 
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <new>
+#include <string_view>
+#include <system_error>
+
 #include "lot/appel.h"
 #include "lot/deroule.h"
 #include "lot/expliquer.h"
 #include "lot/resoudre.h"
+#include "lot/sortie.h"
 #include "lot/sud.h"
 #include "lot/verifier.h"
 
+namespace sudoku::lot {
+namespace {
+
+constexpr int kEchec = 1;
+
+int Renonce(std::string_view raison) {
+  EcrisTout(STDERR_FILENO, raison);
+  return kEchec;
+}
+
+// Any thread may come here, and none goes on.
+void SansMemoire() {
+  std::_Exit(Renonce("sudoku-lot : mémoire insuffisante\n"));
+}
+
+int Fais(const Appel& appel) {
+  if (appel.commande == "importer") return Importe(appel);
+  if (appel.commande == "exporter") return Exporte(appel);
+  const auto fais = appel.commande == "resoudre"    ? FaisResoudre
+                    : appel.commande == "expliquer" ? FaisExpliquer
+                                                    : FaisVerifier;
+  return Deroule(appel, [&] { return fais(appel); });
+}
+
+}  // namespace
+}  // namespace sudoku::lot
+
 int main(int argc, char** argv) {
   using namespace sudoku::lot;
+  std::set_new_handler(SansMemoire);
+  std::signal(SIGXFSZ, SIG_IGN);  // a write beyond the limit fails, and ends nothing
   int statut = 0;
   const std::optional<Appel> appel = LisAppel(argc, argv, statut);
   if (!appel) return statut;
-  if (appel->commande == "importer") return Importe(*appel);
-  if (appel->commande == "exporter") return Exporte(*appel);
-  const auto fais = appel->commande == "resoudre"    ? FaisResoudre
-                    : appel->commande == "expliquer" ? FaisExpliquer
-                                                     : FaisVerifier;
-  return Deroule(*appel, [&] { return fais(*appel); });
+  try {
+    return Fais(*appel);
+  } catch (const std::system_error&) {
+    return Renonce("sudoku-lot : le système ne donne pas de fil d'exécution\n");
+  }
 }
