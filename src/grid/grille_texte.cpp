@@ -17,7 +17,7 @@ Sens SensDe(char32_t c, TexteVue VmValeurs) {
   return Sens::kAutre;
 }
 
-// The cells of one line; nothing if it holds a character that has no place in a grid.
+// The cells of one line; nothing if it holds a character that has no place in a grid, or more cells than one.
 std::optional<Ligne> LitLigne(TexteVue texte, TexteVue VmValeurs, bool blancs_vides) {
   Ligne cases;
   for (const char32_t c : texte) {
@@ -25,6 +25,7 @@ std::optional<Ligne> LitLigne(TexteVue texte, TexteVue VmValeurs, bool blancs_vi
     if (sens == Sens::kAutre) return std::nullopt;
     if (sens == Sens::kSymbole) cases.emplace_back(1, c);
     if (sens == Sens::kVide || (sens == Sens::kBlanc && blancs_vides)) cases.emplace_back();
+    if (cases.size() > VmValeurs.size() * VmValeurs.size()) return std::nullopt;
   }
   return cases;
 }
@@ -62,7 +63,7 @@ std::optional<std::vector<Texte>> Lit(const std::vector<TexteVue>& lignes, Texte
     if (ligne->empty()) continue;
     if (ligne->size() != n && ligne->size() != n * n) return std::nullopt;
     cases.insert(cases.end(), ligne->begin(), ligne->end());
-    ++rangees;
+    if (++rangees > n) return std::nullopt;
   }
   if (cases.size() != n * n || (rangees != n && rangees != 1)) return std::nullopt;
   return cases;

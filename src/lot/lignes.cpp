@@ -10,13 +10,13 @@
 #include <cstring>
 #include <utility>
 
+#include "platform/fichiers.h"
+
 namespace sudoku::lot {
 namespace {
 
 constexpr std::size_t kTampon = std::size_t{1} << 18;
 static_assert(kTampon > Lignes::kChampMax, "a full buffer holds more than the longest field");
-
-constexpr std::size_t kFichierMax = std::size_t{1} << 26;  // read at once: far beyond any game file
 
 // Reads what is there, waiting for it if need be. Less than 0 where it fails; errno says why.
 ssize_t Lis(int fd, char* tampon, std::size_t taille) {
@@ -176,7 +176,7 @@ std::optional<std::string> LisTout(const std::string& chemin, std::string& octet
     lus = Lis(fd, tampon.data(), tampon.size());
     if (lus < 0) raison = RaisonSysteme(errno);
     octets.append(tampon.data(), static_cast<std::size_t>(std::max<ssize_t>(lus, 0)));
-    if (octets.size() > kFichierMax) raison = "trop grand pour une partie";
+    if (octets.size() > static_cast<std::size_t>(kOctetsMax)) raison = "trop grand pour une partie";
   }
   if (fd > STDIN_FILENO) close(fd);
   return raison;

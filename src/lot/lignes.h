@@ -56,7 +56,8 @@ class Lignes {
   std::optional<std::string> erreur_;
 };
 
-// Reads a whole file, "-" for standard input. Otherwise a French reason why it can't be.
+// Reads a whole file, "-" for standard input. Otherwise a French reason why it can't be: more than kOctetsMax
+// is one.
 std::optional<std::string> LisTout(const std::string& chemin, std::string& octets);
 
 // What the system says of a failed call, in French.

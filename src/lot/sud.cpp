@@ -41,7 +41,8 @@ class Lecteur {
     constexpr std::string_view kMarque = "\xEF\xBB\xBF";
     if (octets.starts_with(kMarque)) octets.remove_prefix(kMarque.size());
     Contenu contenu;
-    while (!octets.empty()) {
+    while (!octets.empty() && contenu.reste.size() <= DessinMax() &&
+           contenu.parties.size() <= kEntreesMax + 1) {
       const std::size_t fin = std::min(octets.find('\n'), octets.size());
       Range(octets.substr(0, fin), contenu);
       octets.remove_prefix(std::min(fin + 1, octets.size()));
@@ -51,6 +52,7 @@ class Lecteur {
 
   // Two characters a cell, the givens of the grid that this text draws; nothing where it draws none.
   std::optional<Texte> Initiale(const std::string& reste) const {
+    if (reste.size() > DessinMax()) return std::nullopt;
     const std::optional<Texte> texte = DepuisUtf8Strict(reste);
     const auto cases = texte ? LitGrilleTexte(*texte, symboles_) : std::nullopt;
     if (!cases) return std::nullopt;
@@ -64,16 +66,23 @@ class Lecteur {
     std::string_view entree = ligne.ends_with('\r') ? ligne.substr(0, ligne.size() - 1) : ligne;
     const std::size_t tabulation = entree.find('\t');
     const std::string_view champ = entree.substr(0, tabulation);
-    const std::optional<Texte> texte = DepuisUtf8Strict(champ);
-    const bool etats =
-        texte && texte->size() == 2 * symboles_.size() * symboles_.size() && !etats_.Lis(champ);
+    const bool etats = EstChaineEtats(champ) && !etats_.Lis(champ);
     if (etats && tabulation != std::string_view::npos) {
       contenu.parties.push_back({Nom(entree.substr(tabulation + 1)), ChaineEtats(jeu_.VmGrille)});
     } else if (etats && !contenu.initiale) {
       contenu.initiale = ChaineInitiale(jeu_.VmGrille);
     } else if (!entree.starts_with('#') || Contient(symboles_, U"#")) {
-      (contenu.reste += ligne) += '\n';
+      (contenu.reste += ligne.substr(0, DessinMax())) += '\n';
     }
+  }
+
+  std::size_t Cases() const { return symboles_.size() * symboles_.size(); }
+  // Bytes of a grid with the widest frames and margins.
+  std::size_t DessinMax() const { return 64 * (Cases() + 1000); }
+  bool EstChaineEtats(std::string_view champ) const {
+    if (champ.size() < 2 * Cases() || champ.size() > 2 * 4 * Cases()) return false;
+    const std::optional<Texte> texte = DepuisUtf8Strict(champ);
+    return texte && texte->size() == 2 * Cases();
   }
 
   Texte symboles_;
@@ -116,6 +125,7 @@ int Importe(const Appel& appel) {
   if (const auto raison = LisTout(fichier, octets)) return Refuse(fichier, *raison);
   Lecteur lecteur(appel.symboles);
   const Contenu contenu = lecteur.Partage(octets);
+  if (contenu.parties.size() > kEntreesMax + 1) return Refuse(fichier, "trop grand pour une partie");
   const std::optional<Texte> initiale = contenu.initiale ? contenu.initiale : lecteur.Initiale(contenu.reste);
   if (!initiale) return Refuse(fichier, PasDeGrille(appel.symboles.size()));
   const int erreur = EcrisTout(

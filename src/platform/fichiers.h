@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -7,6 +8,10 @@
 #include "text/texte.h"
 
 namespace sudoku {
+
+// The longest file that is read, in bytes. A grid of 169 by 169 cells takes 142 805 at most, four for a
+// symbol and one for a state; with a thousand games on it a file has 142 947 805, and the names.
+inline constexpr std::int64_t kOctetsMax = std::int64_t{144} << 20;
 
 // A file open for writing. Dropped without Ferme, it is closed and failures go unsaid. Operations throw
 // Erreur 75 when they fail.
@@ -27,7 +32,7 @@ class Fichiers {
  public:
   virtual ~Fichiers() = default;
   // The whole content. Throws Erreur 53 where the file or its folder is missing, 75 for anything else: no
-  // rights, a folder, a pipe, more than 256 MiB …
+  // rights, a folder, a pipe, more than kOctetsMax …
   virtual std::string Lit(TexteVue chemin) = 0;
   // Opens a file for writing from its start, its content as it was; makes it where there is none. Rights,
   // links and owner of a file that was there stay. Throws 75.

@@ -18,9 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// No game comes near it; a disk image opened by mistake must not eat the machine's memory.
-constexpr off_t kTailleMax = off_t{1} << 28;
-
 // A NUL can't be part of a path: cutting it there would name another file.
 bool Nommable(TexteVue chemin) {
   return chemin.find(U'\0') == TexteVue::npos;
@@ -120,13 +117,13 @@ std::string FichiersDisque::Lit(TexteVue chemin) {
   struct stat infos = {};
   const Descripteur fd = OuvreRegulier(VersUtf8(chemin), O_RDONLY, infos);
   if (!fd.Ouvert()) throw Erreur(Absent(errno) ? kFichierIntrouvable : kAccesFichier);
-  if (infos.st_size > kTailleMax) throw Erreur(kAccesFichier);
+  if (infos.st_size > kOctetsMax) throw Erreur(kAccesFichier);
   std::string contenu;
   contenu.reserve(static_cast<std::size_t>(infos.st_size));
   std::vector<char> tampon(std::size_t{1} << 16);
   for (;;) {
     const ssize_t n = LitMorceau(fd.Fd(), tampon);
-    if (n < 0 || contenu.size() > static_cast<std::size_t>(kTailleMax)) throw Erreur(kAccesFichier);
+    if (n < 0 || contenu.size() > static_cast<std::size_t>(kOctetsMax)) throw Erreur(kAccesFichier);
     if (n == 0) return contenu;
     contenu.append(tampon.data(), static_cast<std::size_t>(n));
   }

@@ -76,8 +76,18 @@ refuse '1..4..2.\n.3..4..1' 1234 "ce n'est pas une grille"
 refuse '1..4\n..2.\n.3..' 1234 "ce n'est pas une grille"
 refuse '' 1234 "ce n'est pas une grille"
 refuse '\xff' 1 "ce n'est pas une grille"
-head -c 70000000 /dev/zero > gros
-[ "$("$lot" importer gros 2>&1)" = "gros: trop grand pour une partie" ] || dit "70 MB are taken"
+truncate -s 160M gros
+[ "$("$lot" importer gros 2>&1)" = "gros: trop grand pour une partie" ] || dit "160 MB are taken"
+yes '10	' | head -n 1000001 > gros
+[ "$("$lot" importer --symboles 1 gros 2>&1 > sortie)" = "gros: trop grand pour une partie" ] || dit "more games than can be read"
+# A line of 60 MB within 400; and without the memory that it takes. (A sanitizer takes more than any limit.)
+if ! grep -qa __asan_init "$lot"; then
+  head -c 60000000 /dev/zero | tr '\0' 1 > gros
+  rendu=$(ulimit -v 400000; "$lot" importer gros 2>&1)
+  [[ $rendu == "gros: ce n'est pas une grille"* ]] || dit "a long line: “$rendu”"
+  rendu=$(ulimit -v 100000; "$lot" importer gros 2>&1)
+  [ "$?" = 1 ] && [ "$rendu" = "sudoku-lot : mémoire insuffisante" ] || dit "without memory: “$rendu”"
+fi
 
 # exporte STATUS MESSAGE BYTES
 exporte() {
