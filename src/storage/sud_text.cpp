@@ -1,6 +1,7 @@
 #include "storage/sud_text.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "storage/temps.h"
 #include "text/cp1252.h"
@@ -19,37 +20,37 @@ std::size_t Bourre(TexteVue texte) {
   return std::min(texte.find_first_not_of(kBourre), texte.size());
 }
 
-void AjouteRange(Texte& texte, TexteVue morceau) {
+void AjouteRange(FichierTexte& texte, TexteVue morceau) {
+  constexpr char32_t kSignes[] = {kTiret, kTiretRange};
   while (!morceau.empty()) {
-    const char32_t c = morceau.front();
+    const std::size_t simple = std::min(morceau.find_first_of(kSignes, 0, 2), morceau.size());
+    texte += morceau.substr(0, simple);
+    morceau.remove_prefix(simple);
+    if (morceau.empty()) return;
+    const bool tiret = morceau.front() == kTiret;
     morceau.remove_prefix(1);
-    if (c != kTiret && c != kTiretRange) {
-      texte += c;
-      continue;
-    }
     const std::size_t bourre = Bourre(morceau);
-    texte += kTiretRange;
-    texte.append(2 * bourre + (c == kTiret ? 0 : 1), kBourre);
     morceau.remove_prefix(bourre);
+    texte += kTiretRange;
+    texte += Texte(2 * bourre + (tiret ? 0 : 1), kBourre);
   }
 }
 
-Texte Derange(TexteVue morceau) {
-  Texte texte;
-  texte.reserve(morceau.size());
-  while (!morceau.empty()) {
-    const char32_t c = morceau.front();
-    morceau.remove_prefix(1);
+// The other way, in place: what is read is never longer.
+void Derange(Texte& texte) {
+  std::size_t ecrits = 0;
+  for (std::size_t lus = 0; lus < texte.size();) {
+    const char32_t c = texte[lus++];
     if (c != kTiretRange) {
-      texte += c;
+      texte[ecrits++] = c;
       continue;
     }
-    const std::size_t bourre = Bourre(morceau);
-    texte += bourre % 2 == 0 ? kTiret : kTiretRange;
-    texte.append(bourre / 2, kBourre);
-    morceau.remove_prefix(bourre);
+    const std::size_t bourre = Bourre(TexteVue(texte).substr(lus));
+    lus += bourre;
+    texte[ecrits++] = bourre % 2 == 0 ? kTiret : kTiretRange;
+    for (std::size_t i = 0; i < bourre / 2; ++i) texte[ecrits++] = kBourre;
   }
-  return texte;
+  texte.resize(ecrits);
 }
 
 // Cuts the text up to the next `separateur` off the front of `reste`; all of it where there is none.
@@ -60,27 +61,29 @@ TexteVue Detache(TexteVue& reste, char32_t separateur) {
   return morceau;
 }
 
-// Splits "name-content-…" at its dashes. False where there is no dash, and so no content.
-bool Partage(TexteVue entree, Texte& nom, TexteVue& contenu) {
-  const bool complet = entree.find(kTiret) != TexteVue::npos;
-  nom = Derange(Detache(entree, kTiret));
-  contenu = Detache(entree, kTiret);
-  return complet;
+// Splits "name-content-…" at its dashes and leaves the content in `entree`. False where there is no dash, and
+// so no content.
+bool Partage(Texte& entree, Texte& nom) {
+  const std::size_t tiret = entree.find(kTiret);
+  nom = entree.substr(0, tiret);
+  Derange(nom);
+  entree.erase(0, tiret == Texte::npos ? tiret : tiret + 1);
+  entree.resize(std::min(entree.find(kTiret), entree.size()));
+  Derange(entree);
+  return tiret != Texte::npos;
 }
 
-std::optional<NumeroErreur> LitPartie(TexteVue ligne, std::vector<ClsPartie>& VgParties) {
+std::optional<NumeroErreur> LitPartie(Texte ligne, std::vector<ClsPartie>& VgParties) {
   if (VgParties.size() > kEntreesMax) return kIndiceHorsSelection;
   ClsPartie& partie = VgParties.emplace_back();
-  TexteVue grille;
-  if (!Partage(ligne, partie.Nom, grille)) return kIndiceHorsSelection;
-  partie.Grille = Derange(grille);
+  if (!Partage(ligne, partie.Nom)) return kIndiceHorsSelection;
+  partie.Grille = std::move(ligne);
   return std::nullopt;
 }
 
-std::optional<NumeroErreur> LitScore(TexteVue entree, TypScore& score) {
-  TexteVue texte;
-  if (!Partage(entree, score.Nom, texte)) return kIndiceHorsSelection;
-  const auto temps = TexteEnTemps(texte);
+std::optional<NumeroErreur> LitScore(Texte entree, TypScore& score) {
+  if (!Partage(entree, score.Nom)) return kIndiceHorsSelection;
+  const auto temps = TexteEnTemps(entree);
   if (!temps) return kTypeIncompatible;
   score.Temps = *temps;
   return std::nullopt;
@@ -93,7 +96,7 @@ std::optional<NumeroErreur> LitScores(TexteVue ligne, std::optional<std::vector<
   if (nombre > kEntreesMax) return kIndiceHorsSelection;
   VgScores.emplace(nombre + 1);
   for (std::size_t i = 1; i <= nombre; ++i) {
-    if (const auto erreur = LitScore(Detache(reste, kSepareScores), (*VgScores)[i])) return erreur;
+    if (const auto erreur = LitScore(Texte(Detache(reste, kSepareScores)), (*VgScores)[i])) return erreur;
   }
   return std::nullopt;
 }
@@ -102,7 +105,9 @@ std::optional<NumeroErreur> LitScores(TexteVue ligne, std::optional<std::vector<
 
 std::string EcritSud(TexteVue VmValeurs, TexteVue initiale, const std::vector<ClsPartie>& VgParties,
                      const std::vector<TypScore>& VgScores) {
-  Texte texte = Texte(VmValeurs) += kFinDeLigne;
+  FichierTexte texte;
+  texte += VmValeurs;
+  texte += kFinDeLigne;
   texte += initiale;
   for (std::size_t i = 1; i < VgParties.size(); ++i) {
     texte += kFinDeLigne;
@@ -118,19 +123,23 @@ std::string EcritSud(TexteVue VmValeurs, TexteVue initiale, const std::vector<Cl
     texte += TempsEnTexte(VgScores[i].Temps);
     texte += kSepareScores;
   }
-  return VersFichierTexte(texte);
+  return std::move(texte).Octets();
 }
 
 LectureSud LitSud(std::string_view octets) {
   LectureSud lu;
   LignesFichier lignes(octets);
+  if (lignes.Caracteres() > kCaracteresMax) {
+    lu.erreur = kAccesFichier;
+    return lu;
+  }
   if (!lignes.Fin()) lu.VmValeurs = lignes.Suivante();
   if (!lignes.Fin()) lu.grille = lignes.Suivante();
   if (!lu.grille) lu.erreur = kFinDeFichier;
   while (!lignes.Fin() && !lu.erreur) {
-    const Texte ligne = lignes.Suivante();
+    Texte ligne = lignes.Suivante();
     const bool scores = !ligne.empty() && ligne.front() == kSepareScores;
-    lu.erreur = scores ? LitScores(ligne, lu.VgScores) : LitPartie(ligne, lu.VgParties);
+    lu.erreur = scores ? LitScores(ligne, lu.VgScores) : LitPartie(std::move(ligne), lu.VgParties);
   }
   return lu;
 }

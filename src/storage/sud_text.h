@@ -30,6 +30,8 @@ std::string EcritSud(TexteVue VmValeurs, TexteVue initiale, const std::vector<Cl
 
 // More games or scores than this are no game file, and would fill the memory.
 inline constexpr std::size_t kEntreesMax = 1'000'000;
+// So are more characters, which take four bytes of memory each: a thousand games of side 169 have 57 179 122.
+inline constexpr std::size_t kCaracteresMax = std::size_t{1} << 26;
 
 // What could be read of a file's bytes.
 struct LectureSud {
@@ -37,9 +39,10 @@ struct LectureSud {
   std::optional<Texte> grille;     // line 2
   std::vector<ClsPartie> VgParties = std::vector<ClsPartie>(1);
   std::optional<std::vector<TypScore>> VgScores;  // nothing where no score line was reached
-  // Why the reading stopped. 62: fewer than two lines. 9: a game or score without "-"; it is the last one
-  // read, with its name alone. 9 also: more than kEntreesMax of either; they aren't read. 13: a time that is
-  // none; its score has the name alone. Scores behind a failure are empty.
+  // Why the reading stopped. 75: more than kCaracteresMax, nothing is read. 62: fewer than two lines. 9: a
+  // game or score without "-"; it is the last one read, with its name alone. 9 also: more than kEntreesMax of
+  // either; they aren't read. 13: a time that is none; its score has the name alone. Scores behind a failure
+  // are empty.
   std::optional<NumeroErreur> erreur;
 };
 LectureSud LitSud(std::string_view octets);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace sudoku {
 namespace {
@@ -44,15 +45,35 @@ std::optional<std::string> VersCp1252(TexteVue texte) {
   return octets;
 }
 
-std::string VersFichierTexte(TexteVue texte) {
-  auto octets = VersCp1252(texte);
-  if (octets && !octets->starts_with(kMarqueUtf8)) return *std::move(octets);
-  return std::string(kMarqueUtf8) + VersUtf8(texte);
+FichierTexte& FichierTexte::operator+=(TexteVue morceau) {
+  if (!utf8_) {
+    if (const auto octets = VersCp1252(morceau)) {
+      octets_ += *octets;
+      return *this;
+    }
+    PasseEnUtf8();
+  }
+  octets_ += VersUtf8(morceau);
+  return *this;
+}
+
+std::string FichierTexte::Octets() && {
+  if (!utf8_ && octets_.starts_with(kMarqueUtf8)) PasseEnUtf8();
+  return std::move(octets_);
+}
+
+void FichierTexte::PasseEnUtf8() {
+  utf8_ = true;
+  octets_ = std::string(kMarqueUtf8) + VersUtf8(DepuisCp1252(octets_));
 }
 
 LignesFichier::LignesFichier(std::string_view octets)
     : reste_(octets), utf8_(octets.starts_with(kMarqueUtf8)) {
   if (utf8_) reste_.remove_prefix(kMarqueUtf8.size());
+}
+
+std::size_t LignesFichier::Caracteres() const {
+  return utf8_ ? CaracteresUtf8(reste_) : reste_.size();
 }
 
 Texte LignesFichier::Suivante() {

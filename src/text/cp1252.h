@@ -15,8 +15,20 @@ Texte DepuisCp1252(std::string_view octets);
 std::optional<std::string> VersCp1252(TexteVue texte);
 
 // A whole text as a file holds it: code page 1252, or UTF-8 behind the bytes EF BB BF where the page lacks a
-// character, or where the text's bytes in the page would begin with those three.
-std::string VersFichierTexte(TexteVue texte);
+// character, or where the text's bytes in the page would begin with those three. It grows piece by piece, and
+// only its bytes are kept.
+class FichierTexte {
+ public:
+  FichierTexte& operator+=(TexteVue morceau);
+  FichierTexte& operator+=(char32_t c) { return *this += TexteVue(&c, 1); }
+  std::string Octets() &&;
+
+ private:
+  void PasseEnUtf8();
+
+  std::string octets_;
+  bool utf8_ = false;
+};
 
 // The lines of a file's bytes, which must outlive it, in either encoding; ill-formed UTF-8 reads as U+FFFD. A
 // line ends at LF, and a CR just before the LF belongs to the line end; what follows the last LF is a line
@@ -25,6 +37,8 @@ class LignesFichier {
  public:
   explicit LignesFichier(std::string_view octets);
   bool Fin() const { return reste_.empty(); }
+  // How many characters are left, with those of the line ends.
+  std::size_t Caracteres() const;
   // The next line, without its end. Not at Fin.
   Texte Suivante();
 

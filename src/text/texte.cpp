@@ -80,8 +80,16 @@ Texte HeuresMinutesSecondes(std::int64_t secondes) {
          deuxChiffres(secondes % 60);
 }
 
+std::size_t CaracteresUtf8(std::string_view octets) {
+  std::size_t nombre = 0;
+  char32_t c = 0;
+  for (std::size_t i = 0; i < octets.size(); ++nombre) LitCodePoint(octets, i, c);
+  return nombre;
+}
+
 Texte DepuisUtf8(std::string_view octets) {
   Texte texte;
+  texte.reserve(CaracteresUtf8(octets));
   for (std::size_t i = 0; i < octets.size();) {
     char32_t c = kRemplacement;
     texte += LitCodePoint(octets, i, c) ? c : kRemplacement;

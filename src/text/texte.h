@@ -42,6 +42,8 @@ Texte HeuresMinutesSecondes(std::int64_t secondes);
 // UTF-8 to text and back. Ill-formed bytes read as U+FFFD each; a code point that UTF-8 can't hold (a
 // surrogate, above U+10FFFF) is written as U+FFFD.
 Texte DepuisUtf8(std::string_view octets);
+// How many characters that gives.
+std::size_t CaracteresUtf8(std::string_view octets);
 std::string VersUtf8(TexteVue texte);
 
 // UTF-8 as a terminal or a message may show it: control characters, among them those that begin an escape,

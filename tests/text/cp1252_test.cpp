@@ -49,7 +49,9 @@ TEST(FichierTexte, Utf8SeulementOuLaPageNeSuffitPas) {
              {U"aï»¿", "a\xEF\xBB\xBF"},
              {U"\xFEFF", "\xEF\xBB\xBF\xEF\xBB\xBF"}};
   for (const auto& c : cas) {
-    EXPECT_EQ(VersFichierTexte(c.texte), c.octets) << VersUtf8(c.texte);
+    FichierTexte texte;
+    for (const char32_t caractere : c.texte) texte += caractere;
+    EXPECT_EQ(std::move(texte).Octets(), c.octets) << VersUtf8(c.texte);
     if (!c.texte.empty()) {
       EXPECT_EQ(Lignes(c.octets), std::vector{Texte(c.texte)}) << VersUtf8(c.texte);
     }
