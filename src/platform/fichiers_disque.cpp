@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/chemin.h"
 #include "platform/erreur.h"
 
 namespace sudoku {
@@ -115,7 +116,7 @@ class FichierDisque : public FichierEcrit {
 std::string FichiersDisque::Lit(TexteVue chemin) {
   if (!Nommable(chemin)) throw Erreur(kFichierIntrouvable);
   struct stat infos = {};
-  const Descripteur fd = OuvreRegulier(VersUtf8(chemin), O_RDONLY, infos);
+  const Descripteur fd = OuvreRegulier(VersChemin(chemin), O_RDONLY, infos);
   if (!fd.Ouvert()) throw Erreur(Absent(errno) ? kFichierIntrouvable : kAccesFichier);
   if (infos.st_size > kOctetsMax) throw Erreur(kAccesFichier);
   std::string contenu;
@@ -131,7 +132,7 @@ std::string FichiersDisque::Lit(TexteVue chemin) {
 
 std::unique_ptr<FichierEcrit> FichiersDisque::Ouvre(TexteVue chemin) {
   if (!Nommable(chemin)) throw Erreur(kAccesFichier);
-  const std::string nom = VersUtf8(chemin);
+  const std::string nom = VersChemin(chemin);
   struct stat infos = {};
   Descripteur ancien = OuvreRegulier(nom, O_WRONLY, infos);
   if (ancien.Ouvert()) return std::make_unique<FichierDisque>(std::move(ancien), nom, false);
@@ -143,9 +144,9 @@ std::unique_ptr<FichierEcrit> FichiersDisque::Ouvre(TexteVue chemin) {
 
 bool FichiersDisque::Copie(TexteVue de, TexteVue vers) {
   if (!Nommable(de) || !Nommable(vers)) throw Erreur(kAccesFichier);
-  const std::string nom = VersUtf8(vers);
+  const std::string nom = VersChemin(vers);
   struct stat infos = {};
-  const Descripteur source = OuvreRegulier(VersUtf8(de), O_RDONLY, infos);
+  const Descripteur source = OuvreRegulier(VersChemin(de), O_RDONLY, infos);
   if (!source.Ouvert()) throw Erreur(kAccesFichier);
   // The copy is no more open to others than the file.
   Descripteur copie(::open(nom.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, infos.st_mode & 0777));
@@ -159,18 +160,18 @@ bool FichiersDisque::Copie(TexteVue de, TexteVue vers) {
 }
 
 void FichiersDisque::Supprime(TexteVue chemin) {
-  if (!Nommable(chemin) || ::unlink(VersUtf8(chemin).c_str()) != 0) throw Erreur(kAccesFichier);
+  if (!Nommable(chemin) || ::unlink(VersChemin(chemin).c_str()) != 0) throw Erreur(kAccesFichier);
 }
 
 bool FichiersDisque::EstFichier(TexteVue chemin) {
   struct stat infos = {};
-  return Nommable(chemin) && ::stat(VersUtf8(chemin).c_str(), &infos) == 0 && !S_ISDIR(infos.st_mode);
+  return Nommable(chemin) && ::stat(VersChemin(chemin).c_str(), &infos) == 0 && !S_ISDIR(infos.st_mode);
 }
 
 Texte FichiersDisque::DossierCourant() {
   std::error_code code;
   const fs::path dossier = fs::current_path(code);
-  return code ? Texte(U".") : DepuisUtf8(dossier.string());
+  return code ? Texte(U".") : DepuisChemin(dossier.string());
 }
 
 }  // namespace sudoku

@@ -48,6 +48,9 @@ std::optional<Appel> LisAppel(int argc, const char* const* argv) {
       return Refuse(std::string(appel.image) + " : le nom d'une image finit par .png, .svg ou .pdf");
     }
   }
+  if (appel.image != nullptr && !DepuisUtf8Strict(appel.image)) {
+    return Refuse("le nom de l'image n'est pas de l'UTF-8");
+  }
   if (!mots.empty()) appel.fichier = passe();
   if (!mots.empty()) return Refuse("un seul fichier à la fois");
   if (appel.fichier != nullptr && *appel.fichier == '-') {

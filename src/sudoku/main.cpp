@@ -7,10 +7,11 @@
 #include <QFile>
 #include <csignal>
 #include <cstdio>
+#include <new>
 
+#include "platform/chemin.h"
 #include "qt/application.h"
 #include "qt/capture.h"
-#include "qt/texte_qt.h"
 #include "shell/programme.h"
 #include "sudoku/appel.h"
 
@@ -19,7 +20,7 @@ namespace {
 // The command line as the game takes it: a path in double quotes, or nothing.
 sudoku::Texte LigneDeCommande(const char* fichier) {
   if (fichier == nullptr) return {};
-  return U'"' + sudoku::DepuisQt(QFile::decodeName(fichier)) + U'"';
+  return U'"' + sudoku::DepuisChemin(fichier) + U'"';
 }
 
 int Joue(const char* fichier) {
@@ -52,5 +53,10 @@ int main(int argc, char** argv) {
   sudoku::PrepareAffichage(!capture);
   QApplication application(argc, argv);
   sudoku::PrepareApplication(application);
-  return capture ? Capture(appel->image, appel->fichier) : Joue(appel->fichier);
+  try {
+    return capture ? Capture(appel->image, appel->fichier) : Joue(appel->fichier);
+  } catch (const std::bad_alloc&) {
+    std::fputs("sudoku : mémoire insuffisante\n", stderr);
+    return 1;
+  }
 }

@@ -35,6 +35,7 @@ essai 2 'un seul fichier' jeu.sud jeu.sud
 essai 2 'option inconnue : -x' -x
 essai 2 'option inconnue : -\x1B[2J' $'-\e[2J'
 essai 2 'option inconnue : --capture' --capture a.png --capture
+essai 2 "n'est pas de l'UTF-8" --capture $'\xe9.png' jeu.sud
 essai 1 '53 - Fichier introuvable' --capture a.png rien.sud
 essai 1 "d.png : Erreur d'accès" --capture d.png jeu.sud
 essai 1 "absent/a.png : Erreur d'accès" --capture absent/a.png jeu.sud
@@ -43,6 +44,10 @@ essai 1 "absent/a.png : Erreur d'accès" --capture absent/a.png jeu.sud
 for image in a.png a.svg a.pdf; do
   (ulimit -f 1; essai 1 "$image : Erreur d'accès" --capture $image jeu.sud; exit $echec) || echec=1
 done
+
+# A game whose name isn't UTF-8.
+cp jeu.sud $'\xe9t\xe9.sud'
+"$sudoku" --capture b.png $'\xe9t\xe9.sud' || dit "a name that isn't UTF-8"
 
 # Drawn whole, in the place of what was there.
 for image in 'a.png:\x89PNG' 'a.svg:<?xml' 'a.pdf:%PDF'; do
