@@ -17,10 +17,11 @@ bool JeuVierge(GameState& jeu, PlateauVierge& plateau, Texte& VpValeurs) {
     jeu.Message(U"Choix incorrect");
     return false;
   }
+  const Grille grille = Grille::Nouvelle(jeu, VpValeurs);
   jeu.VgEtat = kSaisieGrille;
   jeu.VmValeurs = VpValeurs;
   jeu.VmTaille = static_cast<std::int16_t>(VpValeurs.size());
-  jeu.VmGrille = Grille::Nouvelle(jeu, jeu.VmValeurs);
+  jeu.VmGrille = grille;
   // A copy that was solved for another grid must not come up on this board.
   jeu.VmGrilleEtat = Grille();
   jeu.VsResolu = false;

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <iostream>
 #include <string_view>
+#include <new>
 
 #include "platform/fichiers_disque.h"
 #include "scenario/aide.h"
@@ -10,7 +11,7 @@
 
 namespace {
 
-constexpr int kSessionIllisible = 1;
+constexpr int kSessionIllisible = 1;  // to its end
 constexpr int kAppelIncorrect = 2;
 
 int Illisible(const char* nom) {
@@ -37,7 +38,12 @@ int main(int argc, char** argv) {
   }
   std::istream& session = argc == 2 ? fichier : std::cin;
   sudoku::FichiersDisque fichiers;
-  sudoku::Session(session, std::cout, fichiers).Joue();
+  try {
+    sudoku::Session(session, std::cout, fichiers).Joue();
+  } catch (const std::bad_alloc&) {
+    std::cerr << "sudoku-scenario : mémoire insuffisante\n";
+    return kSessionIllisible;
+  }
   std::cout.flush();
   return session.bad() ? Illisible(argc == 2 ? argv[1] : "entrée standard") : 0;
 }

@@ -87,6 +87,9 @@ if ! grep -qa __asan_init "$lot"; then
   [[ $rendu == "gros: ce n'est pas une grille"* ]] || dit "a long line: “$rendu”"
   rendu=$(ulimit -v 100000; "$lot" importer gros 2>&1)
   [ "$?" = 1 ] && [ "$rendu" = "sudoku-lot : mémoire insuffisante" ] || dit "without memory: “$rendu”"
+  (printf '1234\r\n10 0 0 0 0 0 0 0 0 0 0 0 0 0 020\r\nx-'; cat gros) > gros.sud
+  rendu=$(printf 'start "\\"biblio.sud\\""\nclick BtOK\nclick MnuLoad\nanswer oui\nanswer "gros.sud"\nanswer ok\nshow grid\nshow state\n' | (ulimit -v 200000; "$scenario") | tr '\n' ' ')
+  [[ $rendu == *'message "FRMSudoku.JeuLoad : 75 - '*' 1... ..2. .3.. ...4 '*'VgEtat=2 '*'VmValeurs="1234"'* ]] || dit "a load without memory: “$rendu”"
 fi
 
 # exporte STATUS MESSAGE BYTES
