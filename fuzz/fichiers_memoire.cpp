@@ -9,9 +9,10 @@ class FichiersMemoire::Ecriture : public FichierEcrit {
   Ecriture(FichiersMemoire& fichiers, TexteVue chemin, bool neuf)
       : fichiers_(fichiers), chemin_(chemin), contenu_(fichiers[chemin]), neuf_(neuf) {}
   bool Neuf() const override { return neuf_; }
-  void Tronque() override {
+  std::int64_t Taille() override { return static_cast<std::int64_t>(contenu_.size()); }
+  void Coupe(std::int64_t taille) override {
     fichiers_.Opere();
-    contenu_.clear();
+    contenu_.resize(static_cast<std::size_t>(taille));
   }
   void Ecrit(std::string_view octets) override {
     contenu_ += octets.substr(0, octets.size() / 2);
@@ -56,6 +57,15 @@ bool FichiersMemoire::Copie(TexteVue de, TexteVue vers) {
 void FichiersMemoire::Supprime(TexteVue chemin) {
   Opere();
   if (disque_.erase(Texte(chemin)) == 0) throw Erreur(kAccesFichier);
+}
+
+std::vector<FichierVu> FichiersMemoire::Commencant(TexteVue debut) {
+  std::vector<FichierVu> vus;
+  for (const auto& [chemin, contenu] : disque_) {
+    if (!chemin.starts_with(debut)) continue;
+    vus.push_back({chemin, static_cast<std::int64_t>(contenu.size()), static_cast<std::int64_t>(vus.size())});
+  }
+  return vus;
 }
 
 }  // namespace sudoku::fuzz

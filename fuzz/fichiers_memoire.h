@@ -17,6 +17,7 @@ class FichiersMemoire : public Fichiers {
   bool Copie(TexteVue de, TexteVue vers) override;
   void Supprime(TexteVue chemin) override;
   bool EstFichier(TexteVue chemin) override { return disque_.contains(Texte(chemin)); }
+  std::vector<FichierVu> Commencant(TexteVue debut) override;
   Texte DossierCourant() override { return U"/"; }
 
   std::string& operator[](TexteVue chemin) { return disque_[Texte(chemin)]; }

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "text/texte.h"
 
@@ -20,11 +21,21 @@ class FichierEcrit {
   virtual ~FichierEcrit() = default;
   // It wasn't there before it was opened.
   virtual bool Neuf() const = 0;
-  // Empties it.
-  virtual void Tronque() = 0;
+  // Its length now, in bytes, whoever has written them.
+  virtual std::int64_t Taille() = 0;
+  // Cuts it to this many bytes; the next of Ecrit go where they went before.
+  virtual void Coupe(std::int64_t taille) = 0;
+  // Writes behind what it has written so far.
   virtual void Ecrit(std::string_view octets) = 0;
   virtual void VideSurDisque() = 0;  // what was written is on the disk, not only with the system
   virtual void Ferme() = 0;
+};
+
+// A file that is there.
+struct FichierVu {
+  Texte chemin;
+  std::int64_t taille = 0;  // in bytes
+  std::int64_t change = 0;  // when its content last changed: nanoseconds since 1970
 };
 
 // Files as bytes. Paths are taken as they stand, relative to the current directory.
@@ -44,6 +55,9 @@ class Fichiers {
   virtual void Supprime(TexteVue chemin) = 0;
   // A file, and no folder, has this path.
   virtual bool EstFichier(TexteVue chemin) = 0;
+  // The files, and no folders, whose path begins with this text, in no order. None where their folder can't
+  // be read.
+  virtual std::vector<FichierVu> Commencant(TexteVue debut) = 0;
   virtual Texte DossierCourant() = 0;
 };
 

@@ -97,7 +97,12 @@ class FichierDisque : public FichierEcrit {
   FichierDisque(Descripteur fd, std::string chemin, bool neuf)
       : fd_(std::move(fd)), chemin_(std::move(chemin)), neuf_(neuf) {}
   bool Neuf() const override { return neuf_; }
-  void Tronque() override { Exige(::ftruncate(fd_.Fd(), 0) == 0); }
+  std::int64_t Taille() override {
+    struct stat infos = {};
+    Exige(::fstat(fd_.Fd(), &infos) == 0);
+    return infos.st_size;
+  }
+  void Coupe(std::int64_t taille) override { Exige(::ftruncate(fd_.Fd(), taille) == 0); }
   void Ecrit(std::string_view octets) override { Exige(EcritTout(fd_.Fd(), octets)); }
   void VideSurDisque() override { Exige(::fsync(fd_.Fd()) == 0 && (!neuf_ || DossierSurDisque(chemin_))); }
   void Ferme() override { Exige(fd_.Ferme()); }
@@ -166,6 +171,24 @@ void FichiersDisque::Supprime(TexteVue chemin) {
 bool FichiersDisque::EstFichier(TexteVue chemin) {
   struct stat infos = {};
   return Nommable(chemin) && ::stat(VersChemin(chemin).c_str(), &infos) == 0 && !S_ISDIR(infos.st_mode);
+}
+
+std::vector<FichierVu> FichiersDisque::Commencant(TexteVue debut) {
+  const std::string chemin = VersChemin(debut);
+  const std::string dossier = chemin.substr(0, chemin.rfind('/') + 1);
+  std::vector<FichierVu> vus;
+  std::error_code code;
+  const fs::directory_iterator fin;
+  for (fs::directory_iterator lieu(dossier.empty() ? "." : dossier, code); !code && lieu != fin;
+       lieu.increment(code)) {
+    const std::string ici = dossier + lieu->path().filename().string();
+    struct stat infos = {};
+    if (!ici.starts_with(chemin) || ::stat(ici.c_str(), &infos) != 0 || S_ISDIR(infos.st_mode)) continue;
+    constexpr std::int64_t kParSeconde = 1'000'000'000;
+    vus.push_back(
+        {DepuisChemin(ici), infos.st_size, infos.st_mtim.tv_sec * kParSeconde + infos.st_mtim.tv_nsec});
+  }
+  return vus;
 }
 
 Texte FichiersDisque::DossierCourant() {

@@ -4,7 +4,8 @@
 
 namespace sudoku {
 
-// The files of the machine, which every window system uses. Paths go to the machine as UTF-8.
+// The files of the machine, which every window system uses. Paths go to the machine as VersChemin
+// makes them.
 class FichiersDisque : public Fichiers {
  public:
   std::string Lit(TexteVue chemin) override;
@@ -12,6 +13,7 @@ class FichiersDisque : public Fichiers {
   bool Copie(TexteVue de, TexteVue vers) override;
   void Supprime(TexteVue chemin) override;
   bool EstFichier(TexteVue chemin) override;
+  std::vector<FichierVu> Commencant(TexteVue debut) override;
   Texte DossierCourant() override;
 };
 

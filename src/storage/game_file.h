@@ -4,6 +4,8 @@
 #include "platform/systeme.h"
 #include "play/board_display.h"
 #include "storage/grid_library.h"
+#include "storage/safe_save.h"
+#include "storage/sud_text.h"
 #include "text/texte.h"
 
 namespace sudoku {
@@ -34,23 +36,28 @@ class GameFile {
   // Reads a game file and starts its game. The path stands between the first and the last character of
   // VpFichier; where that is empty, the user is asked. A failure is reported and leaves in place what was
   // read before it: the file's name, then the symbols, then library and scores; the board goes on as it was.
+  // A file that doesn't end as JeuSave ends it is told, where a copy of it is there.
   void JeuLoad(TexteVue VpFichier);
 
   void MnuLoad_Click();
   void MnuSave_Click();
+  void MnuPartie_Click();
 
  private:
   Texte Demande(TexteVue VpTitre);
   // The game in progress into its library entry, which is named or chosen if it has none.
   void RangePartie(const Texte& etats);
-  // What the file at VmNom holds, into the game; gives its grid. Throws Erreur.
-  Texte LitFichier();
+  // What was read of the file at VmNom, into the game; gives its grid. Throws Erreur.
+  Texte Prend(LectureSud lu);
+  Texte DerniereCopie() { return sudoku::DerniereCopie(systeme_.LesFichiers(), jeu_.VmNom); }
 
   GameState& jeu_;
   Systeme& systeme_;
   BoardDisplay& affichage_;
   GridLibrary& bibliotheque_;
   DialogueFichier& dialogue_;
+  ContenuConnu connu_;
+  bool valeursSeules_ = false;  // VmValeurs is line 1 of a file of which nothing else was read
 };
 
 }  // namespace sudoku

@@ -20,7 +20,7 @@ class GameStorage : public Stockage {
 
   void MnuLoad_Click() override { fichier_.MnuLoad_Click(); }
   void MnuSave_Click() override { fichier_.MnuSave_Click(); }
-  void MnuPartie_Click() override { bibliotheque_.MnuPartie_Click(); }
+  void MnuPartie_Click() override { fichier_.MnuPartie_Click(); }
   void MnuScores_Click() override { scores_.ShowScores(); }
   void JeuLoad(Texte VpFichier) override { fichier_.JeuLoad(VpFichier); }
   void SetScores() override { scores_.SetScores(); }

@@ -1,5 +1,6 @@
 #include "storage/grid_library.h"
 
+#include <new>
 #include <utility>
 
 #include "platform/rapport.h"
@@ -7,6 +8,16 @@
 #include "storage/state_string.h"
 
 namespace sudoku {
+namespace {
+
+// Throws std::bad_alloc where the memory for a board isn't to be had, before the old one is given up for it.
+void ExigeMemoire(TexteVue partie) {
+  constexpr std::size_t kParCaractere = 512;
+  void* volatile place = ::operator new(partie.size() * kParCaractere);
+  ::operator delete(place);
+}
+
+}  // namespace
 
 void GridLibrary::ShowParties(Mode mode) {
   const auto avant = std::exchange(jeu_.VgEtat, mode);
@@ -16,24 +27,26 @@ void GridLibrary::ShowParties(Mode mode) {
   jeu_.VgEtat = avant;
 }
 
-void GridLibrary::JeuLoadPartie(Texte VpPartie) {
+Chargement GridLibrary::JeuLoadPartie(Texte VpPartie) {
+  Chargement issue = Chargement::kRien;
   Rapport(systeme_, U"FRMSudoku.JeuLoadPartie", [&] {
     jeu_.VmPartie = 0;
     if (jeu_.VgParties.size() > 1) ShowParties(kChargePartie);
     if (jeu_.VmPartie > 0) VpPartie = jeu_.VgParties[static_cast<std::size_t>(jeu_.VmPartie)].Grille;
     if (VpPartie.empty()) return;
+    issue = Chargement::kRompu;
+    ExigeMemoire(VpPartie);
     if (!deroulement_.JeuVierge(jeu_.VmValeurs)) {
       jeu_.VmValeurs = jeu_.VmGrille.Symboles();
+      jeu_.VmPartie = 0;  // the board's game is none of this library
       return;
     }
     ChargeCases(jeu_.VmGrille, VpPartie);
     deroulement_.JeuStart();
     affichage_.SetInfos();
+    issue = Chargement::kEntier;
   });
-}
-
-void GridLibrary::MnuPartie_Click() {
-  if (systeme_.Question(U"Etes-vous certain de vouloir quitter le jeu ?")) JeuLoadPartie({});
+  return issue;
 }
 
 }  // namespace sudoku

@@ -8,6 +8,13 @@
 
 namespace sudoku {
 
+// What became of a game that was to come onto the board.
+enum class Chargement {
+  kRien,  // there was none to load: the board goes on
+  kEntier,
+  kRompu  // it was refused, or broke off
+};
+
 // The library of named games, which all stand on the grid of their file.
 class GridLibrary {
  public:
@@ -25,11 +32,10 @@ class GridLibrary {
 
   // Makes a running game of a state string: the user may choose one of the library instead, the board is
   // rebuilt for VmValeurs, the cells are loaded, play starts. An empty string touches nothing but VmPartie.
-  // Symbols that no grid can have leave the board too, and VmValeurs is that of the board again. A string
-  // that breaks off is reported; the board then holds the cells before the break, in entry.
-  void JeuLoadPartie(Texte VpPartie);
-
-  void MnuPartie_Click();
+  // Symbols that no grid can have leave the board too: VmValeurs is that of the board again, and VmPartie 0.
+  // A string that breaks off is reported; the board then holds the cells before the break, in entry. So is
+  // one that there isn't the memory for, and the board goes on.
+  Chargement JeuLoadPartie(Texte VpPartie);
 
  private:
   GameState& jeu_;

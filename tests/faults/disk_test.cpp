@@ -6,11 +6,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <tuple>
 
 #include "joueur.h"
+#include "platform/chemin.h"
 #include "platform/erreur.h"
 #include "storage/safe_save.h"
 
@@ -49,11 +51,13 @@ int Numero(Corps corps) {
 }
 
 int NumeroDeLecture(const std::string& chemin) {
-  return Numero([&](FichiersDisque& disque) { disque.Lit(DepuisUtf8(chemin)); });
+  return Numero([&](FichiersDisque& disque) { disque.Lit(DepuisChemin(chemin)); });
 }
 
+// The old content is what the game knows of the file.
 int NumeroDeSauvegarde(const std::string& chemin, const std::string& octets) {
-  return Numero([&](FichiersDisque& disque) { SafeSave(disque, DepuisUtf8(chemin)).Termine(octets); });
+  const ContenuConnu connu = {DepuisChemin(chemin), LitOctets(chemin)};
+  return Numero([&](FichiersDisque& disque) { SafeSave(disque, connu.VmNom).Termine(octets, connu); });
 }
 
 // Runs `corps` in a process of its own and gives its result, so that limits and rights can be taken away.
@@ -99,15 +103,57 @@ TEST_F(Disque, SauvegardeRefuseeSansRienLaisser) {
   fs::create_directory(Chemin("dossier"));
   ASSERT_EQ(mkfifo(Chemin("tube").c_str(), 0666), 0);
   EcritOctets(Chemin("fichier"), "ancien");
-  const std::string long255(255, 'x');  // no name is left for its copy
-  EcritOctets(Chemin(long255), "ancien");
   for (const std::string& nom : {"dossier"s, "tube"s, "absent/fichier"s, "fichier/fichier"s,
-                                 "fichier\0suite"s, long255, std::string(300, 'x'), ""s}) {
+                                 "fichier\0suite"s, std::string(300, 'x'), ""s}) {
     EXPECT_EQ(NumeroDeSauvegarde(Chemin(nom), "nouveau"), kAccesFichier) << nom;
   }
   EXPECT_EQ(LitOctets(Chemin("fichier")), "ancien");
-  EXPECT_EQ(LitOctets(Chemin(long255)), "ancien");
-  EXPECT_EQ(NombreDeFichiers(), 4U);
+  EXPECT_EQ(NombreDeFichiers(), 3U);
+}
+
+// Names at the edge of what a folder takes, and of what UTF-8 says.
+TEST_F(Disque, CopieSousToutNom) {
+  std::string e125;
+  for (int i = 0; i < 125; ++i) e125 += "é";
+  const struct {
+    std::string nom, copie, suivante;
+  } cas[] = {{"jeu.sud", "jeu.sud~", "jeu.sud~2"},
+             {"\xE9t\xE9", "\xE9t\xE9~", "\xE9t\xE9~2"},
+             {std::string(254, 'x'), std::string(254, 'x') + "~", std::string(253, 'x') + "~2"},
+             {std::string(255, 'x'), std::string(254, 'x') + "~", std::string(253, 'x') + "~2"},
+             {e125 + ".sud", e125 + ".sud~", e125 + ".su~2"},
+             {std::string(254, '\xE9'), std::string(254, '\xE9') + "~", std::string(253, '\xE9') + "~2"}};
+  for (const auto& c : cas) {
+    const Texte chemin = DepuisChemin(Chemin(c.nom));
+    EXPECT_EQ(VersChemin(NomDeCopie(chemin, 1)), Chemin(c.copie));
+    EXPECT_EQ(VersChemin(NomDeCopie(chemin, 2)), Chemin(c.suivante));
+    EcritOctets(Chemin(c.nom), "ancien");
+    FichiersDisque disque;
+    const SafeSave enCours(disque, chemin);
+    EXPECT_EQ(LitOctets(Chemin(c.copie)), "ancien") << c.copie;
+    EXPECT_EQ(VersChemin(DerniereCopie(disque, chemin)), Chemin(c.copie));
+  }
+}
+
+TEST_F(Disque, DerniereCopieQuiNEstPasVide) {
+  const struct {
+    const char* nom;
+    const char* octets;
+    int age;  // in seconds
+    const char* derniere;
+  } cas[] = {{"jeu~", "", 9, ""},           {"jeu~2", "2", 5, "jeu~2"},   {"jeu~4", "4", 7, "jeu~2"},
+             {"jeu~12", "12", 3, "jeu~12"}, {"jeu~02", "x", 1, "jeu~12"}, {"jeu~x", "x", 1, "jeu~12"},
+             {"autre~", "x", 1, "jeu~12"},  {"jeu~~", "x", 1, "jeu~12"},  {"jeu~13", "", 0, "jeu~12"}};
+  FichiersDisque disque;
+  EcritOctets(Chemin("jeu"), "jeu");
+  fs::create_directory(Chemin("jeu~3"));
+  const auto maintenant = fs::file_time_type::clock::now();
+  for (const auto& c : cas) {
+    EcritOctets(Chemin(c.nom), c.octets);
+    fs::last_write_time(Chemin(c.nom), maintenant - std::chrono::seconds(c.age));
+    const std::string attendue = *c.derniere == '\0' ? "" : Chemin(c.derniere);
+    EXPECT_EQ(VersChemin(DerniereCopie(disque, DepuisChemin(Chemin("jeu")))), attendue) << c.nom;
+  }
 }
 
 TEST_F(Disque, DroitsProprietaireEtLiensRestent) {
@@ -135,7 +181,7 @@ TEST_F(Disque, CopieNAjoutePasDeDroits) {
   EcritOctets(Chemin("jeu"), "ancien");
   fs::permissions(Chemin("jeu"), fs::perms(0600));
   FichiersDisque disque;
-  const SafeSave enCours(disque, DepuisUtf8(Chemin("jeu")));
+  const SafeSave enCours(disque, DepuisChemin(Chemin("jeu")));
   EXPECT_EQ(fs::status(Chemin("jeu~")).permissions(), fs::perms(0600));
   EXPECT_EQ(LitOctets(Chemin("jeu~")), "ancien");
   EXPECT_EQ(LitOctets(Chemin("jeu")), "");

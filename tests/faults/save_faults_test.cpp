@@ -119,11 +119,11 @@ TEST(Sauvegarde, CopieSurLeDisqueAvantDeViderNouveauSurLeDisqueAvantDOter) {
     return appel.starts_with("open") || appel.starts_with("fstat") || appel.starts_with("read") ||
            (appel.starts_with("close") && appel != "close jeu.sud");
   });
-  ASSERT_GE(faits.size(), 9U);
-  faits.resize(9);
+  ASSERT_GE(faits.size(), 10U);
+  faits.resize(10);
   EXPECT_EQ(faits, (std::vector{"write jeu.sud~"s, "fsync jeu.sud~"s, "fsync ."s, "close jeu.sud"s,
-                                "ftruncate jeu.sud"s, "write jeu.sud"s, "fsync jeu.sud"s, "close jeu.sud"s,
-                                "unlink jeu.sud~"s}));
+                                "ftruncate jeu.sud"s, "write jeu.sud"s, "ftruncate jeu.sud"s,
+                                "fsync jeu.sud"s, "close jeu.sud"s, "unlink jeu.sud~"s}));
 }
 
 // After a failed call: a report and the game as the steps before left it, or a save that is whole. Then
@@ -177,7 +177,7 @@ void VerifieMort(const Depart& depart, Plan plan) {
     suivant.Demarre(scene.Fichier());
     EXPECT_TRUE(
         suivant.AVu("62 - L'entrée dépasse la fin de fichier (la version précédente est conservée dans " +
-                    scene.Fichier() + "~)"))
+                    scene.Copie() + ")"))
         << suivant.Sortie();
   }
   scene.Sauve({});
@@ -191,6 +191,59 @@ TEST(Sauvegarde, MortAChaqueAppel) {
       VerifieMort(depart, {Panne::kMortAvant, rang, 0});
       VerifieMort(depart, {Panne::kMortPendant, rang, 0});
     });
+  }
+}
+
+// Two games on one file: the second saves while the first asks for a name.
+TEST(Sauvegarde, DeuxPartiesSurUnFichier) {
+  Scene scene(kDeparts[0]);
+  Joueur autre;
+  autre.reponses.emplace_back([](Boite& boite) { ChoisitPartie(boite, 0); });
+  autre.Demarre(scene.Fichier());
+  autre.Tape(2, U"2");
+  autre.reponses.emplace_back([](Boite& boite) { NommePartie(boite, U"un nom qui est beaucoup plus long"); });
+  scene.joueur.reponses = {[&](Boite& boite) {
+    autre.Clique("MnuSave");
+    NommePartie(boite, U"neuf");
+  }};
+  scene.joueur.Clique("MnuSave");
+  EXPECT_EQ(LitOctets(scene.Fichier()), kNouveau) << "nothing of the other's stands behind it";
+  EXPECT_EQ(scene.Noms(), (std::vector{"jeu.sud"s, "jeu.sud~2"s, "jeu.sud~3"s}));
+  EXPECT_EQ(LitOctets(scene.Fichier() + "~2"), "") << "what the other found";
+  EXPECT_NE(LitOctets(scene.Fichier() + "~3").find("beaucoup plus long-1022"), std::string::npos);
+
+  // Each now finds what the other wrote, and leaves it beside the file.
+  autre.Clique("MnuSave");
+  EXPECT_EQ(LitOctets(scene.Fichier() + "~"), kNouveau);
+  autre.Clique("MnuSave");
+  EXPECT_EQ(scene.Noms().size(), 4U) << "its own work needs no copy";
+}
+
+// A process dies in its copy, the next one in its writing: the load after that names the copy that is whole,
+// with the file emptied and with the file cut.
+TEST(Sauvegarde, MortDansLaCopiePuisDansLEcriture) {
+  const auto rang = [](const Depart& depart, const std::string& appel) {
+    const auto faits = Scene(depart).Sauve({});
+    return static_cast<int>(std::ranges::find(faits, appel) - faits.begin()) + 1;
+  };
+  const int copie = rang(kDeparts[0], "write jeu.sud~");
+  const int ecriture = rang(kDeparts[1], "write jeu.sud");
+  for (const Panne panne : {Panne::kMortAvant, Panne::kMortPendant}) {
+    Scene scene(kDeparts[0]);
+    scene.SauveEtMeurt({Panne::kMortPendant, copie, 0});
+    EXPECT_EQ(LitOctets(scene.Fichier()), kAncien);
+    EXPECT_EQ(LitOctets(scene.Fichier() + "~"), kAncien.substr(0, (kAncien.size() + 1) / 2));
+    scene.SauveEtMeurt({panne, ecriture, 0});
+    EXPECT_EQ(LitOctets(scene.Fichier() + "~2"), kAncien);
+    const bool vide = panne == Panne::kMortAvant;
+    EXPECT_EQ(LitOctets(scene.Fichier()), vide ? "" : kNouveau.substr(0, (kNouveau.size() + 1) / 2));
+    Joueur suivant;
+    suivant.reponses.emplace_back([](Boite& boite) { ChoisitPartie(boite, 0); });
+    suivant.Demarre(scene.Fichier());
+    const std::string ou = "la version précédente est conservée dans " + scene.Fichier() + "~2";
+    EXPECT_TRUE(suivant.AVu(vide ? "62 - L'entrée dépasse la fin de fichier (" + ou + ")"
+                                 : "message \"Ce fichier semble incomplet : " + ou + "\""))
+        << suivant.Sortie();
   }
 }
 

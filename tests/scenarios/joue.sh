@@ -1,6 +1,6 @@
 #!/bin/sh
-# joue.sh PROGRAM SESSION.txt: plays a session in a fresh copy of files/ and compares what it prints with
-# SESSION.expected. The folder that a file dialog prints is written "." there.
+# joue.sh PROGRAM SESSION.txt: plays a session in a fresh copy of files/, all of one age, and compares what it
+# prints with SESSION.expected. The folder that a file dialog prints is written "." there.
 set -eu
 programme=$1
 session=$2
@@ -11,6 +11,7 @@ trap 'chmod -R u+w "$dossier"; rm -rf "$dossier"' EXIT
 mkdir "$dossier/jeu"
 cp -r "$fichiers/." "$dossier/jeu/"
 chmod -R u+w "$dossier/jeu"
+find "$dossier/jeu" -type f -exec touch -d 2026-01-01 {} +
 cd "$dossier/jeu"
 ici=$(pwd)
 statut=0
