@@ -2,8 +2,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <string_view>
 #include <new>
+#include <string_view>
 
 #include "platform/fichiers_disque.h"
 #include "scenario/aide.h"

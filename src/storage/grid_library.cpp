@@ -35,7 +35,9 @@ Chargement GridLibrary::JeuLoadPartie(Texte VpPartie) {
     if (jeu_.VmPartie > 0) VpPartie = jeu_.VgParties[static_cast<std::size_t>(jeu_.VmPartie)].Grille;
     if (VpPartie.empty()) return;
     issue = Chargement::kRompu;
+    const std::int16_t choisie = std::exchange(jeu_.VmPartie, 0);  // none, where there is no room for it
     ExigeMemoire(VpPartie);
+    jeu_.VmPartie = choisie;
     if (!deroulement_.JeuVierge(jeu_.VmValeurs)) {
       jeu_.VmValeurs = jeu_.VmGrille.Symboles();
       jeu_.VmPartie = 0;  // the board's game is none of this library
