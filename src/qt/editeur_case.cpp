@@ -40,6 +40,11 @@ void EditeurCase::keyPressEvent(QKeyEvent* evenement) {
   QLineEdit::keyPressEvent(evenement);
 }
 
+void EditeurCase::focusInEvent(QFocusEvent* evenement) {
+  QLineEdit::focusInEvent(evenement);
+  Revenu();
+}
+
 void EditeurCase::inputMethodEvent(QInputMethodEvent* evenement) {
   const bool commence = !compose_;
   const bool valide = !evenement->commitString().isEmpty() || evenement->replacementLength() > 0;

@@ -16,6 +16,8 @@ class EditeurCase : public QLineEdit {
   std::function<void(const QString& texte)> Saisi;
   // A key, before the field gets it; True: it is used up.
   std::function<bool(QKeyEvent& evenement)> Touche;
+  // The field has the keyboard again; what it selects then is for the listener to say.
+  std::function<void()> Revenu;
   std::function<void()> Clic;
   std::function<void()> Menu;
 
@@ -24,6 +26,7 @@ class EditeurCase : public QLineEdit {
  protected:
   bool event(QEvent* evenement) override;
   void keyPressEvent(QKeyEvent* evenement) override;
+  void focusInEvent(QFocusEvent* evenement) override;
   void inputMethodEvent(QInputMethodEvent* evenement) override;
   void mousePressEvent(QMouseEvent* evenement) override;
   // A shaky click would lose the selection that it has just made.

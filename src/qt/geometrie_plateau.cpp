@@ -71,6 +71,23 @@ int GeometriePlateau::CaseSous(QPoint point) const {
   return trouvee;
 }
 
+int GeometriePlateau::PlusProche(QPoint point) const {
+  if (!Ensemble().contains(point)) return 0;
+  int trouvee = 0;
+  int distance = 0;
+  const int autour = cadre_ + 1;  // no point is further from every box than the line between two blocks
+  PourChaque(QRect(point, QSize(1, 1)).adjusted(-autour, -autour, autour, autour), [&](int i) {
+    const QRect boite = Case(i);
+    const QPoint dedans(std::clamp(point.x(), boite.left(), boite.right()),
+                        std::clamp(point.y(), boite.top(), boite.bottom()));
+    const int ici = (point - dedans).manhattanLength();
+    if (trouvee != 0 && ici >= distance) return;
+    trouvee = i;
+    distance = ici;
+  });
+  return trouvee;
+}
+
 // By hand: the boxes of a row are numbers, and no list that a library could search.
 int GeometriePlateau::PremiereDans(const Rangee& rangee, int gauche) const {
   int bas = rangee.premiere;

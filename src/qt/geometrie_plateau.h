@@ -30,6 +30,8 @@ class GeometriePlateau {
 
   // The box that holds this point, 0 for none.
   int CaseSous(QPoint point) const;
+  // The box nearest to a point among the frames, 0 for a point outside them.
+  int PlusProche(QPoint point) const;
   // Calls f(i) for every box that meets the rectangle, in ascending order.
   template <class F>
   void PourChaque(const QRect& zone, F&& f) const {

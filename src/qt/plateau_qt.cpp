@@ -36,6 +36,7 @@ PlateauQt::PlateauQt(Fenetre& fenetre, Pilote& pilote, QWidget* parent)
 void PlateauQt::BrancheEditeur() {
   editeur_->Saisi = [this](const QString& texte) { Tape(DepuisQt(texte)); };
   editeur_->Touche = [this](QKeyEvent& evenement) { return Touche(evenement); };
+  editeur_->Revenu = [this] { SelectionneEncore(); };
   editeur_->Clic = [this] { Focalise(focus_); };
   editeur_->Menu = [this] { OuvrePalette(); };
 }
@@ -125,9 +126,14 @@ void PlateauQt::Focalise(int i) {
   const bool meme = i == fenetre_.plateau.Focus();
   pilote_.Execute([&] { fenetre_.plateau.SetFocus(i); });
   if (!meme || focus_ != i) return;
+  SelectionneEncore();
+  editeur_->setFocus();
+}
+
+// As the record says, whatever the user has done to the selection.
+void PlateauQt::SelectionneEncore() {
   redessins_ = fenetre_.plateau.Redessins() - 1;
   SuitEditeur();
-  editeur_->setFocus();
 }
 
 // To the next box that is a stop, in a circle, or the one before.
@@ -157,7 +163,15 @@ void PlateauQt::wheelEvent(QWheelEvent* evenement) {
 }
 
 void PlateauQt::mousePressEvent(QMouseEvent* evenement) {
-  Focalise(CaseSous(evenement->position().toPoint()));
+  const QPoint appareil = (evenement->position() * devicePixelRatioF()).toPoint();
+  Focalise(geometrie_.PlusProche(appareil - Origine()));
+}
+
+// A press beside the boxes, or whatever else brings the keyboard here, leaves it with the box that has the
+// focus.
+void PlateauQt::focusInEvent(QFocusEvent* evenement) {
+  QAbstractScrollArea::focusInEvent(evenement);
+  if (focus_ != 0) editeur_->setFocus();
 }
 
 void PlateauQt::contextMenuEvent(QContextMenuEvent*) {

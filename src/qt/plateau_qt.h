@@ -49,6 +49,7 @@ class PlateauQt : public QAbstractScrollArea {
   void mousePressEvent(QMouseEvent* evenement) override;
   void contextMenuEvent(QContextMenuEvent* evenement) override;
   void keyPressEvent(QKeyEvent* evenement) override;
+  void focusInEvent(QFocusEvent* evenement) override;
   void wheelEvent(QWheelEvent* evenement) override;
   bool event(QEvent* evenement) override;
   bool focusNextPrevChild(bool) override { return false; }
@@ -68,6 +69,7 @@ class PlateauQt : public QAbstractScrollArea {
   void SuitEditeur();
   void SuitChangements();
   void Focalise(int i);
+  void SelectionneEncore();
   void Tabulation(bool avant);
   void MontreFocus();
   void PlaceEditeur();

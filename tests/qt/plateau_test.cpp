@@ -130,6 +130,32 @@ TEST_F(UnPlateau, TabulationFlechesEtCasesVerrouillees) {
   EXPECT_EQ(j.LePlateau().Focus(), 5);
 }
 
+TEST_F(UnPlateau, UnClicACoteDesCasesLaisseLeClavierAuPlateau) {
+  Ouvre();
+  j.CliqueCase(3);
+  const QRect case1 = j.Ecran().RectangleCase(1);
+  QTest::mouseClick(j.Ecran().viewport(), Qt::LeftButton, {}, QPoint(case1.left() - 6, case1.center().y()));
+  j.Tape(QStringLiteral("1"));
+  EXPECT_EQ(changements, (Liste{{3, U"1"}})) << "beside the grid: the box that has the focus keeps it";
+  const QPoint trait(case1.right() + 1, case1.center().y());
+  ASSERT_EQ(j.Ecran().CaseSous(trait), 0);
+  QTest::mouseClick(j.Ecran().viewport(), Qt::LeftButton, {}, trait);
+  EXPECT_EQ(j.LePlateau().Focus(), 1) << "on a line: the nearest box";
+}
+
+TEST_F(UnPlateau, LeClavierRevenuRemplaceLeSymbole) {
+  Ouvre();
+  j.CliqueCase(1);
+  j.Tape(QStringLiteral("3"));
+  j.Touche(Qt::Key_J, Qt::AltModifier);
+  j.Touche(Qt::Key_Escape);
+  j.Fenetre().findChild<QMenuBar*>()->setFocus();
+  Editeur().setFocus();
+  EXPECT_EQ(Editeur().selectedText(), QStringLiteral("3"));
+  j.Touche(Qt::Key_Delete);
+  EXPECT_EQ(changements, (Liste{{1, U"3"}, {1, U""}}));
+}
+
 TEST_F(UnPlateau, AnnuleEtRetablitCommeOnSaisit) {
   Ouvre();
   j.CliqueCase(1);
