@@ -16,6 +16,12 @@ struct Conforts {
   std::function<Texte()> Annule = {};
   std::function<Texte()> Retablit = {};
   std::function<Texte(TexteVue)> Colle = {};
+  // A text is a whole grid for this board, and more than a box takes.
+  std::function<bool(TexteVue)> EstGrille = {};
+  // Why box i takes no typing; empty: it does.
+  std::function<Texte(int)> Verrou = {};
+  // The user asks for the list of the keys.
+  std::function<void()> MontreTouches = {};
   // The board as one line of text.
   std::function<Texte()> EcritGrille = {};
   // Where box i is, with its number: the sentences name boxes by it.

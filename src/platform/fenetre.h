@@ -18,6 +18,7 @@ struct ArticleMenu {
   Texte Caption = {};
   bool Enabled = true;
   std::function<void()> Click = {};
+  char Touche = 0;  // the letter that chooses it with Ctrl; 0 none
 };
 
 struct Menu {

@@ -5,6 +5,23 @@
 namespace sudoku {
 namespace {
 
+constexpr TexteVue kTouches =
+    U"Un symbole : l'écrit dans la case\n"
+    U"Retour arrière, Suppr : effacent la case\n"
+    U"Flèches, Tab : changent de case ; Tab passe les cases données\n"
+    U"Début, Fin : première, dernière case de la ligne\n"
+    U"Ctrl+Début, Ctrl+Fin : première, dernière case de la grille\n"
+    U"Page haut, Page bas : une page plus haut, plus bas\n"
+    U"Ctrl+Espace : palette des symboles\n"
+    U"Ctrl+Z, Ctrl+Y (ou Ctrl+Maj+Z) : annule, rétablit\n"
+    U"Ctrl+C, Ctrl+X, Ctrl+V : copie, coupe, colle le symbole ; Ctrl+V colle aussi une grille\n"
+    U"Ctrl+Maj+C, Ctrl+Maj+V : copie, colle la grille entière\n"
+    U"Ctrl+O, Ctrl+S : charge, sauve\n"
+    U"Ctrl+plus, Ctrl+moins, Ctrl+0 : plateau plus grand, plus petit, normal\n"
+    U"Alt+J, Alt+? : ouvrent les menus\n"
+    U"Entrée, Échap : bouton par défaut d'une boîte ; fermer ou répondre Non\n"
+    U"F1 : cette liste";
+
 TexteVue EnMots(Marque marque) {
   switch (marque) {
     case Marque::kDonnee:
@@ -36,6 +53,11 @@ Texte DecritCase(const GameState& jeu, const Plateau& plateau, int i) {
          DecritPlace(jeu, i);
 }
 
+Texte Verrou(const Plateau& plateau, int i) {
+  if (!plateau.TxtCase(i).Locked) return {};
+  return U"La case " + Decimal(i) + U" est donnée et ne change plus";
+}
+
 Texte EcritGrille(const Plateau& plateau) {
   std::vector<Texte> contenus;
   for (int i = 1; i <= plateau.Cases(); ++i) contenus.push_back(plateau.TxtCase(i).Text);
@@ -50,6 +72,9 @@ Conforts ConfortsDuJeu(const GameState& jeu, const Plateau& plateau, Saisies& sa
       .Annule = [&saisies] { return saisies.Annule(); },
       .Retablit = [&saisies] { return saisies.Retablit(); },
       .Colle = [&saisies](TexteVue texte) { return saisies.Colle(texte); },
+      .EstGrille = [&saisies](TexteVue texte) { return saisies.EstGrille(texte); },
+      .Verrou = [&plateau](int i) { return Verrou(plateau, i); },
+      .MontreTouches = [&jeu] { jeu.Message(kTouches); },
       .EcritGrille = [&plateau] { return EcritGrille(plateau); },
       .DecritPlace = [&jeu](int i) { return DecritPlace(jeu, i); },
       .DecritCase = [&](int i) { return DecritCase(jeu, plateau, i); },

@@ -64,6 +64,11 @@ Texte Saisies::Colle(TexteVue texte) {
   return {};
 }
 
+bool Saisies::EstGrille(TexteVue texte) const {
+  return plateau_.Cases() > 1 &&
+         LitGrilleTexte(texte, jeu_.VmGrille.Donnees().alphabet->Symboles()).has_value();
+}
+
 void Saisies::TapeGrille(const std::vector<Texte>& contenus) {
   const auto contenu = [&](int i) -> const Texte& { return contenus[static_cast<std::size_t>(i - 1)]; };
   // What stands in the way goes first: a box takes another symbol only once it is empty.

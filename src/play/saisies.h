@@ -26,6 +26,8 @@ class Saisies {
   // Types a whole grid, box by box, until one is refused; all of it is one step. Empty, or why nothing was
   // typed: the text stands for no grid, or the givens are not being typed now.
   Texte Colle(TexteVue texte);
+  // The text is a whole grid of this board's symbols. On a board of one box nothing is.
+  bool EstGrille(TexteVue texte) const;
 
  private:
   struct Saisie {

@@ -41,7 +41,9 @@ FenetreQt::FenetreQt(Fenetre& fenetre, Pilote& pilote, QWidget* proprietaire, Ma
   setFont(PoliceQt({}, bureau_));
   if (fenetre_.avecPlateau) {
     plateau_ = new PlateauQt(fenetre_, pilote_, fond_);
-    plateau_->ToucheDeFenetre = [this](const QKeyEvent& evenement) { return ToucheDeZoom(evenement); };
+    plateau_->ToucheDeFenetre = [this](const QKeyEvent& evenement) {
+      return ToucheDeZoom(evenement) || ToucheDArticle(evenement);
+    };
     setAcceptDrops(true);
   }
   FabriqueElements();
@@ -350,6 +352,16 @@ void FenetreQt::wheelEvent(QWheelEvent* evenement) {
 }
 
 // ---- events
+
+bool FenetreQt::ToucheDArticle(const QKeyEvent& evenement) {
+  if (evenement.modifiers() != Qt::ControlModifier) return false;
+  for (const Article& a : articles_) {
+    if (a.article->Touche == 0 || a.article->Touche != evenement.key()) continue;
+    a.action->trigger();  // which does nothing while it is disabled
+    return true;
+  }
+  return false;
+}
 
 bool FenetreQt::Appuie(bool Element::*role) {
   for (const auto& element : elements_) {

@@ -79,6 +79,7 @@ class FenetreQt : public QWidget {
   void CentreSurProprietaire();
   void PlaceACote();
   void ChangeZoom(int pas);
+  bool ToucheDArticle(const QKeyEvent& evenement);
   bool ToucheDeZoom(const QKeyEvent& evenement);
   bool ToucheDeBouton(const QKeyEvent& evenement);
   bool Appuie(bool Element::*role);

@@ -71,6 +71,11 @@ int GeometriePlateau::CaseSous(QPoint point) const {
   return trouvee;
 }
 
+std::pair<int, int> GeometriePlateau::RangeeDe(int i) const {
+  const auto rangee = std::ranges::lower_bound(rangees_, i, {}, &Rangee::derniere);
+  return {rangee->premiere, rangee->derniere};
+}
+
 int GeometriePlateau::PlusProche(QPoint point) const {
   if (!Ensemble().contains(point)) return 0;
   int trouvee = 0;

@@ -2,6 +2,7 @@
 
 #include <QRect>
 #include <QSize>
+#include <utility>
 #include <vector>
 
 #include "platform/plateau.h"
@@ -32,6 +33,8 @@ class GeometriePlateau {
   int CaseSous(QPoint point) const;
   // The box nearest to a point among the frames, 0 for a point outside them.
   int PlusProche(QPoint point) const;
+  // The first and the last box of the row of box i.
+  std::pair<int, int> RangeeDe(int i) const;
   // Calls f(i) for every box that meets the rectangle, in ascending order.
   template <class F>
   void PourChaque(const QRect& zone, F&& f) const {

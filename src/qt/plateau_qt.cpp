@@ -211,6 +211,18 @@ void PlateauQt::DeposeTexte(const QString& texte) {
   Fait([&] { return fenetre_.conforts.Colle(DepuisQt(texte)); });
 }
 
+// A grid goes to the board, any other text into the box with the focus.
+void PlateauQt::Colle() {
+  const QString texte = QApplication::clipboard()->text();
+  if (fenetre_.plateau.Cases() == 0 || fenetre_.conforts.EstGrille(DepuisQt(texte)))
+    return DeposeTexte(texte);
+  if (texte.isEmpty())
+    return Dit(QStringLiteral("Rien à coller : le presse-papiers ne contient pas de texte"));
+  if (!AUneCase()) return;
+  const Texte verrou = fenetre_.conforts.Verrou(focus_);
+  verrou.empty() ? editeur_->paste() : Dit(VersQt(verrou));
+}
+
 void PlateauQt::CopieGrille() {
   if (fenetre_.plateau.Cases() == 0 || !fenetre_.conforts.EcritGrille) return;
   QApplication::clipboard()->setText(VersQt(fenetre_.conforts.EcritGrille()));

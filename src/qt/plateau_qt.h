@@ -57,9 +57,13 @@ class PlateauQt : public QAbstractScrollArea {
  private:
   bool Touche(QKeyEvent& evenement);
   bool ToucheDeConfort(const QKeyEvent& evenement);
+  bool ToucheDeLieu(const QKeyEvent& evenement);
+  bool Frappe(const QKeyEvent& evenement);
+  bool AUneCase();
   void BrancheEditeur();
   void OuvrePalette();
   void CopieGrille();
+  void Colle();
   void Tape(const Texte& texte);
   // An act of the user; where nothing was done, a tool tip that goes away says why.
   void Fait(const std::function<Texte()>& acte);

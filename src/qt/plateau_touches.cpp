@@ -4,13 +4,15 @@
 #include <QClipboard>
 #include <QKeyEvent>
 
+#include "qt/editeur_case.h"
 #include "qt/plateau_qt.h"
 #include "qt/touches.h"
 
 namespace sudoku {
 
 bool PlateauQt::Touche(QKeyEvent& evenement) {
-  if (ToucheDeFenetre(evenement) || ToucheDeConfort(evenement)) return true;
+  if (ToucheDeFenetre(evenement) || ToucheDeConfort(evenement) || ToucheDeLieu(evenement)) return true;
+  if (Frappe(evenement)) return true;
   if (evenement.key() == Qt::Key_Tab || evenement.key() == Qt::Key_Backtab) {
     Tabulation(evenement.key() == Qt::Key_Tab);
     return true;
@@ -25,9 +27,20 @@ bool PlateauQt::Touche(QKeyEvent& evenement) {
 }
 
 bool PlateauQt::ToucheDeConfort(const QKeyEvent& evenement) {
+  if (evenement.key() == Qt::Key_F1 && fenetre_.conforts.MontreTouches) {
+    pilote_.Execute(fenetre_.conforts.MontreTouches);
+    return true;
+  }
+  if (evenement.matches(QKeySequence::Paste)) {
+    Colle();
+    return true;
+  }
   if (!(evenement.modifiers() & Qt::ControlModifier)) return false;
   const bool maj = evenement.modifiers() & Qt::ShiftModifier;
   switch (evenement.key()) {
+    case Qt::Key_Y:
+      Fait(fenetre_.conforts.Retablit);
+      return true;
     case Qt::Key_Z:
       Fait(maj ? fenetre_.conforts.Retablit : fenetre_.conforts.Annule);
       return true;
@@ -43,6 +56,65 @@ bool PlateauQt::ToucheDeConfort(const QKeyEvent& evenement) {
     default:
       return false;
   }
+}
+
+// To an end of the row or of the board, or a page up or down. Without a box to start from only to the ends of
+// the board.
+bool PlateauQt::ToucheDeLieu(const QKeyEvent& evenement) {
+  const Qt::KeyboardModifiers avec = evenement.modifiers() & ~Qt::KeypadModifier;
+  const bool tout = avec == Qt::ControlModifier;
+  const int n = fenetre_.plateau.Cases();
+  if (n == 0 || (tout ? false : avec != Qt::NoModifier || focus_ == 0)) return false;
+  const auto [premiere, derniere] = geometrie_.RangeeDe(std::max(focus_, 1));
+  const int largeur = derniere - premiere + 1;
+  const int page = largeur * std::max(1, viewport()->height() / RectangleCase(1).height() - 1);
+  const int colonne = focus_ - premiere;
+  int cible = 0;
+  switch (evenement.key()) {
+    case Qt::Key_Home:
+      cible = tout ? 1 : premiere;
+      break;
+    case Qt::Key_End:
+      cible = tout ? n : derniere;
+      break;
+    case Qt::Key_PageUp:
+      cible = tout ? 0 : std::max(focus_ - page, 1 + colonne);
+      break;
+    case Qt::Key_PageDown:
+      cible = tout ? 0 : std::min(focus_ + page, n - largeur + 1 + colonne);
+      break;
+    default:
+      break;
+  }
+  Focalise(cible);
+  return cible != 0;
+}
+
+// A symbol that is typed while no box has the focus goes to the first that takes one, an empty one if there
+// is any. True: a box has the focus.
+bool PlateauQt::AUneCase() {
+  int libre = 0;
+  for (int i = fenetre_.plateau.Cases(); i > 0 && focus_ == 0; --i) {
+    const CaseTexte& boite = fenetre_.plateau.TxtCase(i);
+    const bool meilleure = libre == 0 || boite.Text.empty() || !fenetre_.plateau.TxtCase(libre).Text.empty();
+    if (!boite.Locked && meilleure) libre = i;
+  }
+  if (focus_ == 0) Focalise(libre);
+  return focus_ != 0;
+}
+
+// True: used up, because the key types nothing or something else than the field would take.
+bool PlateauQt::Frappe(const QKeyEvent& evenement) {
+  const Qt::KeyboardModifiers autres = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  const QString brut = evenement.text();
+  if (fenetre_.plateau.Cases() == 0 || brut.isEmpty() || !brut[0].isPrint()) return false;
+  if (evenement.modifiers() & autres) return false;
+  const QString texte = TexteTape(evenement, fenetre_.conforts.Symboles());
+  if (focus_ != 0 && texte == brut) return false;
+  if (texte.isEmpty() || !AUneCase()) return true;
+  QKeyEvent frappe(QEvent::KeyPress, 0, Qt::NoModifier, texte);
+  QApplication::sendEvent(editeur_, &frappe);
+  return true;
 }
 
 bool PlateauQt::event(QEvent* evenement) {

@@ -156,6 +156,61 @@ TEST_F(UnPlateau, LeClavierRevenuRemplaceLeSymbole) {
   EXPECT_EQ(changements, (Liste{{1, U"3"}, {1, U""}}));
 }
 
+TEST_F(UnPlateau, UneFrappeSansCaseVaALaPremiereLibre) {
+  Ouvre();
+  j.Touche(Qt::Key_Space);
+  EXPECT_EQ(j.LePlateau().Focus(), 0) << "a blank that is no symbol types nothing";
+  j.Tape(QStringLiteral("1"));
+  EXPECT_EQ(changements, (Liste{{1, U"1"}}));
+  j.Quand("question", [&](QWidget&) { j.Touche(Qt::Key_O); });
+  j.NouvelleGrille(QStringLiteral("12'4"));
+  changements.clear();
+  j.Tape(QStringLiteral("&"));
+  j.CliqueCase(6);
+  j.Tape(QStringLiteral("'"));
+  EXPECT_EQ(changements, (Liste{{1, U"1"}, {6, U"'"}})) << "its digit, unless the character is a symbol";
+}
+
+TEST_F(UnPlateau, LesTouchesDeTousLesBureaux) {
+  Ouvre();
+  j.CliqueCase(6);
+  j.Tape(QStringLiteral("1"));
+  const auto va = [&](Qt::Key touche, Qt::KeyboardModifiers avec, int i) {
+    j.Touche(touche, avec);
+    EXPECT_EQ(j.LePlateau().Focus(), i);
+  };
+  va(Qt::Key_End, Qt::NoModifier, 8);
+  va(Qt::Key_Home, Qt::NoModifier, 5);
+  va(Qt::Key_PageDown, Qt::NoModifier, 13);
+  va(Qt::Key_PageUp, Qt::NoModifier, 1);
+  va(Qt::Key_End, Qt::ControlModifier, 16);
+  va(Qt::Key_Home, Qt::ControlModifier, 1);
+  j.Touche(Qt::Key_Z, Qt::ControlModifier);
+  j.Touche(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(j.Grille(), ".....1..........");
+  j.Quand("message", [&](QWidget&) { j.Touche(Qt::Key_Return); });
+  j.Touche(Qt::Key_F1);
+  j.Quand("fichier", [&](QWidget&) { j.Touche(Qt::Key_Escape); });
+  j.Touche(Qt::Key_S, Qt::ControlModifier);
+  j.Quand("question", [&](QWidget&) { j.Touche(Qt::Key_Escape); });
+  j.Touche(Qt::Key_O, Qt::ControlModifier);
+  EXPECT_TRUE(j.ToutEstVenu());
+}
+
+TEST_F(UnPlateau, UnCollageImpossibleDitPourquoi) {
+  Ouvre();
+  j.Colle(QStringLiteral("1..43.1.2..3.3.."));
+  EXPECT_EQ(j.Grille(), "1..43.1.2..3.3..") << "a text that is a grid";
+  j.Menu(Qt::Key_J, Qt::Key_D);
+  j.CliqueCase(1);
+  j.Colle(QStringLiteral("2"));
+  EXPECT_EQ(QToolTip::text(), QStringLiteral("La case 1 est donnée et ne change plus"));
+  j.CliqueCase(2);
+  j.Colle(QStringLiteral("1..43.1.2..3.3.."));
+  EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("Une grille ne se colle que")));
+  EXPECT_EQ(j.Grille(), "1..43.1.2..3.3..");
+}
+
 TEST_F(UnPlateau, AnnuleEtRetablitCommeOnSaisit) {
   Ouvre();
   j.CliqueCase(1);
