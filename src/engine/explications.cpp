@@ -1,5 +1,9 @@
 #include "engine/explications.h"
 
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
 namespace sudoku {
 namespace {
 
@@ -89,6 +93,15 @@ class Redacteur {
   const Bloc& bloc_;
 };
 
+// Adds the sentence of one more fact of a cell. False: nothing follows it.
+bool AjoutePhrase(const Redacteur& redacteur, const Bloc& bloc, const Fait& fait,
+                  std::vector<Texte>& phrases) {
+  Texte phrase = redacteur.Phrase(fait);
+  const auto tient = [&](const Texte& ancienne) { return Contient(ancienne, phrase); };
+  if (std::ranges::none_of(phrases, tient)) phrases.push_back(std::move(phrase));
+  return bloc.journal.arguments[fait.argument].genre != Genre::kSeule;
+}
+
 }  // namespace
 
 std::vector<Texte> Phrases(const Grille& VpGrille, int cellule) {
@@ -96,12 +109,26 @@ std::vector<Texte> Phrases(const Grille& VpGrille, int cellule) {
   const Redacteur redacteur(bloc);
   std::vector<Texte> phrases;
   for (const Fait& fait : bloc.journal.faits) {
-    if (fait.cellule != cellule) continue;
-    const Texte phrase = redacteur.Phrase(fait);
-    bool tenue = false;
-    for (const Texte& ancienne : phrases) tenue = tenue || Contient(ancienne, phrase);
-    if (!tenue) phrases.push_back(phrase);
-    if (bloc.journal.arguments[fait.argument].genre == Genre::kSeule) break;
+    if (fait.cellule == cellule && !AjoutePhrase(redacteur, bloc, fait, phrases)) break;
+  }
+  return phrases;
+}
+
+Explicateur::Explicateur(const Grille& VpGrille)
+    : bloc_(VpGrille.Donnees()), debuts_(At(VpGrille.Borne() + 2)), faits_(bloc_.journal.faits.size()) {
+  for (const Fait& fait : bloc_.journal.faits) ++debuts_[At(fait.cellule)];
+  // The ends of all; filling in from behind makes them the beginnings.
+  std::partial_sum(debuts_.begin(), debuts_.end(), debuts_.begin());
+  for (auto fait = bloc_.journal.faits.rbegin(); fait != bloc_.journal.faits.rend(); ++fait) {
+    faits_[--debuts_[At(fait->cellule)]] = *fait;
+  }
+}
+
+std::vector<Texte> Explicateur::Phrases(int cellule) const {
+  const Redacteur redacteur(bloc_);
+  std::vector<Texte> phrases;
+  for (std::uint32_t i = debuts_[At(cellule)]; i < debuts_[At(cellule + 1)]; ++i) {
+    if (!AjoutePhrase(redacteur, bloc_, faits_[i], phrases)) break;
   }
   return phrases;
 }

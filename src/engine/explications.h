@@ -10,7 +10,19 @@ namespace sudoku {
 // none that what stands there already holds.
 std::vector<Texte> Phrases(const Grille& VpGrille, int cellule);
 
-// The same as one text, each sentence ended by CR LF: the field Explications of a cell.
+// The same for all cells of a grid, whose facts are sorted by cell once. The grid stays as it is meanwhile.
+class Explicateur {
+ public:
+  explicit Explicateur(const Grille& VpGrille);
+  std::vector<Texte> Phrases(int cellule) const;
+
+ private:
+  const Bloc& bloc_;
+  std::vector<std::uint32_t> debuts_;  // by cell: where its facts begin in `faits_`; one more for the end
+  std::vector<Fait> faits_;
+};
+
+// The sentences on a cell as one text, each ended by CR LF: the field Explications of a cell.
 Texte Explications(const Grille& VpGrille, int cellule);
 
 }  // namespace sudoku

@@ -1,5 +1,8 @@
 #include "lot/expliquer.h"
 
+#include <algorithm>
+#include <bit>
+
 #include "engine/evaluation.h"
 #include "engine/explications.h"
 #include "lot/grille.h"
@@ -37,9 +40,9 @@ class Expliquer : public Ouvrier {
 
  private:
   void EcrisJson(int verdict, std::string& s);
-  void EcrisCaseJson(int cellule, std::string& s);
+  void EcrisCaseJson(const Explicateur& explicateur, int cellule, std::string& s);
   void EcrisTexte(std::string_view champ, int verdict, std::string& s);
-  void EcrisCaseTexte(int cellule, std::string& s);
+  void EcrisCaseTexte(const Explicateur& explicateur, int cellule, std::string& s);
   const std::string& Symbole(Code code) { return symboles_.De(*Donnees().alphabet, code); }
   void Possible(int cellule, std::string_view separateur, std::string& s);
   const Bloc& Donnees() const { return jeu_.VmGrille.Donnees(); }
@@ -58,25 +61,32 @@ void Expliquer::Possible(int cellule, std::string_view separateur, std::string& 
     s += Symbole(bloc.possibleTexte[At(cellule)]);
     return;
   }
+  // Longer than any candidates of one cell, with what stands between them.
   const std::size_t debut = s.size();
-  for (int p = 0; p < bloc.alphabet->Taille(); ++p) {
-    if (!bloc.Candidat(cellule, p)) continue;
-    if (s.size() != debut) s += separateur;
-    s += Symbole(p);
+  s.resize(debut + kTailleMax * (SymbolesUtf8::kCourt + separateur.size()));
+  char* fin = s.data() + debut;
+  const std::uint64_t* const mots = &bloc.candidats[At(cellule * bloc.mots)];
+  for (int m = 0; m < bloc.mots; ++m) {
+    for (std::uint64_t mot = mots[m]; mot != 0; mot &= mot - 1) {
+      if (fin != s.data() + debut) fin = std::ranges::copy(separateur, fin).out;
+      fin = symboles_.Pose(*bloc.alphabet, 64 * m + std::countr_zero(mot), fin);
+    }
   }
+  s.resize(static_cast<std::size_t>(fin - s.data()));
 }
 
 void Expliquer::EcrisJson(int verdict, std::string& s) {
   s +=
       "{\"verdict\":" + std::to_string(verdict) + ",\"mode\":" + std::to_string(jeu_.VgEtat) + ",\"cases\":[";
+  const Explicateur explicateur(jeu_.VmGrille);
   for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
     if (i > 1) s += ',';
-    EcrisCaseJson(i, s);
+    EcrisCaseJson(explicateur, i, s);
   }
   s += "]}\n";
 }
 
-void Expliquer::EcrisCaseJson(int cellule, std::string& s) {
+void Expliquer::EcrisCaseJson(const Explicateur& explicateur, int cellule, std::string& s) {
   const Bloc& bloc = Donnees();
   (s += "{\"index\":") += std::to_string(cellule);
   (s += ",\"valeur\":\"") += Symbole(bloc.saisie[At(cellule)]);
@@ -86,7 +96,7 @@ void Expliquer::EcrisCaseJson(int cellule, std::string& s) {
   (s += "\",\"sure\":\"") += Symbole(bloc.sure[At(cellule)]);
   (s += "\",\"poss\":\"") += Symbole(bloc.poss[At(cellule)]);
   s += "\",\"explications\":[";
-  for (const Texte& phrase : Phrases(jeu_.VmGrille, cellule)) {
+  for (const Texte& phrase : explicateur.Phrases(cellule)) {
     if (s.back() != '[') s += ',';
     ((s += '"') += Json(VersUtf8(phrase))) += '"';
   }
@@ -103,11 +113,12 @@ void Expliquer::EcrisTexte(std::string_view champ, int verdict, std::string& s) 
   ((s += "Grille ") += champ) += '\n';
   s += Verdict(verdict) + " (verdict " + std::to_string(verdict) + ", mode " + std::to_string(jeu_.VgEtat) +
        ")\n";
-  for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) EcrisCaseTexte(i, s);
+  const Explicateur explicateur(jeu_.VmGrille);
+  for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) EcrisCaseTexte(explicateur, i, s);
   s += '\n';
 }
 
-void Expliquer::EcrisCaseTexte(int cellule, std::string& s) {
+void Expliquer::EcrisCaseTexte(const Explicateur& explicateur, int cellule, std::string& s) {
   const Bloc& bloc = Donnees();
   const ClsPos position = jeu_.VmGrille(cellule);
   const auto champ = [&](const char* nom, const std::string& valeur) {
@@ -122,7 +133,7 @@ void Expliquer::EcrisCaseTexte(int cellule, std::string& s) {
   champ("sûr ", Symbole(bloc.sure[At(cellule)]));
   champ("sûr si les saisies sont justes ", Symbole(bloc.poss[At(cellule)]));
   s += '\n';
-  for (const Texte& phrase : Phrases(jeu_.VmGrille, cellule)) ((s += "    ") += VersUtf8(phrase)) += '\n';
+  for (const Texte& phrase : explicateur.Phrases(cellule)) ((s += "    ") += VersUtf8(phrase)) += '\n';
 }
 
 }  // namespace

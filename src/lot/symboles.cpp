@@ -21,4 +21,12 @@ void SymbolesUtf8::Etends(const Alphabet& alphabet, std::size_t rang) {
   }
 }
 
+void SymbolesUtf8::EtendsCourts(const Alphabet& alphabet, std::size_t rang) {
+  for (std::size_t i = courts_.size(); i <= rang; ++i) {
+    const std::string& texte = De(alphabet, static_cast<Code>(i));
+    Court& court = courts_.emplace_back();
+    court.longueur = texte.copy(court.octets, kCourt);
+  }
+}
+
 }  // namespace sudoku::lot

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstring>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,14 +22,31 @@ class SymbolesUtf8 {
     return textes_[rang];
   }
 
+  // Room for one symbol in the output form, whatever it is: an escape has six characters.
+  static constexpr std::size_t kCourt = 8;
+  // Writes the symbol at this position; kCourt characters from `ou` on are overwritten. Where it ends.
+  char* Pose(const Alphabet& alphabet, int position, char* ou) {
+    const auto rang = static_cast<std::size_t>(position);
+    if (rang >= courts_.size()) EtendsCourts(alphabet, rang);
+    std::memcpy(ou, courts_[rang].octets, kCourt);
+    return ou + courts_[rang].longueur;
+  }
+
   // Appends the contents of cells in a row, "." for an empty one.
   void Ecris(const Alphabet& alphabet, std::span<const Code> codes, std::string& sortie);
 
  private:
+  struct Court {
+    char octets[kCourt];
+    std::size_t longueur;
+  };
+
+  void EtendsCourts(const Alphabet& alphabet, std::size_t rang);
   void Etends(const Alphabet& alphabet, std::size_t rang);
 
   std::string (*forme_)(std::string_view);
   std::vector<std::string> textes_;  // by code + 1: element 0 is the empty text
+  std::vector<Court> courts_;        // by position
 };
 
 }  // namespace sudoku::lot
