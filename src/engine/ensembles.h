@@ -23,11 +23,26 @@ SUDOKU_EN_LIGNE BitsDe<S> EnsemblesVoisins(const Voies<S>& cles, const Voies<S>&
   return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
 }
 
+// The lanes are few enough that each compared with all later ones, without a branch, is soonest done.
+template <int S>
+constexpr bool kToutCompare = S == 4;
+#if !defined(SUDOKU_VOIES_512)
+template <>
+constexpr bool kToutCompare<5> = true;
+#endif
+
 // The same with all later lanes; equal lanes have equal `comptes`.
 template <int S>
 SUDOKU_EN_LIGNE BitsDe<S> Ensembles(const Voies<S>& cles, const Voies<S>& comptes) {
   if constexpr (S == 3) {
     const Voies<S> egales = CompteEgales<S, 1>(cles, std::make_integer_sequence<int, 8>());
+    return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
+  } else if constexpr (kToutCompare<S>) {
+    alignas(64) MotDe<S> suite[Taille(2 * Largeur<S>::kVoies)];
+    Range<S>(suite, cles);
+    Range<S>(suite + Largeur<S>::kVoies, Voies<S>{});
+    Voies<S> egales = Partout<S>(1);
+    for (int d = 1; d < S * S; ++d) egales = egales - Egales(cles, Lit<S>(suite + d));
     return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
   } else {
     // Lanes with the same count together: most are seen to be too few before any two are compared.
