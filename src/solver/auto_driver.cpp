@@ -12,8 +12,14 @@ void Ajoute(Texte& texte, std::uint64_t nombre) {
 
 }  // namespace
 
-AutoDriver::AutoDriver(GameState& jeu, Evaluateur& moteur, PlateauAuto& plateau, Lecture lecture)
-    : jeu_(jeu), moteur_(moteur), plateau_(plateau), lecture_(lecture), general_(moteur) {}
+AutoDriver::AutoDriver(GameState& jeu, Evaluateur& moteur, PlateauAuto& plateau, Lecture lecture,
+                       Auditeur* auditeur)
+    : jeu_(jeu),
+      moteur_(moteur),
+      plateau_(plateau),
+      lecture_(lecture),
+      auditeur_(auditeur),
+      general_(moteur, auditeur) {}
 
 void AutoDriver::JeuAuto(bool VpReset, bool VpGuess) {
   if (VpReset) jeu_.VsResolu = false;
@@ -41,7 +47,7 @@ void AutoDriver::JeuAuto(bool VpReset, bool VpGuess) {
 }
 
 Travail& AutoDriver::TravailPour(const Grille& grille) {
-  if (!NoyauConvient(grille)) return general_;
+  if (auditeur_ != nullptr || !NoyauConvient(grille)) return general_;
   if (coteNoyau_ != grille.N()) noyau_ = FaisTravailNoyau(coteNoyau_ = grille.N(), moteur_);
   return *noyau_;
 }
@@ -76,12 +82,24 @@ bool AutoDriver::GuessResult(std::int16_t VpResultat, Travail& travail) {
   if (VpResultat == 0) return true;
   if (VpResultat > 0) return false;
   while (VlSupp_.Niveaux() > 0) {
-    if (VlSupp_.Refute()) return false;
+    if (Refute()) return false;
     if (lecture_ == Lecture::kTout) travail.Montre();
     plateau_.Message(U"Retour arrière ! Procédure à vérifier");
     VlSupp_.Ferme();
   }
   return true;
+}
+
+bool AutoDriver::Refute() {
+  const TSupposition& niveau = VlSupp_.Dernier();
+  if (auditeur_ != nullptr) auditeur_->Refute(niveau.Index, niveau.Valeur(), VlSupp_.Niveaux());
+  return VlSupp_.Refute();
+}
+
+void AutoDriver::DitSuppose() {
+  if (auditeur_ == nullptr) return;
+  const TSupposition& niveau = VlSupp_.Dernier();
+  auditeur_->Suppose(niveau.Index, niveau.Valeur(), VlSupp_.Niveaux());
 }
 
 // Makes the next supposition, on the board rebuilt from the base and the live suppositions: a further
@@ -91,20 +109,24 @@ bool AutoDriver::Guess(Travail& travail) {
   travail.Detache();
   if (VlSupp_.Niveaux() > 0 && !VlSupp_.Dernier().vivante) {
     VlSupp_.Dernier().vivante = true;
+    if (auditeur_ != nullptr) auditeur_->Reprend();
+    DitSuppose();
     Rejoue(travail);
     return true;
   }
   // The board of the last attempt won't do: what it wrote before its last supposition was found without it,
   // and the deduction depends on its order. It will where that supposition was made on the very board of the
-  // base.
-  if (!rejouee_) {
+  // base; who listens hears that pass all the same.
+  const bool surLaBase = VlSupp_.Niveaux() == 0;
+  if (!rejouee_ || (auditeur_ != nullptr && !surLaBase)) {
+    if (auditeur_ != nullptr) auditeur_->Reprend();
     Rejoue(travail);
     travail.JeuSolve(true);  // a contradiction is no matter here: a cell is looked for all the same
   }
-  const bool surLaBase = VlSupp_.Niveaux() == 0;
   const int cellule = travail.CelluleOuverte(surLaBase ? 0 : VlSupp_.Dernier().Index, Possible_);
   if (cellule == 0) return false;
   VlSupp_.Ouvre(static_cast<std::int16_t>(cellule), Possible_);
+  DitSuppose();
   travail.Suppose(cellule, VlSupp_.Dernier().Valeur());
   rejouee_ = surLaBase;
   return true;

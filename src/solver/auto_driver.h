@@ -29,9 +29,12 @@ enum class Lecture {
 
 // Automatic play, the one entry to the solver. Works on the live grid with messages (VgSilence False) or
 // silently on a copy, VmGrilleEtat (VgSilence True). Every run ends, whatever the grid; VgEtat is 2 after it.
+// An `auditeur` hears every turn that fills cells, in every solve pass, and every supposition and refutation;
+// the result is the same.
 class AutoDriver {
  public:
-  AutoDriver(GameState& jeu, Evaluateur& moteur, PlateauAuto& plateau, Lecture lecture = Lecture::kTout);
+  AutoDriver(GameState& jeu, Evaluateur& moteur, PlateauAuto& plateau, Lecture lecture = Lecture::kTout,
+             Auditeur* auditeur = nullptr);
 
   // VpReset: forget that VmGrilleEtat is complete (otherwise a complete one is simply shown, without a
   // message). VpGuess: suppose symbols where deduction stops.
@@ -44,7 +47,9 @@ class AutoDriver {
   Travail& TravailPour(const Grille& grille);
   std::int16_t Cherche(Travail& travail, bool VpGuess);
   bool GuessResult(std::int16_t VpResultat, Travail& travail);
+  bool Refute();
   bool Guess(Travail& travail);
+  void DitSuppose();
   void Rejoue(Travail& travail);
   TexteVue MessageFinal(std::int16_t VlVerdict);
 
@@ -52,6 +57,7 @@ class AutoDriver {
   Evaluateur& moteur_;
   PlateauAuto& plateau_;
   Lecture lecture_;
+  Auditeur* auditeur_;
   TravailGrille general_;
   std::unique_ptr<Travail> noyau_;  // for grids of side coteNoyau_
   int coteNoyau_ = 0;

@@ -10,6 +10,16 @@ std::size_t At(int i) {
   return static_cast<std::size_t>(i);
 }
 
+// A proved symbol replaces whatever the cell holds; one that rests on unproved entries goes into empty cells
+// only.
+bool EcritSure(const Bloc& bloc, int i) {
+  return bloc.sure[At(i)] != kVide && !bloc.alphabet->Egaux(bloc.saisie[At(i)], bloc.sure[At(i)]);
+}
+
+bool EcritPoss(const Bloc& bloc, int i) {
+  return bloc.saisie[At(i)] == kVide && bloc.poss[At(i)] != kVide;
+}
+
 }  // namespace
 
 void TravailGrille::Commence(const Grille& grille) {
@@ -26,26 +36,41 @@ void TravailGrille::Charge(int cellule, Code symbole, std::int32_t etat) {
   travail_(cellule).Load(travail_.Donnees().alphabet->TexteDe(symbole), etat);
 }
 
-// A proved symbol replaces whatever the cell holds; one that rests on unproved entries goes into empty cells
-// only. It ends: a cell is written at most twice, once in each way and in that order.
+// It ends: a cell is written at most twice, once in each way and in that order.
 std::int16_t TravailGrille::JeuSolve(bool /*possibles*/) {
   const Bloc& bloc = travail_.Donnees();
   for (;;) {
-    const std::int16_t verdict = moteur_.Evaluation(travail_, 2, baseProuvee_);
+    const std::int16_t verdict = Evalue();
     if (verdict == -1) return verdict;
+    if (auditeur_ != nullptr) RaconteTour();
     bool VlFini = true;
     for (int i = 1; i <= travail_.Borne(); ++i) {
-      const Code saisie = bloc.saisie[At(i)];
-      if (bloc.sure[At(i)] != kVide && !bloc.alphabet->Egaux(saisie, bloc.sure[At(i)])) {
+      if (EcritSure(bloc, i)) {
         travail_(i).Valeur(travail_(i).SolutionSure());
         VlFini = false;
-      } else if (saisie == kVide && bloc.poss[At(i)] != kVide) {
+      } else if (EcritPoss(bloc, i)) {
         travail_(i).Valeur(travail_(i).SolutionPoss());
         VlFini = false;
       }
     }
     if (VlFini) return verdict;
   }
+}
+
+// What JeuSolve is about to write: no write changes what another cell gets.
+void TravailGrille::RaconteTour() {
+  const Bloc& bloc = travail_.Donnees();
+  for (int i = 1; i <= travail_.Borne(); ++i) {
+    const bool sure = EcritSure(bloc, i);
+    if (!sure && !EcritPoss(bloc, i)) continue;
+    remplies_.push_back({static_cast<std::int16_t>(i), sure ? bloc.sure[At(i)] : bloc.poss[At(i)], sure});
+  }
+  Raconte();
+}
+
+void TravailGrille::Raconte() {
+  if (!remplies_.empty()) auditeur_->Remplit(travail_, verdict_, remplies_);
+  remplies_.clear();
 }
 
 void TravailGrille::PrendBase() {
@@ -79,10 +104,19 @@ int TravailGrille::CelluleOuverte(int cellule, Essai& Possible) {
 }
 
 std::int16_t TravailGrille::Acheve() {
+  const auto cede = [this](int i) {
+    return base_.Donnees().saisie[At(i)] != kVide && travail_(i).Etat() == kErronee &&
+           travail_(i).Possible().size() == 1;
+  };
+  for (int i = 1; auditeur_ != nullptr && i <= travail_.Borne(); ++i) {
+    const Bloc& bloc = travail_.Donnees();
+    if (!cede(i)) continue;
+    const Code symbole = bloc.alphabet->Numero(travail_(i).Possible());
+    remplies_.push_back({static_cast<std::int16_t>(i), symbole, bloc.sure[At(i)] != kVide});
+  }
+  if (auditeur_ != nullptr) Raconte();
   for (int i = 1; i <= travail_.Borne(); ++i) {
-    if (base_.Donnees().saisie[At(i)] == kVide || travail_(i).Etat() != kErronee) continue;
-    const Texte Possible = travail_(i).Possible();
-    if (Possible.size() == 1) travail_(i).Valeur(Possible);
+    if (cede(i)) travail_(i).Valeur(travail_(i).Possible());
   }
   return JeuSolve(true);
 }

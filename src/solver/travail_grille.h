@@ -1,14 +1,18 @@
 #pragma once
 
+#include <vector>
+
 #include "engine/evaluation.h"
+#include "solver/auditeur.h"
 #include "solver/travail.h"
 
 namespace sudoku {
 
-// A run on any grid, cell by cell, with the engine.
+// A run on any grid, cell by cell, with the engine. `auditeur`, where there is one, hears what is filled.
 class TravailGrille : public Travail {
  public:
-  explicit TravailGrille(Evaluateur& moteur) : moteur_(moteur) {}
+  explicit TravailGrille(Evaluateur& moteur, Auditeur* auditeur = nullptr)
+      : moteur_(moteur), auditeur_(auditeur) {}
 
   // Puts a cell of the board at this content and Etat, unjudged.
   void Charge(int cellule, Code symbole, std::int32_t etat);
@@ -27,7 +31,14 @@ class TravailGrille : public Travail {
   void Montre() override {}
 
  private:
+  std::int16_t Evalue() { return verdict_ = moteur_.Evaluation(travail_, 2, baseProuvee_); }
+  void RaconteTour();
+  void Raconte();
+
   Evaluateur& moteur_;
+  Auditeur* auditeur_;
+  std::int16_t verdict_ = 0;           // of the last evaluation
+  std::vector<Remplissage> remplies_;  // what is told next
   Grille travail_;
   Grille base_;
   bool detachee_ = false;

@@ -44,6 +44,7 @@ const Noms kInterfaces = {
     "play/voisins.h APropos",           // the about box
     "play/voisins.h Assistant",         // the assistant, as board and clock see it
     "play/voisins.h Stockage",          // files and scores, as menus and the end of a game see them
+    "solver/auditeur.h Auditeur",        // who follows a run as it goes
     "solver/auto_driver.h PlateauAuto",  // the board, as JeuAuto sees it: message, Affiche
     "solver/travail.h Travail",          // two ways to search one grid
     "storage/game_file.h DialogueFichier",
