@@ -18,6 +18,7 @@ constexpr std::string_view kAide = R"(sudoku-lot : résout, explique et vérifie
 
   sudoku-lot resoudre  [--symboles S] [--deduction] [--processus J] [FICHIER…]
   sudoku-lot expliquer [--symboles S] [--passes 1|2] [--texte] [FICHIER…]
+  sudoku-lot demontrer [--symboles S] [--supposer] [--format texte|json|html] [--processus J] [FICHIER…]
   sudoku-lot verifier  [--symboles S] [--processus J] [FICHIER…]
   sudoku-lot importer  [--symboles S] [FICHIER] > PARTIE.sud
   sudoku-lot exporter  PARTIE.sud
@@ -28,6 +29,8 @@ ignoré, comme les lignes vides et celles qui commencent par « # ».
 
 resoudre   la grille, le résultat, les suppositions, celles réfutées, les retours arrière, le message
 expliquer  tout ce qui est déduit de chaque case et pourquoi, en JSON
+demontrer  tout le chemin jusqu'à la solution : chaque étape avec ses raisons, chaque supposition, chaque
+           réfutation ; en texte, en JSON, ou comme page HTML à lire et à imprimer
 verifier   compte les solutions à sa manière et, s'il n'y en a qu'une, lui confronte tout ce qui est déduit :
            la grille, les solutions (2 : plusieurs), les évaluations, les retraits vérifiés, les contradictions
 importer   fait un fichier de jeu d'une grille écrite de toute manière usuelle, cadres compris
@@ -35,6 +38,8 @@ exporter   écrit la grille d'un fichier de jeu et ses parties, chacune avec son
 
   --symboles S   les symboles de la grille, un par valeur (123456789)
   --deduction    ne rien supposer
+  --supposer     supposer là où la déduction s'arrête
+  --format F     texte, json ou html (texte)
   --processus J  travailler sur J grilles à la fois ; 0 : une par processeur (1)
   --passes P     1 : sans compter les saisies non prouvées ; 2 : en les comptant au besoin (2)
   --texte        expliquer en texte au lieu de JSON
@@ -69,6 +74,13 @@ Texte Symboles(const std::string& mot) {
   return *symboles;
 }
 
+Format FormatDe(const std::string& mot) {
+  if (mot == "texte") return Format::kTexte;
+  if (mot == "json") return Format::kJson;
+  if (mot == "html") return Format::kHtml;
+  throw AppelIncorrect{"--format : « " + mot + " » n'est ni texte, ni json, ni html"};
+}
+
 int Processus(int demandes) {
   return demandes > 0 ? demandes : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
 }
@@ -80,6 +92,7 @@ struct Commande {
 };
 constexpr Commande kCommandes[] = {{"resoudre", "--symboles --processus --deduction"},
                                    {"expliquer", "--symboles --passes --texte"},
+                                   {"demontrer", "--symboles --processus --supposer --format"},
                                    {"verifier", "--symboles --processus"},
                                    {"importer", "--symboles", true},
                                    {"exporter", "", true}};
@@ -94,7 +107,9 @@ constexpr option kOptions[] = {{"symboles", required_argument, nullptr, 0},
                                {"processus", required_argument, nullptr, 0},
                                {"passes", required_argument, nullptr, 0},
                                {"deduction", no_argument, nullptr, 0},
-                               {"texte", no_argument, nullptr, 0}};
+                               {"texte", no_argument, nullptr, 0},
+                               {"supposer", no_argument, nullptr, 0},
+                               {"format", required_argument, nullptr, 0}};
 
 // The words of a call: options with their values, of an option given twice the last, and what is no option.
 struct Mots {
@@ -157,6 +172,7 @@ Appel Lis(const std::vector<std::string>& mots) {
   appel.commande = commande.nom;
   appel.deduction = donnee("--deduction");
   appel.texte = donnee("--texte");
+  appel.supposer = donnee("--supposer");
   if (donnee("--symboles")) appel.symboles = Symboles(tries.options["--symboles"]);
   if (commande.fichierDeJeu && Contient(appel.symboles, U"\n")) {
     throw AppelIncorrect{
@@ -166,6 +182,7 @@ Appel Lis(const std::vector<std::string>& mots) {
     appel.processus = Processus(Entier(tries.options["--processus"], "--processus", 0, kProcessusMax));
   }
   if (donnee("--passes")) appel.passes = Entier(tries.options["--passes"], "--passes", 1, 2);
+  if (donnee("--format")) appel.format = FormatDe(tries.options["--format"]);
   if (!tries.inconnue.empty()) throw AppelIncorrect{"option inconnue : " + tries.inconnue};
   appel.fichiers = std::move(tries.fichiers);
   if (appel.fichiers.empty()) appel.fichiers.emplace_back("-");

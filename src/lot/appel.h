@@ -8,6 +8,8 @@
 
 namespace sudoku::lot {
 
+enum class Format { kTexte, kJson, kHtml };
+
 // What one call of sudoku-lot asks for.
 struct Appel {
   std::string commande;
@@ -16,6 +18,8 @@ struct Appel {
   int passes = 2;     // 1 or 2
   bool deduction = false;
   bool texte = false;
+  bool supposer = false;
+  Format format = Format::kTexte;
   std::vector<std::string> fichiers;  // "-" is standard input; never empty
 };
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "lot/grille.h"
 #include "lot/lignes.h"
 #include "lot/progres.h"
 #include "lot/sortie.h"
@@ -13,12 +14,40 @@ namespace {
 constexpr int kIllisible = 1;
 constexpr int kAlerte = 3;
 
+// Numbers the good lines.
+class Numeroteur {
+ public:
+  explicit Numeroteur(const Appel& appel) : lecteur_(jeu_, appel.symboles) {}
+  std::int64_t Rang(std::string_view champ) { return lecteur_.Lis(champ) ? 0 : ++bonnes_; }
+
+ private:
+  GameState jeu_;
+  LecteurGrille lecteur_;
+  std::int64_t bonnes_ = 0;
+};
+
 class Deroulement {
  public:
   explicit Deroulement(const Appel& appel) : appel_(appel), progres_(TailleDesFichiers(appel.fichiers)) {}
 
+  void Compte() { numeroteur_.emplace(appel_); }
+  void Ecris(std::string_view texte) { sortie_.Ecris(texte); }
+  void Travaille(const Atelier& atelier) {
+    if (appel_.processus > 1) {
+      Ensemble(atelier);
+    } else {
+      Seul(*atelier());
+    }
+  }
+  int Statut() const { return alerte_ ? kAlerte : illisible_ ? kIllisible : 0; }
+
+ private:
   void Seul(Ouvrier& ouvrier) {
     Poste poste;
+    poste.reponse.coule = [this](Reponse& reponse) {
+      Coule(reponse.sortie);
+      reponse.sortie.clear();
+    };
     Parcours([&]() -> Poste& { return poste; },
              [&] {
                poste.Occupe(ouvrier);
@@ -26,12 +55,12 @@ class Deroulement {
              });
   }
   void Ensemble(const Atelier& atelier) {
-    Equipe equipe(appel_.processus, atelier, [this](const Poste& poste) { Livre(poste); });
+    Equipe equipe(
+        appel_.processus, atelier, [this](const Poste& poste) { Livre(poste); },
+        [this](std::string_view texte) { Coule(texte); });
     Parcours([&]() -> Poste& { return equipe.Prochain(); }, [&] { equipe.Confie(); });
   }
-  int Statut() const { return alerte_ ? kAlerte : illisible_ ? kIllisible : 0; }
 
- private:
   // Fills the place that `prochain` gives with each line and hands it over to `confie`.
   template <class Prochain, class Confie>
   void Parcours(Prochain prochain, Confie confie) {
@@ -49,6 +78,7 @@ class Deroulement {
         poste.fichier = &fichier;
         poste.numero = ligne->numero;
         poste.lus = lignes.Octets();
+        if (numeroteur_) poste.reponse.rang = numeroteur_->Rang(ligne->champ);
         confie();
       }
       if (!erreur) erreur = lignes.Erreur();
@@ -73,7 +103,11 @@ class Deroulement {
       return;
     }
     if (!poste.reponse.alerte.empty()) signale(poste.reponse.alerte, kAlerte);
-    sortie_.Ecris(poste.reponse.sortie);
+    Coule(poste.reponse.sortie);
+  }
+
+  void Coule(std::string_view texte) {
+    sortie_.Ecris(texte);
     if (lecteurAttend_) sortie_.Pousse();
   }
 
@@ -88,6 +122,7 @@ class Deroulement {
   std::atomic<bool> illisible_{false};
   std::atomic<bool> alerte_{false};
   std::atomic<bool> lecteurAttend_{false};  // for more to read: who finishes a grid shows it at once
+  std::optional<Numeroteur> numeroteur_;
   Progres progres_;
   Sortie sortie_;
 };
@@ -96,11 +131,16 @@ class Deroulement {
 
 int Deroule(const Appel& appel, const Atelier& atelier) {
   Deroulement deroulement(appel);
-  if (appel.processus > 1) {
-    deroulement.Ensemble(atelier);
-  } else {
-    deroulement.Seul(*atelier());
-  }
+  deroulement.Travaille(atelier);
+  return deroulement.Statut();
+}
+
+int DeroulePage(const Appel& appel, const Atelier& atelier, std::string_view avant, std::string_view apres) {
+  Deroulement deroulement(appel);
+  deroulement.Compte();
+  deroulement.Ecris(avant);
+  deroulement.Travaille(atelier);
+  deroulement.Ecris(apres);
   return deroulement.Statut();
 }
 

@@ -10,4 +10,7 @@ namespace sudoku::lot {
 // over. Result: the exit status, 0 or, if there were any, 1.
 int Deroule(const Appel& appel, const Atelier& atelier);
 
+// The same with the good lines counted (Reponse::rang), and with what stands before and behind all answers.
+int DeroulePage(const Appel& appel, const Atelier& atelier, std::string_view avant, std::string_view apres);
+
 }  // namespace sudoku::lot

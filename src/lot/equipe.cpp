@@ -8,12 +8,16 @@ namespace sudoku::lot {
 namespace {
 
 constexpr std::size_t kPostesParOuvrier = 64;
-constexpr std::size_t kPriseMax = 16;  // lines that a worker takes at once
+constexpr std::size_t kPriseMax = 16;                   // lines that a worker takes at once
+constexpr std::size_t kRetenue = std::size_t{1} << 20;  // of an answer whose turn hasn't come
 
 }  // namespace
 
-Equipe::Equipe(int ouvriers, const Atelier& atelier, std::function<void(const Poste&)> livre)
-    : livre_(std::move(livre)), postes_(kPostesParOuvrier * static_cast<std::size_t>(ouvriers)) {
+Equipe::Equipe(int ouvriers, const Atelier& atelier, std::function<void(const Poste&)> livre,
+               std::function<void(std::string_view)> coule)
+    : livre_(std::move(livre)),
+      coule_(std::move(coule)),
+      postes_(kPostesParOuvrier * static_cast<std::size_t>(ouvriers)) {
   for (int i = 0; i < ouvriers; ++i) {
     ouvriers_.push_back(atelier());
     try {
@@ -68,12 +72,22 @@ void Equipe::Travaille(Ouvrier& ouvrier) {
     verrou.unlock();
     for (std::size_t i = premier; i < dernier; ++i) {
       Poste& poste = Place(i);
+      poste.reponse.coule = [this, i](Reponse& reponse) { Coule(i, reponse); };
       poste.Occupe(ouvrier);
       poste.fini = true;
       Livre();
     }
     verrou.lock();
   }
+}
+
+// An answer may grow beyond all bounds, and waits for its turn before it does. Every worker takes its lines
+// in order, so that the one whose turn it is never waits.
+void Equipe::Coule(std::size_t numero, Reponse& reponse) {
+  if (livres_ != numero && reponse.sortie.size() < kRetenue) return;
+  for (std::size_t livres = livres_; livres != numero; livres = livres_) livres_.wait(livres);
+  coule_(reponse.sortie);
+  reponse.sortie.clear();
 }
 
 // Delivers the finished lines that are next in order. Whoever finds another one at it leaves: that one looks
@@ -87,6 +101,7 @@ void Equipe::Livre() {
       livre_(poste);
       poste.fini = false;
       ++livres_;
+      livres_.notify_all();
     }
     if (livres_ < reveil_) continue;
     { const std::lock_guard verrou(mutex_); }  // it has made its test by now, or sleeps

@@ -19,6 +19,9 @@ struct Reponse {
   std::string sortie;
   std::string erreur;
   std::string alerte;
+  std::int64_t rang = 0;  // comes in: the line's number among the good ones, where the run counts them
+  // Comes in: gives out what `sortie` holds and empties it, once all lines before this one are out.
+  std::function<void(Reponse&)> coule;
 
   void Vide() {
     sortie.clear();
@@ -58,8 +61,10 @@ struct Poste {
 // finishes the oldest one delivers it and all finished ones behind it.
 class Equipe {
  public:
-  // A system that gives fewer threads makes it smaller.
-  Equipe(int ouvriers, const Atelier& atelier, std::function<void(const Poste&)> livre);
+  // A system that gives fewer threads makes it smaller. `coule` is given the pieces of answers that come in
+  // pieces.
+  Equipe(int ouvriers, const Atelier& atelier, std::function<void(const Poste&)> livre,
+         std::function<void(std::string_view)> coule);
   ~Equipe();  // all that went in has come out
   Equipe(const Equipe&) = delete;
   Equipe& operator=(const Equipe&) = delete;
@@ -72,10 +77,12 @@ class Equipe {
  private:
   void Travaille(Ouvrier& ouvrier);
   void Livre();
+  void Coule(std::size_t numero, Reponse& reponse);
   static constexpr std::size_t kJamais = static_cast<std::size_t>(-1);
   Poste& Place(std::size_t numero) { return postes_[numero % postes_.size()]; }
 
   std::function<void(const Poste&)> livre_;
+  std::function<void(std::string_view)> coule_;
   std::vector<Poste> postes_;
   std::mutex mutex_;
   std::condition_variable aFaire_;

@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "lot/appel.h"
+#include "lot/demontrer.h"
 #include "lot/deroule.h"
 #include "lot/expliquer.h"
 #include "lot/resoudre.h"
@@ -34,6 +35,7 @@ void SansMemoire() {
 int Fais(const Appel& appel) {
   if (appel.commande == "importer") return Importe(appel);
   if (appel.commande == "exporter") return Exporte(appel);
+  if (appel.commande == "demontrer") return Demontre(appel);
   const auto fais = appel.commande == "resoudre"    ? FaisResoudre
                     : appel.commande == "expliquer" ? FaisExpliquer
                                                     : FaisVerifier;
