@@ -133,6 +133,32 @@ std::vector<Texte> Explicateur::Phrases(int cellule) const {
   return phrases;
 }
 
+void Nomme(const Grille& VpGrille, int cellule, std::vector<UniteNommee>& unites, std::vector<int>& cases) {
+  const Bloc& bloc = VpGrille.Donnees();
+  const auto chaque = [&bloc](std::uint32_t debut, auto f) {
+    for (int n = 0; n < 64 * bloc.mots; ++n) {
+      if (((bloc.journal.mots[debut + At(n / 64)] >> (n % 64)) & 1U) != 0) f(n);
+    }
+  };
+  for (const Fait& fait : bloc.journal.faits) {
+    if (fait.cellule != cellule) continue;
+    const Argument& a = bloc.journal.arguments[fait.argument];
+    const std::uint32_t masqueB = a.masques + static_cast<std::uint32_t>(bloc.mots);
+    if (a.genre == Genre::kSeule) {
+      unites.push_back({a.type, bloc.geometrie->Unite(a.type, cellule)});
+      break;
+    }
+    if (a.genre == Genre::kFigure) {
+      chaque(a.masques, [&](int u) { unites.push_back({a.type, u + 1}); });
+      chaque(masqueB, [&](int u) { unites.push_back({a.type2, u + 1}); });
+      continue;
+    }
+    unites.push_back({a.type, a.unite});
+    chaque(a.genre == Genre::kInference ? a.masques : masqueB,
+           [&](int place) { cases.push_back(bloc.geometrie->Serie(a.type, a.unite)[At(place)]); });
+  }
+}
+
 Texte Explications(const Grille& VpGrille, int cellule) {
   Texte texte;
   for (const Texte& phrase : Phrases(VpGrille, cellule)) texte += phrase + U"\r\n";

@@ -22,6 +22,15 @@ class Explicateur {
   std::vector<Fait> faits_;
 };
 
+// A unit: its kind (0 column, 1 row, 2 block) and its number.
+struct UniteNommee {
+  int type;
+  int numero;
+};
+
+// The units and the cells that the sentences on a cell speak of, added to the two lists.
+void Nomme(const Grille& VpGrille, int cellule, std::vector<UniteNommee>& unites, std::vector<int>& cases);
+
 // The sentences on a cell as one text, each ended by CR LF: the field Explications of a cell.
 Texte Explications(const Grille& VpGrille, int cellule);
 
