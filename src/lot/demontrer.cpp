@@ -2,6 +2,7 @@
 
 #include "lot/deroule.h"
 #include "lot/grille.h"
+#include "lot/html.h"
 #include "lot/recit.h"
 #include "lot/repondeur.h"
 
@@ -9,6 +10,7 @@ namespace sudoku::lot {
 namespace {
 
 std::unique_ptr<Recit> FaisRecit(Format format) {
+  if (format == Format::kHtml) return RecitHtml();
   return format == Format::kJson ? RecitJson() : RecitTexte();
 }
 
@@ -64,8 +66,10 @@ class Demontrer : public Ouvrier, private Auditeur {
 }  // namespace
 
 int Demontre(const Appel& appel) {
+  const bool page = appel.format == Format::kHtml;
   return DeroulePage(
-      appel, [&] { return std::make_unique<Demontrer>(appel); }, "", "");
+      appel, [&] { return std::make_unique<Demontrer>(appel); }, page ? PageAvant() : "",
+      page ? PageApres() : "");
 }
 
 }  // namespace sudoku::lot

@@ -50,5 +50,7 @@ class Recit {
 
 std::unique_ptr<Recit> RecitJson();
 std::unique_ptr<Recit> RecitTexte();
+// A page, between PageAvant and PageApres (html.h); a grid is written when it ends.
+std::unique_ptr<Recit> RecitHtml();
 
 }  // namespace sudoku::lot
