@@ -1,6 +1,7 @@
 #include "lot/verifier.h"
 
 #include "lot/grille.h"
+#include "lot/route.h"
 #include "lot/solutions.h"
 #include "lot/temoin.h"
 #include "solver/auto_driver.h"
@@ -30,12 +31,15 @@ class Verifier : public Ouvrier {
   int Rejoue(Temoin& temoin);
   bool Remplis();
   bool ResoutJuste();
+  bool RouteJuste();
   bool SaisiesJustes() const;
 
   GameState jeu_;
   Evaluateur moteur_{jeu_};
   SansPlateau plateau_;
   AutoDriver driver_{jeu_, moteur_, plateau_};
+  Route route_;
+  AutoDriver conteur_{jeu_, moteur_, plateau_, Lecture::kContenus, &route_};
   LecteurGrille lecteur_;
   CompteurSolutions compteur_;
 };
@@ -55,10 +59,17 @@ void Verifier::Traite(std::string_view champ, Reponse& reponse) {
     evaluations = Rejoue(temoin);
     lecteur_.Lis(champ);
     const bool resolue = !justes || ResoutJuste();
+    lecteur_.Lis(champ);
+    const bool menee = !justes || RouteJuste();
     retraits = temoin.Retraits();
-    contradictions = temoin.Contradictions() + (resolue ? 0 : 1);
-    if (contradictions > 0)
-      reponse.alerte = resolue ? temoin.Premiere() : "le résultat n'est pas la solution";
+    contradictions = temoin.Contradictions() + (resolue ? 0 : 1) + (menee ? 0 : 1);
+    if (!resolue) {
+      reponse.alerte = "le résultat n'est pas la solution";
+    } else if (!menee) {
+      reponse.alerte = "le chemin ne mène pas à la solution";
+    } else if (contradictions > 0) {
+      reponse.alerte = temoin.Premiere();
+    }
   }
   reponse.sortie += champ;
   for (const std::int64_t n :
@@ -131,6 +142,18 @@ bool Verifier::ResoutJuste() {
     if (PositionSaisie(i) != compteur_.Solution()[At(i)]) return false;
   }
   return true;
+}
+
+// The road there, told: what rests on no supposition and what is refuted agree with the solution, and the
+// levels left open lead to it.
+bool Verifier::RouteJuste() {
+  route_.Commence(jeu_.VmGrille, compteur_.Solution());
+  jeu_.VgEtat = kJeu;
+  conteur_.JeuAuto(true, true);
+  for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
+    if (PositionSaisie(i) != compteur_.Solution()[At(i)]) return false;
+  }
+  return route_.Juste() && route_.Mene(jeu_.VmGrille);
 }
 
 }  // namespace
