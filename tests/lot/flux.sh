@@ -50,8 +50,11 @@ longue() { head -c 40000000 /dev/zero | tr '\0' "$1"; }
 # A reader that goes away ends the run without a word, whether or not the signal of it is ignored.
 for signal in defaut ignore; do
   (
+    : > "$dossier/rompu"
     [ $signal = ignore ] && trap '' PIPE
-    yes $grille 2> /dev/null | "$lot" resoudre --symboles 1234 2> "$dossier/rompu" | head -n 1 > /dev/null
+    for commande in resoudre "demontrer --format html"; do
+      yes $grille 2> /dev/null | "$lot" $commande --symboles 1234 2>> "$dossier/rompu" | head -n 1 > /dev/null
+    done
   )
   [ -s "$dossier/rompu" ] && dit "closed pipe, signal $signal: $(cat "$dossier/rompu")"
 done
