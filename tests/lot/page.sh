@@ -28,6 +28,8 @@ essai 'class="p"' --supposer --symboles 1234 < "${0%/*}/demontrer-4-supposer.in"
 essai 'id="g2-fin"' --symboles 1234 --processus 3 < <(printf '%s\n' 12..34.......... non 1234............)
 [[ $(cat "$dossier/err") == '-:2: 3 caractère(s)'* ]] || dit "message: $(cat "$dossier/err")"
 essai '</html>' < /dev/null
+essai 'supposons' --supposer < <(tail -n 1 "$exemples/grilles-9.txt")
+cmp "$page" "$exemples/chemin.html" || dit "the example isn't what the program makes"
 # A player's game.
 essai 'id="g4-fin"' --supposer < <("$lot" exporter "$exemples/bibliotheque.sud")
 exit $echec
