@@ -7,40 +7,7 @@
 namespace sudoku::lot {
 namespace {
 
-bool HorsPage(char32_t c) {
-  return (c >= 0x80 && c < 0xA0) || (c & 0xFFFE) == 0xFFFE || (c >= 0xFDD0 && c <= 0xFDEF);
-}
-
-}  // namespace
-
-std::string Html(std::string_view utf8) {
-  std::string html;
-  for (const char32_t c : DepuisUtf8(utf8)) {
-    if (c == U'&') {
-      html += "&amp;";
-    } else if (c == U'<') {
-      html += "&lt;";
-    } else if (c == U'>') {
-      html += "&gt;";
-    } else if (c == U'"') {
-      html += "&quot;";
-    } else if (c == U'\'') {
-      html += "&#39;";
-    } else if (HorsPage(c)) {
-      char code[16];
-      std::snprintf(code, sizeof code, "U+%04X", static_cast<unsigned>(c));
-      html += code;
-    } else {
-      // Unicode has a picture for each control character of ASCII.
-      const char32_t signe = c < 0x20 ? 0x2400 + c : c == 0x7F ? U'\u2421' : c;
-      html += VersUtf8(TexteVue(&signe, 1));
-    }
-  }
-  return html;
-}
-
-std::string_view PageAvant() {
-  return R"page(<!DOCTYPE html>
+constexpr std::string_view kPageAvant = R"page(<!DOCTYPE html>
 <html lang="fr">
 <head>
 <meta charset="utf-8"/>
@@ -101,6 +68,41 @@ a{color:inherit;text-decoration:none}
 <span style="background:var(--donnee)">&#160;</span>Données. <i style="color:var(--bleu)">En bleu penché</i>, ce qui n'est pas
 prouvé.</p>
 )page";
+
+bool HorsPage(char32_t c) {
+  return (c >= 0x80 && c < 0xA0) || (c & 0xFFFE) == 0xFFFE || (c >= 0xFDD0 && c <= 0xFDEF);
+}
+
+}  // namespace
+
+std::string Html(std::string_view utf8) {
+  std::string html;
+  for (const char32_t c : DepuisUtf8(utf8)) {
+    if (c == U'&') {
+      html += "&amp;";
+    } else if (c == U'<') {
+      html += "&lt;";
+    } else if (c == U'>') {
+      html += "&gt;";
+    } else if (c == U'"') {
+      html += "&quot;";
+    } else if (c == U'\'') {
+      html += "&#39;";
+    } else if (HorsPage(c)) {
+      char code[16];
+      std::snprintf(code, sizeof code, "U+%04X", static_cast<unsigned>(c));
+      html += code;
+    } else {
+      // Unicode has a picture for each control character of ASCII.
+      const char32_t signe = c < 0x20 ? 0x2400 + c : c == 0x7F ? U'\u2421' : c;
+      html += VersUtf8(TexteVue(&signe, 1));
+    }
+  }
+  return html;
+}
+
+std::string_view PageAvant() {
+  return kPageAvant;
 }
 
 std::string_view PageApres() {

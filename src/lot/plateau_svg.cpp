@@ -25,7 +25,9 @@ void Lignes(int n, int pas, char classe, std::string& s) {
   const std::string fin = Nombre(n * kCote);
   for (int i = 0; i <= n; i += pas) {
     const std::string lieu = Nombre(i * kCote);
-    s += "M0 " + lieu + "H" + fin + "M" + lieu + " 0V" + fin;
+    ((s += "M0 ") += lieu) += 'H';
+    ((s += fin) += 'M') += lieu;
+    (s += " 0V") += fin;
   }
   s += "\"/>";
 }
