@@ -1,13 +1,14 @@
 #include "qt/palette_symboles.h"
 
+#include <QCursor>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QToolButton>
+#include <algorithm>
 #include <cmath>
 
-#include "qt/editeur_case.h"
 #include "qt/mesure.h"
 #include "qt/texte_qt.h"
 
@@ -16,14 +17,27 @@ namespace {
 
 constexpr int kCote = 26;
 
-// A flat button that is marked while it would be the choice: the mouse brings it the focus.
+// A flat button that is marked while it would be the choice: a mouse that moves brings it the focus. All its
+// keys but the space bar are the palette's.
 class BoutonPalette : public QToolButton {
  public:
-  using QToolButton::QToolButton;
+  BoutonPalette(const QString& texte, PaletteSymboles& palette) : QToolButton(&palette), palette_(palette) {
+    setText(texte);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+  }
 
  protected:
-  void enterEvent(QEnterEvent*) override {
-    if (isEnabled()) setFocus();
+  void enterEvent(QEnterEvent* evenement) override {
+    palette_.Pointe(*this, evenement->globalPosition().toPoint());
+  }
+  void mouseMoveEvent(QMouseEvent* evenement) override {
+    palette_.Pointe(*this, evenement->globalPosition().toPoint());
+    QToolButton::mouseMoveEvent(evenement);
+  }
+  void keyPressEvent(QKeyEvent* evenement) override {
+    if (evenement->key() == Qt::Key_Space) return QToolButton::keyPressEvent(evenement);
+    evenement->ignore();
   }
   void paintEvent(QPaintEvent*) override {
     QPainter p(this);
@@ -34,19 +48,15 @@ class BoutonPalette : public QToolButton {
     p.setPen(palette().color(groupe, hasFocus() ? QPalette::HighlightedText : QPalette::Text));
     p.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
   }
-};
 
-QToolButton* Bouton(const QString& texte, QWidget* parent) {
-  auto* bouton = new BoutonPalette(parent);
-  bouton->setText(texte);
-  bouton->setFocusPolicy(Qt::StrongFocus);
-  return bouton;
-}
+ private:
+  PaletteSymboles& palette_;
+};
 
 }  // namespace
 
-PaletteSymboles::PaletteSymboles(const Texte& symboles, EditeurCase& editeur, QWidget* parent)
-    : QWidget(parent, Qt::Popup), editeur_(editeur) {
+PaletteSymboles::PaletteSymboles(const Texte& symboles, bool libre, const Texte& ici, QWidget* parent)
+    : QWidget(parent, Qt::Popup), symboles_(symboles), contenu_(ici) {
   setObjectName(QStringLiteral("PaletteSymboles"));
   setAttribute(Qt::WA_DeleteOnClose);
   setFont(PoliceQt({}));
@@ -56,48 +66,47 @@ PaletteSymboles::PaletteSymboles(const Texte& symboles, EditeurCase& editeur, QW
   auto* grille = new QGridLayout;
   grille->setSpacing(0);
   grille->setAlignment(Qt::AlignHCenter);
-  AjouteSymboles(grille, symboles);
+  AjouteSymboles(grille, libre);
   pile->addLayout(grille);
-  auto* commandes = new QHBoxLayout;
-  commandes->setSpacing(2);
-  const bool libre = !editeur.isReadOnly();
-  AjouteCommande(commandes, QStringLiteral("Couper"), libre, [&editeur] { editeur.cut(); });
-  AjouteCommande(commandes, QStringLiteral("Copier"), true, [&editeur] { editeur.copy(); });
-  AjouteCommande(commandes, QStringLiteral("Coller"), libre, [&editeur] { editeur.paste(); });
-  pile->addLayout(commandes);
 }
 
-void PaletteSymboles::AjouteSymboles(QGridLayout* grille, const Texte& symboles) {
-  colonnes_ = std::max(1, static_cast<int>(std::lround(std::sqrt(static_cast<double>(symboles.size())))));
-  for (const char32_t symbole : symboles) {
-    const Texte texte(1, symbole);
-    QToolButton* bouton = Bouton(VersQt(texte), this);
+void PaletteSymboles::AjouteSymboles(QGridLayout* grille, bool libre) {
+  const double cote = std::sqrt(static_cast<double>(symboles_.size()));
+  const std::size_t colonnes = std::max<std::size_t>(1, static_cast<std::size_t>(std::lround(cote)));
+  for (std::size_t n = 0; n < symboles_.size(); ++n) {
+    const Texte texte(1, symboles_[n]);
+    auto* bouton = new BoutonPalette(VersQt(texte), *this);
     bouton->setFont(PoliceQt({.Gras = true}));
     bouton->setFixedSize(kCote, kCote);
-    bouton->setEnabled(!editeur_.isReadOnly());
+    bouton->setEnabled(libre);
     connect(bouton, &QToolButton::clicked, this, [this, texte] {
       const auto choisi = Choisi;
       close();
       choisi(texte);
     });
-    const int n = static_cast<int>(boutons_.size());
-    grille->addWidget(bouton, n / colonnes_, n % colonnes_);
-    boutons_.push_back(bouton);
+    grille->addWidget(bouton, static_cast<int>(n / colonnes), static_cast<int>(n % colonnes));
+    if (n % colonnes == 0) rangees_.emplace_back();
+    rangees_.back().push_back(bouton);
   }
 }
 
-void PaletteSymboles::AjouteCommande(QLayout* rangee, const QString& texte, bool permise,
-                                     const std::function<void()>& acte) {
-  QToolButton* bouton = Bouton(texte, this);
-  bouton->setEnabled(permise);
-  bouton->setFixedSize(bouton->fontMetrics().horizontalAdvance(texte) + 14, kCote);
-  connect(bouton, &QToolButton::clicked, this, [this, acte] {
-    const auto aFaire = acte;
-    close();
-    aFaire();
-  });
-  rangee->addWidget(bouton);
-  boutons_.push_back(bouton);
+void PaletteSymboles::Ajoute(const std::vector<Commande>& commandes) {
+  auto* rangee = new QHBoxLayout;
+  rangee->setSpacing(2);
+  rangees_.emplace_back();
+  for (const Commande& commande : commandes) {
+    auto* bouton = new BoutonPalette(commande.texte, *this);
+    bouton->setEnabled(commande.permise);
+    bouton->setFixedSize(bouton->fontMetrics().horizontalAdvance(commande.texte) + 14, kCote);
+    connect(bouton, &QToolButton::clicked, this, [this, acte = commande.acte] {
+      const auto aFaire = acte;
+      close();
+      aFaire();
+    });
+    rangee->addWidget(bouton);
+    rangees_.back().push_back(bouton);
+  }
+  static_cast<QVBoxLayout*>(layout())->addLayout(rangee);
 }
 
 void PaletteSymboles::paintEvent(QPaintEvent*) {
@@ -114,54 +123,94 @@ void PaletteSymboles::Montre(const QRect& boite) {
   coin.setX(std::clamp(coin.x(), ecran.left(), std::max(ecran.left(), ecran.right() - width())));
   coin.setY(std::clamp(coin.y(), ecran.top(), std::max(ecran.top(), ecran.bottom() - height())));
   move(coin);
+  pointeur_ = QCursor::pos();
   show();
-  for (QWidget* bouton : boutons_) {
-    if (!bouton->isEnabled()) continue;
-    bouton->setFocus(Qt::TabFocusReason);
-    break;
+  // The symbol that stands there, otherwise the first that can be chosen.
+  const std::size_t place = contenu_.size() == 1 ? symboles_.find(contenu_[0]) : Texte::npos;
+  QWidget* premier = nullptr;
+  std::size_t n = 0;
+  for (const auto& rangee : rangees_) {
+    for (QWidget* bouton : rangee) {
+      if (bouton->isEnabled() && (premier == nullptr || n == place)) premier = bouton;
+      ++n;
+    }
+  }
+  if (premier != nullptr) premier->setFocus(Qt::TabFocusReason);
+}
+
+void PaletteSymboles::Pointe(QWidget& bouton, QPoint ou) {
+  if (ou == pointeur_ || !bouton.isEnabled()) return;
+  pointeur_ = ou;
+  bouton.setFocus();
+}
+
+std::pair<std::size_t, std::size_t> PaletteSymboles::Ici() const {
+  for (std::size_t y = 0; y < rangees_.size(); ++y) {
+    const auto place = std::ranges::find(rangees_[y], focusWidget());
+    if (place != rangees_[y].end()) return {y, static_cast<std::size_t>(place - rangees_[y].begin())};
+  }
+  return {};
+}
+
+// Round the square, over what can't be chosen.
+void PaletteSymboles::Deplace(int colonnes, int lignes) {
+  const auto tourne = [](std::size_t ici, int pas, std::size_t nombre) {
+    return (ici + nombre + static_cast<std::size_t>(pas + 1) - 1) % nombre;
+  };
+  auto [y, x] = Ici();
+  for (std::size_t essai = 0; essai < rangees_.size(); ++essai) {
+    y = tourne(y, lignes, rangees_.size());
+    const std::size_t largeur = rangees_[y].size();
+    x = tourne(std::min(x, largeur - 1), colonnes, largeur);
+    for (std::size_t n = 0; n < largeur; ++n) {
+      if (rangees_[y][x]->isEnabled()) return rangees_[y][x]->setFocus(Qt::TabFocusReason);
+      x = tourne(x, colonnes != 0 ? colonnes : 1, largeur);
+    }
   }
 }
 
-void PaletteSymboles::Deplace(int colonnes, int lignes) {
-  const int symboles = static_cast<int>(boutons_.size()) - 3;
-  int ici = 0;
-  for (int n = 0; n < static_cast<int>(boutons_.size()); ++n) {
-    if (boutons_[static_cast<std::size_t>(n)]->hasFocus()) ici = n;
-  }
-  // The commands are one more row, of three.
-  int la = ici + colonnes;
-  if (lignes > 0)
-    la = ici < symboles ? std::min(ici + colonnes_, symboles + std::min(ici % colonnes_, 2)) : ici;
-  if (lignes < 0)
-    la = ici < symboles ? ici - colonnes_ : symboles - colonnes_ + std::min(ici - symboles, colonnes_ - 1);
-  if (la < 0 || la >= static_cast<int>(boutons_.size())) return;
-  QWidget* bouton = boutons_[static_cast<std::size_t>(la)];
+void PaletteSymboles::VaAuBout(bool debut) {
+  const auto& rangee = rangees_[Ici().first];
+  QWidget* bouton = debut ? rangee.front() : rangee.back();
   if (bouton->isEnabled()) bouton->setFocus(Qt::TabFocusReason);
+}
+
+// The symbol as it is typed, or as it is written in the other case.
+bool PaletteSymboles::ChoisitTape(const QString& texte) {
+  const Texte tape = DepuisQt(texte);
+  if (tape.size() != 1) return false;
+  std::size_t n = symboles_.find(tape[0]);
+  for (std::size_t m = 0; m < symboles_.size() && n == Texte::npos; ++m) {
+    if (Minuscule(symboles_[m]) == Minuscule(tape[0])) n = m;
+  }
+  if (n == Texte::npos) return false;
+  const std::size_t colonnes = rangees_.front().size();
+  static_cast<QToolButton*>(rangees_[n / colonnes][n % colonnes])->click();
+  return true;
 }
 
 void PaletteSymboles::keyPressEvent(QKeyEvent* evenement) {
   switch (evenement->key()) {
     case Qt::Key_Left:
-      Deplace(-1, 0);
-      break;
+      return Deplace(-1, 0);
     case Qt::Key_Right:
-      Deplace(1, 0);
-      break;
+      return Deplace(1, 0);
     case Qt::Key_Up:
-      Deplace(0, -1);
-      break;
+      return Deplace(0, -1);
     case Qt::Key_Down:
-      Deplace(0, 1);
-      break;
+      return Deplace(0, 1);
+    case Qt::Key_Home:
+    case Qt::Key_End:
+      return VaAuBout(evenement->key() == Qt::Key_Home);
     case Qt::Key_Return:
     case Qt::Key_Enter:
       if (auto* bouton = qobject_cast<QToolButton*>(focusWidget())) bouton->click();
-      break;
+      return;
     case Qt::Key_Escape:
       close();
-      break;
+      return;
     default:
-      QWidget::keyPressEvent(evenement);
+      if (!ChoisitTape(evenement->text())) QWidget::keyPressEvent(evenement);
   }
 }
 

@@ -200,9 +200,21 @@ void PlateauQt::Tape(const Texte& texte) {
 }
 
 void PlateauQt::OuvrePalette() {
-  if (focus_ == 0 || !fenetre_.conforts.Symboles) return;
-  auto* palette = new PaletteSymboles(fenetre_.conforts.Symboles(), *editeur_, this);
+  if (!AUneCase() || !fenetre_.conforts.Symboles) return;
+  const CaseTexte& boite = fenetre_.plateau.TxtCase(focus_);
+  const Texte contenu = boite.Text;
+  const bool libre = !boite.Locked;
+  const auto copie = [contenu] { QApplication::clipboard()->setText(VersQt(contenu)); };
+  auto* palette = new PaletteSymboles(fenetre_.conforts.Symboles(), libre, contenu, this);
   palette->Choisi = [this](const Texte& symbole) { Tape(symbole); };
+  palette->Ajoute({{QStringLiteral("Couper"), libre && !contenu.empty(),
+                    [this, copie] {
+                      copie();
+                      Tape({});
+                    }},
+                   {QStringLiteral("Copier"), !contenu.empty(), copie},
+                   {QStringLiteral("Coller"), true, [this] { Colle(true); }},
+                   {QStringLiteral("Effacer"), libre && !contenu.empty(), [this] { Tape({}); }}});
   palette->Montre(
       QRect(viewport()->mapToGlobal(RectangleCase(focus_).topLeft()), RectangleCase(focus_).size()));
 }
@@ -211,8 +223,9 @@ void PlateauQt::DeposeTexte(const QString& texte) {
   Fait([&] { return fenetre_.conforts.Colle(DepuisQt(texte)); });
 }
 
-// A grid goes to the board, any other text into the box with the focus.
-void PlateauQt::Colle() {
+// A grid goes to the board, any other text into the box with the focus, in place of all that it holds or of
+// what is selected there.
+void PlateauQt::Colle(bool remplace) {
   const QString texte = QApplication::clipboard()->text();
   if (fenetre_.plateau.Cases() == 0 || fenetre_.conforts.EstGrille(DepuisQt(texte)))
     return DeposeTexte(texte);
@@ -220,7 +233,8 @@ void PlateauQt::Colle() {
     return Dit(QStringLiteral("Rien à coller : le presse-papiers ne contient pas de texte"));
   if (!AUneCase()) return;
   const Texte verrou = fenetre_.conforts.Verrou(focus_);
-  verrou.empty() ? editeur_->paste() : Dit(VersQt(verrou));
+  if (!verrou.empty()) return Dit(VersQt(verrou));
+  remplace ? Tape(DepuisQt(texte)) : editeur_->paste();
 }
 
 void PlateauQt::CopieGrille() {

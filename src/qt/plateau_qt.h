@@ -63,7 +63,7 @@ class PlateauQt : public QAbstractScrollArea {
   void BrancheEditeur();
   void OuvrePalette();
   void CopieGrille();
-  void Colle();
+  void Colle(bool remplace);
   void Tape(const Texte& texte);
   // An act of the user; where nothing was done, a tool tip that goes away says why.
   void Fait(const std::function<Texte()>& acte);

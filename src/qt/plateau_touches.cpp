@@ -32,7 +32,7 @@ bool PlateauQt::ToucheDeConfort(const QKeyEvent& evenement) {
     return true;
   }
   if (evenement.matches(QKeySequence::Paste)) {
-    Colle();
+    Colle(false);
     return true;
   }
   if (!(evenement.modifiers() & Qt::ControlModifier)) return false;

@@ -243,11 +243,22 @@ TEST_F(UnPlateau, LaPaletteDonneTousLesSymboles) {
   ASSERT_NE(palette, nullptr);
   QStringList textes;
   for (const QToolButton* bouton : palette->findChildren<QToolButton*>()) textes << bouton->text();
-  EXPECT_EQ(textes.join(u' '), QStringLiteral("♠ ♥ ♦ ♣ Couper Copier Coller"));
+  EXPECT_EQ(textes.join(u' '), QStringLiteral("♠ ♥ ♦ ♣ Couper Copier Coller Effacer"));
   QTest::keyClick(palette, Qt::Key_Right);
   QTest::keyClick(palette, Qt::Key_Down);
   QTest::keyClick(palette, Qt::Key_Return);
   EXPECT_EQ(changements, (Liste{{3, U"♣"}}));
+  const auto choisit = [&](const QList<Qt::Key>& touches) {
+    j.Touche(Qt::Key_Space, Qt::ControlModifier);
+    for (const Qt::Key touche : touches) j.Touche(touche);
+  };
+  choisit({Qt::Key_Down, Qt::Key_Return});  // from the symbol that stands there to Copier below it
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("♣"));
+  choisit({Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return});
+  EXPECT_EQ(changements.back(), std::pair(3, Texte())) << "Effacer";
+  choisit({Qt::Key_Up, Qt::Key_Return});
+  EXPECT_EQ(changements.back(), std::pair(3, Texte(U"♣"))) << "Coller, for what is empty can't be copied";
+  changements.resize(1);
   j.Touche(Qt::Key_Space, Qt::ControlModifier);
   ASSERT_NE(QApplication::activePopupWidget(), nullptr);
   QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
