@@ -18,6 +18,19 @@ constexpr std::string_view kCapture = "--capture";
 constexpr const char* kUsage =
     "Usage : sudoku [FICHIER.sud]\n        sudoku --capture IMAGE.png|.svg|.pdf [FICHIER.sud]\n";
 
+constexpr const char* kAide =
+    "Usage : sudoku [FICHIER.sud]\n"
+    "        sudoku --capture IMAGE.png|.svg|.pdf [FICHIER.sud]\n"
+    "\n"
+    "Joue et résout des grilles de Sudoku de toutes tailles.\n"
+    "\n"
+    "  --capture IMAGE   dessine la grille dans IMAGE et s'arrête\n"
+    "  --help            écrit cette aide et s'arrête\n"
+    "  --version         écrit la version et s'arrête\n"
+    "\n"
+    "Les touches du jeu : F1 dans la fenêtre. Tout le reste se lit dans man sudoku.\n";
+constexpr const char* kVersion = "sudoku " SUDOKU_VERSION "\n";
+
 std::optional<Appel> Refuse(const std::string& raison) {
   std::fputs(("sudoku : " + Montrable(raison) + "\n" + kUsage).c_str(), stderr);
   return std::nullopt;
@@ -40,6 +53,9 @@ std::optional<Appel> LisAppel(int argc, const char* const* argv) {
     return mot;
   };
   Appel appel;
+  if (mots.size() == 1 && std::string_view("--help") == mots.front()) appel.reponse = kAide;
+  if (mots.size() == 1 && std::string_view("--version") == mots.front()) appel.reponse = kVersion;
+  if (appel.reponse != nullptr) return appel;
   if (!mots.empty() && mots.front() == kCapture) {
     passe();
     if (mots.empty()) return Refuse("il manque l'image");

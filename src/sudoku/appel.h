@@ -8,6 +8,7 @@ namespace sudoku {
 struct Appel {
   const char* image = nullptr;    // to be drawn; null: the game is to be played
   const char* fichier = nullptr;  // the game file
+  const char* reponse = nullptr;  // to be printed, and nothing else to be done: --help, --version
 };
 
 // Reads the words of the call, and touches no file. Nothing where it is wrong, which has been said on

@@ -24,6 +24,8 @@ essai() {
   printf 'sudoku'; printf ' %q' "$@"; printf '\n  status %s instead of %s, “%s” expected in:\n%s\n' $rendu "$statut" "$tenu" "$dit"
   ls; echec=1
 }
+essai 0 'Usage : sudoku' --help
+essai 0 'sudoku 1.' --version
 essai 2 "il manque l'image" --capture
 essai 2 'jeu.sud : le nom d'"'"'une image finit par .png, .svg ou .pdf' --capture jeu.sud
 essai 2 'jeu.sud : le nom' --capture jeu.sud jeu.sud
