@@ -136,6 +136,9 @@ class ChampListeElement : public ElementQt {
     liste_->Montre();
     const QString texte = VersQt(element_.Text);
     if (champ_->text() != texte) champ_->setText(texte);
+    if (choisi_ == element_.ListIndex) return;
+    choisi_ = element_.ListIndex;
+    if (choisi_ >= 0) champ_->selectAll();  // what is typed next replaces the choice
   }
   void Taille(double echelle) override {
     champ_->setFont(PoliceQt(element_.police, echelle));
@@ -144,6 +147,7 @@ class ChampListeElement : public ElementQt {
 
   ListeQt* liste_;
   ChampDeListe* champ_;
+  int choisi_ = -1;
 };
 
 }  // namespace
