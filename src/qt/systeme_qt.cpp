@@ -70,6 +70,10 @@ void SystemeQt::FinDeHandler() {
   for (const Connue& connue : fenetres_) {
     if (connue.qt) connue.qt->RattrapeTics();
   }
+  RattrapeFermeture();
+}
+
+void SystemeQt::RattrapeFermeture() {
   if (!fermetureDemandee_) return;
   fermetureDemandee_ = false;
   QTimer::singleShot(0, qApp, [this] { DemandeFermeture(); });
@@ -90,11 +94,14 @@ void SystemeQt::SynchroniseTout() {
 }
 
 void SystemeQt::DemandeFermeture() {
-  if (Occupe()) {
+  if (fermetureEnCours_ || fenetres_.empty() || !fenetres_.front().qt) return;
+  if (Occupe() && QApplication::activeModalWidget() == nullptr) {
     fermetureDemandee_ = true;
-  } else if (!fenetres_.empty() && fenetres_.front().qt) {
-    fenetres_.front().qt->close();
+    return;
   }
+  fermetureEnCours_ = true;
+  fenetres_.front().qt->close();
+  fermetureEnCours_ = false;
 }
 
 FenetreQt* SystemeQt::FenetreDe(const Fenetre& fenetre) {
@@ -110,6 +117,7 @@ FenetreQt* SystemeQt::FenetreDe(const Fenetre& fenetre) {
 // ---- boxes
 
 QWidget* SystemeQt::Devant() const {
+  if (QWidget* boite = QApplication::activeModalWidget()) return boite;
   if (!modales_.empty()) return modales_.back();
   return fenetres_.empty() ? nullptr : fenetres_.front().qt.get();
 }
@@ -138,6 +146,7 @@ void SystemeQt::AttendsPremiere() {
 
 PlaceDeBoite SystemeQt::Place(TexteVue titre) {
   SynchroniseTout();
+  RattrapeFermeture();
   AttendsPremiere();
   // A box without a title of its own bears the program's.
   if (titre.empty() && !fenetres_.empty()) titre = fenetres_.front().fenetre->Caption;
@@ -167,6 +176,7 @@ void SystemeQt::Fichier(DemandeFichier& demande) {
 void SystemeQt::MontreModale(Fenetre& fenetre) {
   const SansAttente sans;
   SynchroniseTout();
+  RattrapeFermeture();
   AttendsPremiere();
   QWidget* proprietaire = fenetre.proprietaire != nullptr ? FenetreDe(*fenetre.proprietaire) : nullptr;
   FenetreQt modale(fenetre, *this, proprietaire != nullptr ? proprietaire : Devant(),

@@ -40,7 +40,8 @@ class SystemeQt : public Systeme, public Pilote {
   bool Occupe() const override { return profondeur_ > 0; }
 
   // Somebody but the user's mouse wants the program to end: as if the first window's close box were clicked.
-  // Waits while a handler is on the stack.
+  // While a box or a modal window is open, the question comes above it; while a handler runs without one, it
+  // waits for the next or for the handler's end.
   void DemandeFermeture();
 
   // The window on the screen of a record; null while it hasn't been shown yet.
@@ -53,6 +54,7 @@ class SystemeQt : public Systeme, public Pilote {
   };
   void SynchroniseTout();
   void FinDeHandler();
+  void RattrapeFermeture();
   PlaceDeBoite Place(TexteVue titre);
   void AttendsPremiere();
   QWidget* Devant() const;
@@ -63,7 +65,8 @@ class SystemeQt : public Systeme, public Pilote {
   std::vector<FenetreQt*> modales_;
   int profondeur_ = 0;
   bool fermetureDemandee_ = false;
-  QTimer retard_;  // runs from a Precede until its changes are shown
+  bool fermetureEnCours_ = false;  // its question is open
+  QTimer retard_;                  // runs from a Precede until its changes are shown
   bool premiereVue_ = false;
 };
 

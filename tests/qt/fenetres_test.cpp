@@ -259,6 +259,20 @@ TEST(Fenetres, LaBoiteAProposSeFermeParEchappement) {
   EXPECT_TRUE(j.ToutEstVenu());
 }
 
+// Comes back only if the program doesn't end.
+void QuitteDessusUneBoite() {
+  JoueurQt j;
+  j.Demarre();
+  j.NouvelleGrille(QStringLiteral("1234"));
+  j.Quand("message", [&](QWidget&) { j.LeSysteme().DemandeFermeture(); });
+  j.Quand("question", [&](QWidget&) { j.Touche(Qt::Key_O); });
+  j.Jeu().Message(U"Retour arrière ! Procédure à vérifier");
+}
+
+TEST(Fenetres, UneDemandeDeFinPasseAuDessusDesBoites) {
+  EXPECT_EXIT(QuitteDessusUneBoite(), testing::ExitedWithCode(0), "");
+}
+
 // A box opened by a tick's neighbours must not be run over by the next tick.
 TEST(Fenetres, LesTicsAttendentPendantUneBoite) {
   JoueurQt j;
