@@ -1,8 +1,4 @@
-// The game on a desktop.
-//
-//   sudoku [FICHIER]                     plays, with this game file if one is named
-//   sudoku --capture IMAGE [FICHIER]     draws its window into IMAGE (.png), or its title and grid for paper
-//                                        (.svg, .pdf), and ends; needs no display
+// The game on a desktop. The calls stand in appel.h.
 
 #include <QFile>
 #include <csignal>
