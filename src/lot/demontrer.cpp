@@ -28,9 +28,8 @@ class Demontrer : public Ouvrier, private Auditeur {
     etape_ = {reponse.rang, 0, 0};
     jeu_.VgEtat = kJeu;
     recit_->Commence(reponse.rang, jeu_.VmGrille, champ, reponse.sortie);
-    repondeur_.Commence();
     driver_.JeuAuto(true, supposer_);
-    const Bilan bilan{repondeur_.Final(), repondeur_.Nombre(0), repondeur_.Nombre(1), repondeur_.Retours()};
+    const Bilan bilan{repondeur_.Final(), driver_.DerniersComptes()};
     recit_->Finit(reponse.rang, jeu_.VmGrille, bilan, reponse.sortie);
   }
 

@@ -9,7 +9,7 @@
 
 #include "grid/grille.h"
 #include "lot/appel.h"
-#include "solver/auditeur.h"
+#include "solver/auto_driver.h"
 
 namespace sudoku::lot {
 
@@ -24,9 +24,7 @@ struct Etape {
 // How a run ended.
 struct Bilan {
   std::string_view message;
-  std::string_view suppositions;
-  std::string_view refutations;
-  std::uint64_t retours = 0;
+  Comptes comptes;
 };
 
 // Writes the road from a grid to its solution in one form, appending to `s`. Of one grid: Commence, its steps

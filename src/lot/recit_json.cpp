@@ -73,9 +73,9 @@ void Objets::Finit(std::int64_t grille, const Grille& VmGrille, const Bilan& bil
   (s += ",\"fin\":\"") += bilan.message;
   s += "\",\"resultat\":\"";
   symboles_.Ecris(*alphabet_, std::span(VmGrille.Donnees().saisie).subspan(1), s);
-  (s += "\",\"suppositions\":") += bilan.suppositions;
-  (s += ",\"refutations\":") += bilan.refutations;
-  ((s += ",\"retours\":") += std::to_string(bilan.retours)) += "}\n";
+  (s += "\",\"suppositions\":") += std::to_string(bilan.comptes.faites);
+  (s += ",\"refutations\":") += std::to_string(bilan.comptes.refutees);
+  ((s += ",\"retours\":") += std::to_string(bilan.comptes.retours)) += "}\n";
 }
 
 }  // namespace

@@ -71,7 +71,7 @@ void Lignes::Remplit(const Etape& etape, const Grille& grille, int verdict,
 void Lignes::Finit(std::int64_t, const Grille& VmGrille, const Bilan& bilan, std::string& s) {
   const Bloc& bloc = VmGrille.Donnees();
   (s += bilan.message) += '\n';
-  if (bilan.retours > 0) s += "Retours arrière : " + std::to_string(bilan.retours) + "\n";
+  if (bilan.comptes.retours > 0) s += "Retours arrière : " + std::to_string(bilan.comptes.retours) + "\n";
   s += "Résultat : ";
   symboles_.Ecris(*bloc.alphabet, std::span(bloc.saisie).subspan(1), s);
   s += "\n\n";

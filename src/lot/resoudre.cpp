@@ -19,7 +19,6 @@ class Resoudre : public Ouvrier {
       return;
     }
     jeu_.VgEtat = kJeu;
-    repondeur_.Commence();
     driver_.JeuAuto(true, !deduction_);
     Ecris(champ, reponse.sortie);
   }
@@ -30,8 +29,10 @@ class Resoudre : public Ouvrier {
     ligne += champ;
     ligne += '\t';
     symboles_.Ecris(*bloc.alphabet, std::span(bloc.saisie).subspan(1), ligne);
-    for (const int n : {0, 1}) (ligne += '\t') += repondeur_.Nombre(n);
-    (ligne += '\t') += std::to_string(repondeur_.Retours());
+    const Comptes& comptes = driver_.DerniersComptes();
+    for (const std::uint64_t n : {comptes.faites, comptes.refutees, comptes.retours}) {
+      (ligne += '\t') += std::to_string(n);
+    }
     ((ligne += '\t') += repondeur_.Final()) += '\n';
   }
 

@@ -33,7 +33,12 @@ void AutoDriver::JeuAuto(bool VpReset, bool VpGuess) {
   Grille VlTravail = jeu_.VgSilence ? jeu_.VmGrilleEtat : jeu_.VmGrille;
   Travail& travail = TravailPour(VlTravail);
   travail.Commence(VlTravail);
+  comptes_ = {};
   const std::int16_t VlVerdict = Cherche(travail, VpGuess);
+  if (VlVerdict == 0) {
+    comptes_.faites = VlSupp_.Faites();
+    comptes_.refutees = VlSupp_.Refutees();
+  }
   VlTravail = travail.Rend(lecture_ == Lecture::kContenus);
   if (VlVerdict == 0) jeu_.VsResolu = true;
   if (jeu_.VgSilence) {
@@ -84,6 +89,7 @@ bool AutoDriver::GuessResult(std::int16_t VpResultat, Travail& travail) {
   while (VlSupp_.Niveaux() > 0) {
     if (Refute()) return false;
     if (lecture_ == Lecture::kTout) travail.Montre();
+    ++comptes_.retours;
     plateau_.Message(U"Retour arrière ! Procédure à vérifier");
     VlSupp_.Ferme();
   }
@@ -142,11 +148,11 @@ void AutoDriver::Rejoue(Travail& travail) {
 TexteVue AutoDriver::MessageFinal(std::int16_t VlVerdict) {
   if (VlVerdict == kInsoluble) return U"Insoluble (état initial incorrect)";
   if (VlVerdict != 0) return U"Non résolu";
-  if (VlSupp_.Faites() == 0) return U"Résolu sans supposition";
+  if (comptes_.faites == 0) return U"Résolu sans supposition";
   message_ = U"Résolu avec ";
-  Ajoute(message_, VlSupp_.Faites());
+  Ajoute(message_, comptes_.faites);
   message_ += U" supposition(s), dont ";
-  Ajoute(message_, VlSupp_.Refutees());
+  Ajoute(message_, comptes_.refutees);
   message_ += U" erreur(s)";
   return message_;
 }

@@ -27,6 +27,13 @@ enum class Lecture {
   kContenus,  // contents and Etat alone, after the run
 };
 
+// What a run did, as its final message and its boxes say.
+struct Comptes {
+  std::uint64_t faites = 0;    // suppositions, and those of them that were refuted; 0 where the final message
+  std::uint64_t refutees = 0;  // has no counts, since the grid wasn't solved
+  std::uint64_t retours = 0;   // boxes "Retour arrière"
+};
+
 // Automatic play, the one entry to the solver. Works on the live grid with messages (VgSilence False) or
 // silently on a copy, VmGrilleEtat (VgSilence True). Every run ends, whatever the grid; VgEtat is 2 after it.
 // An `auditeur` hears every turn that fills cells, in every solve pass, and every supposition and refutation;
@@ -40,6 +47,8 @@ class AutoDriver {
   // message). VpGuess: suppose symbols where deduction stops.
   void JeuAuto(bool VpReset, bool VpGuess);
 
+  // Of the run that ended last.
+  const Comptes& DerniersComptes() const { return comptes_; }
   // Turns of the search that runs, or ran last: a solve pass each, and a supposition.
   std::uint64_t Tours() const { return tours_; }
 
@@ -64,6 +73,7 @@ class AutoDriver {
   Suppositions VlSupp_;
   Essai Possible_;
   Texte message_;
+  Comptes comptes_;
   std::uint64_t tours_ = 0;
   bool rejouee_ = true;  // the last solve pass began on nothing but the base and the live suppositions
 };
