@@ -1,4 +1,5 @@
-// The game on a desktop. The calls stand in appel.h.
+// The game on a desktop: plays, with the game file that is named, or draws its window into an image and ends,
+// which needs no display.
 
 #include <QFile>
 #include <csignal>
