@@ -1,5 +1,4 @@
-// The game on a desktop: plays, with the game file that is named, or draws its window into an image and ends,
-// which needs no display.
+// The game on a desktop. The calls stand in appel.h.
 
 #include <QFile>
 #include <csignal>
