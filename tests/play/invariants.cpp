@@ -1,7 +1,5 @@
 #include "play/invariants.h"
 
-#include <utility>
-
 namespace sudoku {
 namespace {
 
@@ -49,24 +47,9 @@ std::string Invariants::EtatRompu() const {
 std::string Invariants::BoiteRompue(const Grille& grille, int i) const {
   const CaseTexte& boite = LePlateau().TxtCase(i);
   const ClsPos cellule = grille(i);
-  Assistant& aide = programme_.LAssistant();
-  const bool vide = cellule.ValeurSaisie().empty();
-  const bool donnee = !vide && cellule.Etat() == kDonnee;
-  const bool visible = aide.LaFenetre().Visible;
-  Couleur fond = donnee ? kGris : kBlanc;
-  Couleur encre = kNoir;
-  if (visible && vide && !cellule.SolutionSure().empty()) {
-    if (aide.ChkLightSur()) fond = kVert;
-  } else if (visible && vide && !cellule.SolutionPoss().empty() && aide.ChkLightPoss()) {
-    fond = kCyan;
-  }
-  if (visible && !vide && cellule.Etat() == kPossible && aide.ChkForeBlue()) encre = kBleu;
-  if (visible && !vide && cellule.Etat() == kErronee && aide.ChkForeRed()) encre = kRouge;
-  if (visible && i == Jeu().VmCase && !donnee) std::swap(fond, encre);
+  const bool donnee = !cellule.ValeurSaisie().empty() && cellule.Etat() == kDonnee;
   if (boite.Text != cellule.ValeurSaisie()) return Case(i, "Text");
   if (boite.TabStop == boite.Locked) return Case(i, "TabStop");
-  if (boite.BackColor != fond) return Case(i, "BackColor");
-  if (boite.ForeColor != encre) return Case(i, "ForeColor");
   if (boite.Appearance != (i == LePlateau().Focus() ? 1 : 0)) return Case(i, "Appearance");
   // A given that the solver has overwritten leaves its box locked.
   if (donnee && boite.Locked != (Jeu().VgEtat != kSaisieGrille)) return Case(i, "Locked");
