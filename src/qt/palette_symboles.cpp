@@ -8,6 +8,7 @@
 #include <QToolButton>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "qt/mesure.h"
 #include "qt/texte_qt.h"
@@ -55,8 +56,8 @@ class BoutonPalette : public QToolButton {
 
 }  // namespace
 
-PaletteSymboles::PaletteSymboles(const Texte& symboles, bool libre, const Texte& ici, QWidget* parent)
-    : QWidget(parent, Qt::Popup), symboles_(symboles), contenu_(ici) {
+PaletteSymboles::PaletteSymboles(Texte symboles, bool libre, Texte ici, QWidget* parent)
+    : QWidget(parent, Qt::Popup), symboles_(std::move(symboles)), contenu_(std::move(ici)) {
   setObjectName(QStringLiteral("PaletteSymboles"));
   setAttribute(Qt::WA_DeleteOnClose);
   setFont(PoliceQt({}));

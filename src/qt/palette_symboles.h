@@ -25,7 +25,7 @@ class PaletteSymboles : public QWidget {
     std::function<void()> acte;
   };
   // `libre`: the box takes a symbol. `ici` is the text that it holds.
-  PaletteSymboles(const Texte& symboles, bool libre, const Texte& ici, QWidget* parent);
+  PaletteSymboles(Texte symboles, bool libre, Texte ici, QWidget* parent);
 
   std::function<void(const Texte& symbole)> Choisi;
   void Ajoute(const std::vector<Commande>& commandes);
