@@ -102,6 +102,20 @@ TEST(Fenetres, SauveQuitteEtRouvreParLaLigneDeCommande) {
   j.Demarre(fichier);
   EXPECT_TRUE(j.ToutEstVenu());
   EXPECT_EQ(j.Grille(), "12.43.1.2..3.3..");
+  j.Quand("question", [&](QWidget&) { j.Touche(Qt::Key_O); });
+  j.Menu(Qt::Key_J, Qt::Key_R);
+  j.CliqueCase(2);
+  j.Tape(QStringLiteral("2"));
+  j.Quand("FRMParties", [&](QWidget& boite) {
+    j.Touche(Qt::Key_Down);
+    const auto* champ = boite.findChild<QLineEdit*>("LstSave.champ");
+    EXPECT_EQ(champ->text(), QStringLiteral("Essai"));
+    j.Tape(QStringLiteral("Deux"));
+    EXPECT_EQ(champ->text(), QStringLiteral("Deux")) << "typing replaces the choice";
+    j.Touche(Qt::Key_Return);
+  });
+  j.Menu(Qt::Key_J, Qt::Key_S);
+  EXPECT_TRUE(j.ToutEstVenu());
   EXPECT_TRUE(std::filesystem::remove(fichier));
 }
 
