@@ -1,13 +1,13 @@
 #!/bin/bash
-# cas.sh SUDOKU-LOT CASE [WORD…]: runs the call of CASE.args, with the words behind it, on CASE.in, and compares to
-# the byte with CASE.out, CASE.err (nothing) and CASE.statut (0).
+# cas.sh SUDOKU-LOT NAME: makes the call that cas.txt gives for NAME and compares to the byte with what is recorded.
 set -u
-lot=$1 cas=$2
-shift 2
+lot=$1
+read -r _ fichiers appel < <(grep "^$2 " "$(dirname "$0")/cas.txt")
+cas=$(dirname "$0")/$fichiers
 sorties=$(mktemp -d) || exit 1
 trap 'rm -rf "$sorties"' EXIT
 
-eval "set -- $(cat "$cas.args") $*"
+eval "set -- $appel"
 "$lot" "$@" < "$cas.in" > "$sorties/out" 2> "$sorties/err"
 statut=$?
 
