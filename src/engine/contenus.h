@@ -9,18 +9,26 @@ namespace sudoku {
 // Kinds of units in the order in which the engine goes through those of one number.
 enum GenreUnite { kGenreCarre = 0, kGenreLigne = 1, kGenreColonne = 2 };
 
+// Units are numbered 3 * (number - 1) + kind, in the order in which the engine goes through them.
+constexpr int Unite(int genre, int numero) {
+  return 3 * numero + genre;
+}
+
 // A number of elements, for the bounds of an array.
 constexpr std::size_t Taille(int n) {
   return static_cast<std::size_t>(n);
 }
 
-// Words for a grid with blocks of side S, up to 8. Cells, symbols, units and places count from 0 here.
+// Words for a grid with blocks of side S, up to 13. Cells, symbols, units and places count from 0 here.
 template <int S>
 struct Largeur {
   static constexpr int N = S * S;
-  // A set of symbols, of places in a unit, or of units of one kind.
+  // Words that a set of symbols, of places in a unit, or of units of one kind takes.
+  static constexpr int kMots = (N + 63) / 64;
+  // Such a set, where it is one word.
   using Bits = std::conditional_t<N <= 32, std::uint32_t, std::uint64_t>;
-  // The same, as it lies in memory side by side with others of its kind: N words and some to fill up.
+  // The same, as it lies in memory side by side with others of its kind: kVoies words, N and some to fill up.
+  // Sets of several words are so many rows of them, one behind the other.
   using Mot = std::conditional_t<N <= 16, std::uint16_t, Bits>;
   static constexpr int kVoies = N <= 16 ? 16 : N <= 32 ? 32 : (N + 7) / 8 * 8;
   static constexpr std::size_t kAlignement = kVoies * sizeof(Mot) > 32 ? 64 : 32;
@@ -32,12 +40,14 @@ struct Contenus {
   using Mot = typename Largeur<S>::Mot;
   static constexpr int N = Largeur<S>::N;
   static constexpr int kVoies = Largeur<S>::kVoies;
+  static constexpr int kMots = Largeur<S>::kMots;
 
   // By kind: the symbols in each unit; words from N on stay 0.
-  alignas(Largeur<S>::kAlignement) Mot symboles[3][Taille(kVoies)];
+  alignas(Largeur<S>::kAlignement) Mot symboles[3][Taille(kMots * kVoies)];
   // The same turned round, the units that have a symbol, by symbol; words from N on are all ones.
-  alignas(Largeur<S>::kAlignement) Mot unites[3][Taille(kVoies)];
-  Mot ouvertes[3][Taille(N)];  // places of open cells in each unit
+  alignas(Largeur<S>::kAlignement) Mot unites[3][Taille(kMots * kVoies)];
+  // Places of open cells in each unit.
+  Mot ouvertes[3][Taille(kMots == 1 ? N : kMots * kVoies)];
 };
 
 // Which solutions deductions write: proved ones, where each unit leaves aside what is proved in it already,

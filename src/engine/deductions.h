@@ -1,121 +1,328 @@
 #pragma once
 
-#include <bit>
+#include <algorithm>
+#include <concepts>
 #include <cstdint>
+#include <vector>
 
-#include "engine/ensembles.h"
-#include "engine/lieux.h"
-#include "engine/masque.h"
+#include "engine/parties.h"
+#include "grid/faits.h"
 
+// The deductions: their order, what each does to cells, and the fact that it records. What there is to deduce
+// a Trouveur finds, in tables of its own: trouve_voies.h, trouve_comptes.h, trouve_textes.h. Cells, symbols,
+// units and places count from 0.
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
-// A figure of symbol `symbole`: its units and those it is confined to, kinds and sets of numbers - 1.
-template <int S>
-struct FigureDe {
-  int symbole;
-  GenreUnite genre;
-  BitsDe<S> unites;
-  GenreUnite genre2;
-  BitsDe<S> cle;
-
-  // By kind (columns first), first unit, symbol, other kind.
-  int Ordre() const {
-    return ((S * S * (2 - genre) + std::countr_zero(unites)) * S * S + symbole) * 3 + 2 - genre2;
-  }
+// What is to go, found in unit u. Sets of symbols and places as far as the kind of deduction has them.
+template <class Bits>
+struct Trouvaille {
+  Bits symboles{};
+  Bits lieux{};     // where those stand in unit u
+  Bits perdants{};  // the places to act on, one at least: of unit u, for a locked candidate of unit `unite`
+  int unite = -1;
+  int fois = 1;        // a symbol that stands twice in VmValeurs notes each place twice
+  Code texte = kVide;  // a naked set that is a text, of characters that needn't be symbols
 };
 
-// The deductions of engine/series.h and engine/figures.h on a board of blocks of side S whose cells hold
-// single symbols, all different: vectors with a lane for each symbol or place of a unit, so that all of them
-// are looked at together. Usage says what they are wanted for:
-//   kFaits            each is written down by Usage's functions, and all are made, also on a board that has
-//                     lost all candidates of a cell already. Without it such a board is given up: that cell
-//                     stays so.
+// What finds the deductions and keeps the tables they are found in. It calls f for each find, and may count
+// on f to act at once, by the last five.
+template <class T>
+concept Trouveur = requires(T t, typename T::Bits bits, Appui appui, Trouvaille<typename T::Bits> trouvaille,
+                            FigureDe<typename T::Bits> figure, void (*deuxEntiers)(int, int),
+                            void (*f)(const Trouvaille<typename T::Bits>&),
+                            void (*fFigure)(const FigureDe<typename T::Bits>&)) {
+  // The candidates that the contents leave; false where a cell has none. Then Deduit's tables, with all units
+  // and symbols to be looked at.
+  { t.Amorce(appui) } -> std::same_as<bool>;
+  t.Retourne();
+  // The next unit from number n on that has changed since it was looked at, and takes it as looked at; -1.
+  { t.UniteSale(0) } -> std::same_as<int>;
+  // What is left to place in a unit. Symbols that have one place there: f(symbol, place).
+  t.ChaqueSeule(0, t.Reste(0), deuxEntiers);
+  // Symbols that have all their places, two or more, in another unit too.
+  t.ChaqueConfinee(0, t.Reste(0), f);
+  // Hidden sets, all as the places were when Reste saw them; perdants: places with other candidates.
+  t.ChaqueCachee(0, t.Reste(0), f);
+  // Naked sets, each on the candidates that the one before has left.
+  t.ChaqueNue(0, f);
+  // Figures of the symbols whose places have changed since the last search.
+  t.ChaqueFigure(fFigure);
+  // Cells that came down to one candidate since the last call: f(cell, symbol).
+  t.ChaqueSeul(deuxEntiers);
+
+  { t.Places(0, 0) } -> std::convertible_to<typename T::Bits>;     // of a symbol in a unit
+  { t.Cellule(0, 0) } -> std::same_as<int>;                        // at a place of a unit
+  { t.HorsDe(0, bits) } -> std::convertible_to<typename T::Bits>;  // candidates of a cell outside a set
+  { t.Dedans(figure) } -> std::convertible_to<typename T::Bits>;   // see Parties
+
+  // Takes a symbol, or what a cell has of a naked set, from a cell; false where nothing is left to it.
+  { t.Enleve(0, 0) } -> std::same_as<bool>;
+  { t.EnleveNue(0, trouvaille) } -> std::same_as<bool>;
+  // Makes a set of symbols the candidates of a cell.
+  t.Remplace(0, bits);
+  // Notes a solution.
+  t.PoseSolution(0, 0);
+};
+
+// What the deductions are wanted for.
+//   kFaits            each is written down (Note gives the fact's number, Fait adds a cell to it), and all
+//   are
+//                     made, also on a board that has lost all candidates of a cell already. Without it such a
+//                     board is given up: that cell stays so.
 //   Vide(cell)        the open cell holds nothing at all: a solution for it is one to fill in.
-template <int S, class Usage>
-class Deductions {
+template <class U>
+concept Usage = requires(U u) {
+  { U::kFaits } -> std::convertible_to<bool>;
+  { u.Vide(0) } -> std::same_as<bool>;
+}
+&&(!U::kFaits || requires(U u, Argument argument) {
+  { u.Note(argument, std::uint32_t{}, std::uint32_t{}) } -> std::same_as<std::uint32_t>;
+  u.Fait(0, std::uint32_t{});
+  u.Fait(0, std::uint32_t{}, std::uint32_t{});
+});
+
+template <Trouveur T, Usage U>
+class DeductionsSur : public T {
  public:
-  using Bits = BitsDe<S>;
+  using Bits = typename T::Bits;
   enum Suite { kContradiction, kRien, kSolutions };
 
-  Deductions(const Contenus<S>& contenus, Usage& usage) : contenus_(contenus), usage_(usage) {}
+  // `quoi`: what T takes.
+  template <class Quoi>
+  DeductionsSur(Quoi& quoi, U& usage) : T(quoi), usage_(usage) {}
 
-  std::uint64_t tours = 0;  // turns of Deduit; see moteur_de.inc for their bound
+  std::uint64_t tours = 0;  // turns of Deduit
 
   // What the contents leave to each cell, and the cells with one candidate. kSolutions: a cell can be filled.
   Suite Candidats(Appui appui);
   // Series and figures, from the simplest again after each removal, until a cell can be filled or nothing
   // goes.
+  //
+  // It ends. Every turn but the last takes something away: a candidate of an open cell, or a symbol from the
+  // text of another. A hidden set alone writes candidates, and of those that the cell had before its unit was
+  // run, each once: where sets overlap, the last one written is smaller than what was there before the first.
+  // Of equal symbols ("aA") it leaves the first only, which may be another than the one that was there, but
+  // nothing brings that one back. So a cell changes less than 2N times, a text as often as it has symbols,
+  // and a pass takes no more turns than 1 + 2N for each cell + the length of the texts.
   Suite Deduit();
 
-  // The cell's symbol is proved: the sweeps of its units leave it aside. For kPossible, before Deduit.
-  void Prouve(int cellule, int symbole);
-
-  Bits CandidatsDe(int cellule) const { return candidats_[Unite(kGenreLigne, cellule / N)][cellule % N]; }
-  // The candidates of the N cells of a row.
-  const MotDe<S>* CandidatsDeLigne(int ligne) const { return candidats_[Unite(kGenreLigne, ligne)]; }
-  // Calls f(cell, symbol) for each solution.
-  template <class F>
-  void ChaqueSolution(F f) const;
-
  private:
-  static constexpr int N = S * S;
-  static constexpr int kUnites = 3 * N;
-  static constexpr int kVoies = Largeur<S>::kVoies;
-  using V = Voies<S>;
-  using Mot = MotDe<S>;
-  using Figure = FigureDe<S>;
-  using Unites = Masque<kMotsUnites<S>>;
+  using Figure = FigureDe<Bits>;
+  using Genre = Argument::Genre;
 
-  static constexpr Bits kTous = kLieux<S>.tous;
-  static Bits Bit(int n) { return Bits{1} << n; }
-  // Those above n.
-  static Bits Apres(int n) { return ~((Bits{2} << n) - 1); }
-
-  void Retourne();
-  void RetournePlaces();
   bool Balaye();
   bool TestSerie(int u);
-  void SeulesSolutions(int u, const V& places, Bits symboles);
-  void PoseSolution(int cellule, int symbole);
-  void Reprouve(int u);
-  bool Verrouilles(int u, const V& places, const V& comptes);
-  void Inference(int u, int u2, const V& perdants);
-  bool Caches(int u, const Mot* places, Bits debuts);
-  bool Nus(int u);
   bool NxN();
-  bool FiguresDe(int s);
-  bool DeLignes(int s, const Mot* p, GenreUnite genre);
-  bool DeCarres(int s, const V& carres);
-  bool EnLignes(int s, const Mot* lignes, Bits debuts, GenreUnite genre);
-  bool EnCarres(int s, const V& voies, Bits debuts, GenreUnite genre, GenreUnite genre2);
-  bool Trouve(const Figure& figure);
+  // What is done with a find. Finds are rare: the search for them keeps its registers without these in it.
+  [[gnu::noinline]] void Seule(int u, int symbole, int cellule);
+  [[gnu::noinline]] void Confinee(int u, const Trouvaille<Bits>& t);
+  [[gnu::noinline]] void Cachee(int u, const Trouvaille<Bits>& t);
+  [[gnu::noinline]] void Nue(int u, const Trouvaille<Bits>& t);
+  [[gnu::noinline]] bool Trouve(const Figure& figure);
   bool Agit(const Figure& figure);
   template <class F>
-  void ChaquePerte(const Figure& figure, F f);
-  static Bits Dedans(const Figure& figure, int i);
-  void Enleve(int cellule, Bits symboles);
-  void Remplace(int cellule, Bits sequence);
+  void ChaquePerte(const Figure& figure, F f) const;
   void Releve();
-  void Salit(int cellule);
-  void ToutSale();
+  void PoseSolution(int cellule, int symbole);
 
-  const Contenus<S>& contenus_;
-  Usage& usage_;
-  Appui appui_ = Appui::kSur;
+  static std::uint8_t Type(int genre) {
+    return static_cast<std::uint8_t>(genre == kGenreCarre   ? kCarre
+                                     : genre == kGenreLigne ? kLigne
+                                                            : kColonne);
+  }
+  // What a fact of unit u begins with.
+  static Argument De(Genre genre, int u) {
+    return {.genre = genre, .type = Type(u % 3), .unite = static_cast<std::int16_t>(u / 3 + 1)};
+  }
+  template <class... B>
+  std::uint32_t Note(const Argument& argument, const B&... masques) {
+    if constexpr (U::kFaits) return usage_.Note(argument, masques...);
+    return 0;
+  }
+  template <class... B>
+  void Fait(int cellule, std::uint32_t argument, const B&... exclus) {
+    if constexpr (U::kFaits) usage_.Fait(cellule, argument, exclus...);
+  }
+  // Something went from a cell, and this says whether anything is left.
+  void Change(bool reste) { contradiction_ |= !U::kFaits && !reste; }
 
-  // Candidates by unit and place, places by unit and symbol; lanes from N on stay 0.
-  alignas(64) Mot candidats_[Taille(kUnites)][Taille(kVoies)];
-  alignas(64) Mot places_[Taille(kUnites)][Taille(kVoies)];
-  Bits prouves_[Taille(kUnites)];         // by unit: symbols proved in it, contents aside
-  std::uint8_t solution_[Taille(N * N)];  // symbol + 1
-  Bits resolues_[Taille(N)];              // by row: cells with a solution
-  Bits seuls_[Taille(N)];   // by row: cells that came down to one candidate since the last Releve
-  Unites sales_;            // units some cell of which changed since their own last run
-  Bits symbolesSales_ = 0;  // symbols whose places changed since the last search for figures
+  U& usage_;
+  std::vector<Figure> figures_;  // found, and not acted on yet
   bool contradiction_ = false;
   bool aRemplir_ = false;
 };
+
+template <Trouveur T, Usage U>
+typename DeductionsSur<T, U>::Suite DeductionsSur<T, U>::Candidats(Appui appui) {
+  aRemplir_ = false;
+  const bool complets = T::Amorce(appui);
+  if (!U::kFaits && !complets) return kContradiction;
+  Releve();
+  return aRemplir_ ? kSolutions : kRien;
+}
+
+template <Trouveur T, Usage U>
+typename DeductionsSur<T, U>::Suite DeductionsSur<T, U>::Deduit() {
+  T::Retourne();
+  contradiction_ = false;
+  for (;;) {
+    ++tours;
+    const bool change = Balaye() || (!contradiction_ && !aRemplir_ && NxN());
+    if (contradiction_) return kContradiction;
+    if (change) Releve();
+    if (aRemplir_) return kSolutions;
+    if (!change) return kRien;
+  }
+}
+
+// Cells with one candidate have it as their solution, whatever a unit wrote before.
+template <Trouveur T, Usage U>
+void DeductionsSur<T, U>::Releve() {
+  T::ChaqueSeul([this](int cellule, int symbole) { PoseSolution(cellule, symbole); });
+}
+
+template <Trouveur T, Usage U>
+void DeductionsSur<T, U>::PoseSolution(int cellule, int symbole) {
+  aRemplir_ |= usage_.Vide(cellule);
+  T::PoseSolution(cellule, symbole);
+}
+
+// One sweep: block, row, column of each number; units that can only give nothing again are left out.
+template <Trouveur T, Usage U>
+bool DeductionsSur<T, U>::Balaye() {
+  bool change = false;
+  for (int u = T::UniteSale(0); u >= 0 && !contradiction_; u = T::UniteSale(u + 1)) change |= TestSerie(u);
+  return change;
+}
+
+// Hidden singles, which take nothing, locked candidates, hidden sets, naked sets of every size, these on the
+// candidates of the moment.
+template <Trouveur T, Usage U>
+bool DeductionsSur<T, U>::TestSerie(int u) {
+  bool change = false;
+  const auto reste = T::Reste(u);
+  T::ChaqueSeule(u, reste, [&](int symbole, int place) { Seule(u, symbole, T::Cellule(u, place)); });
+  T::ChaqueConfinee(u, reste, [&](const Trouvaille<Bits>& t) {
+    change = true;
+    Confinee(u, t);
+  });
+  T::ChaqueCachee(u, reste, [&](const Trouvaille<Bits>& t) {
+    change = true;
+    Cachee(u, t);
+  });
+  T::ChaqueNue(u, [&](const Trouvaille<Bits>& t) {
+    change = true;
+    Nue(u, t);
+  });
+  return change;
+}
+
+template <Trouveur T, Usage U>
+void DeductionsSur<T, U>::Seule(int u, int symbole, int cellule) {
+  PoseSolution(cellule, symbole);
+  Fait(cellule, Note({.genre = Genre::kSeule, .type = Type(u % 3)}));
+}
+
+// The symbol goes from the rest of the other unit.
+template <Trouveur T, Usage U>
+void DeductionsSur<T, U>::Confinee(int u, const Trouvaille<Bits>& t) {
+  const int symbole = Premier(t.symboles);
+  Argument argument = De(Genre::kInference, u);
+  argument.symbole = symbole;
+  const std::uint32_t note = Note(argument, t.lieux);
+  Chaque(t.perdants, [&](int place) {
+    const int cellule = T::Cellule(t.unite, place);
+    Change(T::Enleve(cellule, symbole));
+    Fait(cellule, note);
+  });
+}
+
+// The cells keep nothing but the set.
+template <Trouveur T, Usage U>
+void DeductionsSur<T, U>::Cachee(int u, const Trouvaille<Bits>& t) {
+  Argument argument = De(Genre::kCachee, u);
+  argument.fois = static_cast<std::int16_t>(t.fois);
+  const std::uint32_t note = Note(argument, t.symboles, t.lieux);
+  Chaque(t.perdants, [&](int place) {
+    const int cellule = T::Cellule(u, place);
+    const Bits exclus = T::HorsDe(cellule, t.symboles);
+    T::Remplace(cellule, t.symboles);
+    Fait(cellule, note, exclus);
+  });
+}
+
+// The set goes from the other cells of the unit.
+template <Trouveur T, Usage U>
+void DeductionsSur<T, U>::Nue(int u, const Trouvaille<Bits>& t) {
+  Argument argument = De(Genre::kNue, u);
+  argument.symbole = t.texte;
+  const std::uint32_t note = Note(argument, t.symboles, t.lieux);
+  Chaque(t.perdants, [&](int place) {
+    const int cellule = T::Cellule(u, place);
+    Change(T::EnleveNue(cellule, t));
+    Fait(cellule, note);
+  });
+}
+
+// The N by N figures: k units of one kind that hold a symbol only in the same set of units of another kind.
+// The symbol goes from those other units outside the figure. Symbols don't touch each other: each one's
+// figures are found on its places as they stand when it comes to it. Only where they are written down do they
+// act in the order of discovery: kind, unit, symbol, other kind.
+template <Trouveur T, Usage U>
+bool DeductionsSur<T, U>::NxN() {
+  bool change = false;
+  T::ChaqueFigure([&](const Figure& figure) { change |= Trouve(figure); });
+  if constexpr (U::kFaits) {
+    std::ranges::sort(figures_, {}, &Figure::Ordre);
+    for (const Figure& figure : figures_) change |= Agit(figure);
+    figures_.clear();
+  }
+  return change;
+}
+
+template <Trouveur T, Usage U>
+bool DeductionsSur<T, U>::Trouve(const Figure& figure) {
+  if constexpr (!U::kFaits) return Agit(figure);
+  bool retire = false;
+  ChaquePerte(figure, [&](int, const Bits&) { retire = true; });
+  if (retire) figures_.push_back(figure);
+  return false;
+}
+
+template <Trouveur T, Usage U>
+bool DeductionsSur<T, U>::Agit(const Figure& figure) {
+  bool change = false;
+  std::uint32_t note = 0;
+  ChaquePerte(figure, [&](int u, const Bits& perdants) {
+    if (!change) {
+      note = Note({.genre = Genre::kFigure,
+                   .type = Type(figure.genre),
+                   .type2 = Type(figure.genre2),
+                   .symbole = figure.symbole},
+                  figure.unites, figure.cle);
+    }
+    change = true;
+    Chaque(perdants, [&](int place) {
+      const int cellule = T::Cellule(u, place);
+      Change(T::Enleve(cellule, figure.symbole));
+      Fait(cellule, note);
+    });
+  });
+  return change;
+}
+
+// Calls f with each unit to which the figure is confined that has places outside it, and these.
+template <Trouveur T, Usage U>
+template <class F>
+void DeductionsSur<T, U>::ChaquePerte(const Figure& figure, F f) const {
+  const Bits dedans = T::Dedans(figure);
+  Chaque(figure.cle, [&](int v) {
+    const int u = Unite(figure.genre2, v);
+    const Bits perdants = T::Places(u, figure.symbole) & ~dedans;
+    if (!Vide(perdants)) f(u, perdants);
+  });
+}
 
 }  // namespace
 }  // namespace sudoku::SUDOKU_MOTEUR

@@ -26,7 +26,7 @@ class Evaluateur {
   std::int16_t Evaluation(Grille& VpGrille, int VpPasses, bool premiereConnue = false);
 
   // What was done since this was made: times that the passes ran, and turns of deduction in them. Both have
-  // bounds, see the .cpp and moteur.inc.
+  // bounds, see the .cpp and deductions.h.
   std::uint64_t Reprises() const { return reprises_; }
   std::uint64_t Tours() const { return tours_; }
 

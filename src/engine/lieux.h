@@ -6,11 +6,6 @@
 
 namespace sudoku {
 
-// Units are numbered 3 * (number - 1) + kind, in the order in which the engine goes through them.
-constexpr int Unite(int genre, int numero) {
-  return 3 * numero + genre;
-}
-
 // Words for a set of units of all kinds.
 template <int S>
 inline constexpr int kMotsUnites = (3 * S * S + 63) / 64;
@@ -34,6 +29,7 @@ struct Croisements {
   Un un[Taille(2 * S)];
 };
 
+// For sides whose sets are one word.
 template <int S>
 struct TousLesLieux {
   static constexpr int N = S * S;

@@ -22,4 +22,8 @@ class Moteur {
 using FaitMoteur = std::unique_ptr<Moteur> (*)(int N);
 std::vector<FaitMoteur> VersionsMoteur();
 
+// The plain and slow one, for grids of any kind: it alone does those with contents that are no single symbol
+// of the grid, or with equal symbols. The others hand these to it.
+std::unique_ptr<Moteur> FabriqueTextes(int N);
+
 }  // namespace sudoku

@@ -6,7 +6,9 @@
 #include <type_traits>
 #include <utility>
 
+#include "engine/bits.h"
 #include "engine/contenus.h"
+#include "engine/parties.h"
 
 #if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512BITALG__) && \
     defined(__AVX512VPOPCNTDQ__)
@@ -23,6 +25,8 @@
 // Each version of the hot code has its own, in its own namespace SUDOKU_MOTEUR, so that no two of them share
 // a function.
 #define SUDOKU_EN_LIGNE [[gnu::always_inline]] inline
+// The same for a lambda, between its parameters and its body.
+#define SUDOKU_LAMBDA_EN_LIGNE __attribute__((always_inline))
 
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
@@ -30,20 +34,32 @@ namespace {
 template <int S>
 using MotDe = typename Largeur<S>::Mot;
 template <int S>
-using BitsDe = typename Largeur<S>::Bits;
+using BitsDe =
+    std::conditional_t<Largeur<S>::kMots == 1, typename Largeur<S>::Bits, Masque<Largeur<S>::kMots>>;
+template <int S>
+inline constexpr Parties<BitsDe<S>> kParties{S};
+// All symbols, places, units of a kind.
+template <int S>
+inline constexpr BitsDe<S> kTousDe = Premiers<BitsDe<S>>(S* S);
 
-// Calls f with each of the numbers 0 to S - 1 as a constant.
+// Calls f with each of the numbers 0 to S - 1, where a lane is one word as a constant.
 template <class F, int... k>
 SUDOKU_EN_LIGNE void ChaqueConstante(F f, std::integer_sequence<int, k...>) {
   (f(std::integral_constant<int, k>()), ...);
 }
 template <int S, class F>
 SUDOKU_EN_LIGNE void ChaqueConstante(F f) {
-  ChaqueConstante(f, std::make_integer_sequence<int, S>());
+  if constexpr (Largeur<S>::kMots == 1) {
+    ChaqueConstante(f, std::make_integer_sequence<int, S>());
+  } else {
+    for (int k = 0; k < S; ++k) f(k);
+  }
 }
 
-// All lanes, in as many vector registers as they take.
-template <int S>
+// All lanes, in as many vector registers as they take: P words a lane, the first words of all lanes before
+// the second ones. Up to 64 symbols they fit the processor's registers, and what is done with each is written
+// out; beyond that it is done in loops.
+template <int S, int P = Largeur<S>::kMots>
 struct Voies {
   using Mot = MotDe<S>;
   static constexpr std::size_t kTaille = Largeur<S>::kVoies * sizeof(Mot);
@@ -54,21 +70,38 @@ struct Voies {
 #else
   static constexpr std::size_t kOctets = 16;
 #endif
-  static constexpr std::size_t kRegistres = kTaille / kOctets;
+  static constexpr std::size_t kRegistres = kTaille / kOctets;  // for one word of each lane
   static constexpr int kParRegistre = kOctets / sizeof(Mot);
   using Registre [[gnu::vector_size(kOctets)]] = Mot;
 
-  Registre r[kRegistres];
+  static constexpr int kTous = P * static_cast<int>(kRegistres);
+
+  Registre r[Taille(kTous)];
+
+  // The word of each lane that register i holds.
+  static constexpr int Plan(int i) {
+    return i / static_cast<int>(kRegistres);
+  }
 
   // The registers that f(number of the register) gives.
   template <class F>
   SUDOKU_EN_LIGNE static Voies De(F f) {
-    return De(f, std::make_integer_sequence<int, static_cast<int>(kRegistres)>());
+    if constexpr (P == 1) {
+      return De(f, std::make_integer_sequence<int, kTous>());
+    } else {
+      Voies v;
+      for (int i = 0; i < kTous; ++i) v.r[i] = f(i);
+      return v;
+    }
   }
   // Calls f with the number of each register.
   template <class F>
   SUDOKU_EN_LIGNE static void Chaque(F f) {
-    Chaque(f, std::make_integer_sequence<int, static_cast<int>(kRegistres)>());
+    if constexpr (P == 1) {
+      Chaque(f, std::make_integer_sequence<int, kTous>());
+    } else {
+      for (int i = 0; i < kTous; ++i) f(i);
+    }
   }
 
  private:
@@ -83,11 +116,11 @@ struct Voies {
 };
 
 // Register by register: a struct as a whole is moved in smaller pieces, which the next load would wait for.
-template <int S>
-SUDOKU_EN_LIGNE Voies<S> Lit(const MotDe<S>* p) {
-  return Voies<S>::De([p](int i) {
-    typename Voies<S>::Registre registre;
-    std::memcpy(&registre, p + i * Voies<S>::kParRegistre, sizeof registre);
+template <int S, int P = Largeur<S>::kMots>
+SUDOKU_EN_LIGNE Voies<S, P> Lit(const MotDe<S>* p) {
+  return Voies<S, P>::De([p](int i) {
+    typename Voies<S, P>::Registre registre;
+    std::memcpy(&registre, p + i * Voies<S, P>::kParRegistre, sizeof registre);
     return registre;
   });
 }
@@ -98,33 +131,38 @@ SUDOKU_EN_LIGNE void Range(MotDe<S>* p, const Voies<S>& v) {
     std::memcpy(p + i * Voies<S>::kParRegistre, &registre, sizeof registre);
   });
 }
+// The register i of lanes that all hold n.
 template <int S>
-SUDOKU_EN_LIGNE Voies<S> Partout(BitsDe<S> n) {
-  return Voies<S>::De([n](int) { return typename Voies<S>::Registre{} + static_cast<MotDe<S>>(n); });
+SUDOKU_EN_LIGNE typename Voies<S>::Registre Partout(const BitsDe<S>& n, int i) {
+  return typename Voies<S>::Registre{} + static_cast<MotDe<S>>(Mot(n, Voies<S>::Plan(i)));
+}
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> Partout(const BitsDe<S>& n) {
+  return Voies<S>::De([&](int i) { return Partout<S>(n, i); });
 }
 
-template <int S>
-SUDOKU_EN_LIGNE Voies<S> operator&(const Voies<S>& a, const Voies<S>& b) {
-  return Voies<S>::De([&](int i) { return a.r[i] & b.r[i]; });
+template <int S, int P>
+SUDOKU_EN_LIGNE Voies<S, P> operator&(const Voies<S, P>& a, const Voies<S, P>& b) {
+  return Voies<S, P>::De([&](int i) { return a.r[i] & b.r[i]; });
 }
-template <int S>
-SUDOKU_EN_LIGNE Voies<S> operator|(const Voies<S>& a, const Voies<S>& b) {
-  return Voies<S>::De([&](int i) { return a.r[i] | b.r[i]; });
+template <int S, int P>
+SUDOKU_EN_LIGNE Voies<S, P> operator|(const Voies<S, P>& a, const Voies<S, P>& b) {
+  return Voies<S, P>::De([&](int i) { return a.r[i] | b.r[i]; });
 }
-template <int S>
-SUDOKU_EN_LIGNE Voies<S> operator^(const Voies<S>& a, const Voies<S>& b) {
-  return Voies<S>::De([&](int i) { return a.r[i] ^ b.r[i]; });
+template <int S, int P>
+SUDOKU_EN_LIGNE Voies<S, P> operator^(const Voies<S, P>& a, const Voies<S, P>& b) {
+  return Voies<S, P>::De([&](int i) { return a.r[i] ^ b.r[i]; });
 }
-template <int S>
-SUDOKU_EN_LIGNE Voies<S> operator-(const Voies<S>& a, const Voies<S>& b) {
-  return Voies<S>::De([&](int i) { return a.r[i] - b.r[i]; });
+template <int S, int P>
+SUDOKU_EN_LIGNE Voies<S, P> operator-(const Voies<S, P>& a, const Voies<S, P>& b) {
+  return Voies<S, P>::De([&](int i) { return a.r[i] - b.r[i]; });
 }
-template <int S>
-SUDOKU_EN_LIGNE Voies<S> operator~(const Voies<S>& a) {
-  return Voies<S>::De([&](int i) { return ~a.r[i]; });
+template <int S, int P>
+SUDOKU_EN_LIGNE Voies<S, P> operator~(const Voies<S, P>& a) {
+  return Voies<S, P>::De([&](int i) { return ~a.r[i]; });
 }
-template <int S>
-SUDOKU_EN_LIGNE Voies<S>& operator|=(Voies<S>& a, const Voies<S>& b) {
+template <int S, int P>
+SUDOKU_EN_LIGNE Voies<S, P>& operator|=(Voies<S, P>& a, const Voies<S, P>& b) {
   return a = a | b;
 }
 
@@ -243,15 +281,58 @@ SUDOKU_EN_LIGNE bool Aucune(const Voies<S>& v) {
 
 // Lanes all ones where their bit is set; those from N on are 0.
 template <int S>
-SUDOKU_EN_LIGNE Voies<S> Etale(BitsDe<S> bits) {
+SUDOKU_EN_LIGNE Voies<S, 1> Etale(const BitsDe<S>& bits) {
   struct Un {
     alignas(64) MotDe<S> mots[Taille(Largeur<S>::kVoies)] = {};
     constexpr Un() {
-      for (int i = 0; i < Largeur<S>::N; ++i) mots[i] = static_cast<MotDe<S>>(BitsDe<S>{1} << i);
+      for (int i = 0; i < Largeur<S>::N; ++i) mots[i] = static_cast<MotDe<S>>(std::uint64_t{1} << (i & 63));
     }
   };
   static constexpr Un kUn;
-  return NonNulles(Partout<S>(bits) & Lit<S>(kUn.mots));
+  using V = Voies<S, 1>;
+  const V un = Lit<S, 1>(kUn.mots);
+  return V::De([&](int i) {
+    const auto mot = static_cast<MotDe<S>>(Mot(bits, i * V::kParRegistre / 64));
+    return reinterpret_cast<typename V::Registre>((un.r[i] & mot) != 0);
+  });
+}
+
+// Lanes all ones where they hold n.
+template <int S>
+SUDOKU_EN_LIGNE Voies<S, 1> Avec(const Voies<S>& v, int n) {
+  using V = Voies<S, 1>;
+  constexpr int kRegistres = V::kTous;
+  return V::De([&](int i) {
+    const auto bit = static_cast<MotDe<S>>(std::uint64_t{1} << (n & 63));
+    return reinterpret_cast<typename V::Registre>((v.r[(n >> 6) * kRegistres + i] & bit) != 0);
+  });
+}
+// The lanes where `masque` is all ones.
+template <int S>
+requires(Largeur<S>::kMots > 1) SUDOKU_EN_LIGNE Voies<S>
+operator&(const Voies<S>& v, const Voies<S, 1>& masque) {
+  return Voies<S>::De([&](int i) { return v.r[i] & masque.r[i % Voies<S, 1>::kTous]; });
+}
+
+// Lane number i of those that begin here.
+template <int S>
+SUDOKU_EN_LIGNE BitsDe<S> Lu(const MotDe<S>* p, int i) {
+  if constexpr (Largeur<S>::kMots == 1) {
+    return p[i];
+  } else {
+    BitsDe<S> bits;
+    for (int k = 0; k < Largeur<S>::kMots; ++k) bits[k] = p[k * Largeur<S>::kVoies + i];
+    return bits;
+  }
+}
+// Number n into lane number i, or out of it.
+template <int S>
+SUDOKU_EN_LIGNE void Ajoute(MotDe<S>* p, int i, int n) {
+  p[(n >> 6) * Largeur<S>::kVoies + i] |= static_cast<MotDe<S>>(std::uint64_t{1} << (n & 63));
+}
+template <int S>
+SUDOKU_EN_LIGNE void Retire(MotDe<S>* p, int i, int n) {
+  p[(n >> 6) * Largeur<S>::kVoies + i] &= static_cast<MotDe<S>>(~(std::uint64_t{1} << (n & 63)));
 }
 
 // How many each lane holds.
@@ -308,16 +389,19 @@ SUDOKU_EN_LIGNE Voies<S> Descend(const Voies<S>& v) {
   }
 }
 
-// Lane i, below N, gets lane premiere + i / S * pas, the others 0.
-template <int S, int premiere, int pas>
-SUDOKU_EN_LIGNE Voies<S> Etire(const MotDe<S>* voies) {
+// Lane i, below N, gets lane k * saut + i / S * pas, the others 0. k is a number or a constant.
+template <int S, int saut, int pas, class K>
+SUDOKU_EN_LIGNE Voies<S> Etire(const MotDe<S>* voies, K k) {
   if constexpr (kPermute<S>) {
     return Permute(
-        Lit<S>(voies), [](int i) { return i < 9 ? premiere + i / 3 * pas : 15; },
+        Lit<S>(voies), [](int i) { return i < 9 ? K::value * saut + i / 3 * pas : 15; },
         std::make_integer_sequence<int, 16>());
   } else {
-    alignas(64) MotDe<S> etirees[Taille(Largeur<S>::kVoies)] = {};
-    for (int i = 0; i < Largeur<S>::N; ++i) etirees[i] = voies[premiere + i / S * pas];
+    constexpr int kVoies = Largeur<S>::kVoies;
+    alignas(64) MotDe<S> etirees[Taille(Largeur<S>::kMots * kVoies)] = {};
+    for (int plan = 0; plan < Largeur<S>::kMots * kVoies; plan += kVoies) {
+      for (int i = 0; i < Largeur<S>::N; ++i) etirees[plan + i] = voies[plan + k * saut + i / S * pas];
+    }
     return Lit<S>(etirees);
   }
 }

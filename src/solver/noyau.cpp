@@ -4,16 +4,16 @@
 
 namespace sudoku {
 
-namespace noyau_base {
+namespace version_base {
 template <int S>
 void Resout(Cases<S>& cases, Appui appui, Passe<S>& passe);
 }
 #if defined(SUDOKU_VERSIONS_X86)
-namespace noyau_avx2 {
+namespace version_avx2 {
 template <int S>
 void Resout(Cases<S>& cases, Appui appui, Passe<S>& passe);
 }
-namespace noyau_avx512 {
+namespace version_avx512 {
 template <int S>
 void Resout(Cases<S>& cases, Appui appui, Passe<S>& passe);
 }
@@ -23,10 +23,10 @@ template <int S>
 std::vector<Noyau<S>> VersionsNoyau() {
   std::vector<Noyau<S>> versions;
 #if defined(SUDOKU_VERSIONS_X86)
-  if (MeilleuresInstructions() >= Instructions::kAvx512) versions.push_back(noyau_avx512::Resout<S>);
-  if (MeilleuresInstructions() >= Instructions::kAvx2) versions.push_back(noyau_avx2::Resout<S>);
+  if (MeilleuresInstructions() >= Instructions::kAvx512) versions.push_back(version_avx512::Resout<S>);
+  if (MeilleuresInstructions() >= Instructions::kAvx2) versions.push_back(version_avx2::Resout<S>);
 #endif
-  versions.push_back(noyau_base::Resout<S>);
+  versions.push_back(version_base::Resout<S>);
   return versions;
 }
 

@@ -74,11 +74,12 @@ TEST(Noyau, ToutesLesVersionsDonnentLeMeme) {
 }
 
 TEST(Moteur, ToutesLesVersionsDonnentLeMeme) {
-  const auto versions = VersionsMoteur();
+  std::vector<FaitMoteur> versions = VersionsMoteur();
+  versions.push_back(FabriqueTextes);
   std::mt19937 suite(4);
   std::size_t faits = 0;
   for (int tour = 0; tour < 500; ++tour) {
-    const int S = 2 + tour % 7;
+    const int S = tour % 100 == 99 ? 9 + tour / 100 : 2 + tour % 7;
     const int N = S * S;
     Texte symboles;
     for (int p = 0; p < N; ++p) symboles += U'\u4E00' + static_cast<char32_t>(p);
@@ -93,6 +94,7 @@ TEST(Moteur, ToutesLesVersionsDonnentLeMeme) {
     }
     Grille attendue;
     for (const FaitMoteur version : versions) {
+      if (version == FabriqueTextes && S > 9) continue;
       Grille grille;
       GrilleCopy(depart, grille);
       version(N)->Passes(jeu, grille, 2, false);
@@ -103,7 +105,8 @@ TEST(Moteur, ToutesLesVersionsDonnentLeMeme) {
       ASSERT_EQ(a.sure, b.sure) << tour;
       ASSERT_EQ(a.poss, b.poss) << tour;
       faits += b.journal.faits.size();
-      for (int i = 1; i <= grille.Borne(); ++i) ASSERT_EQ(Phrases(attendue, i), Phrases(grille, i)) << tour;
+      for (int i = 1; i <= grille.Borne(); i += S > 8 ? 1 + N : 1)
+        ASSERT_EQ(Phrases(attendue, i), Phrases(grille, i)) << tour;
     }
   }
   EXPECT_GT(faits, 1000U) << "too few deductions to compare";

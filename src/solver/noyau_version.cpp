@@ -1,32 +1,20 @@
-// One version of the kernel: included by noyau_*.cpp, each of which names the namespace SUDOKU_MOTEUR and is
-// compiled for an instruction set.
-
-#pragma once
-
+// One version of the kernel, which the build compiles as engine/moteur_version.cpp.
 #include <cstring>
 
-#include "engine/figures_voies.inc"
+#include "engine/trouve_voies.h"
 #include "solver/noyau.h"
 
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
 // What a search wants of the deductions: their result.
-template <int S>
 struct Recherche {
-  using Bits = BitsDe<S>;
   static constexpr bool kFaits = false;
 
   static bool Vide(int) { return true; }
-  static void Seule(int, int) {}
-  static std::uint32_t Inference(int, int, Bits) { return 0; }
-  static std::uint32_t Cachee(int, Bits, Bits) { return 0; }
-  static std::uint32_t Nue(int, Bits, Bits) { return 0; }
-  static std::uint32_t Figure(const FigureDe<S>&) { return 0; }
-  static void Fait(int, std::uint32_t, Bits = 0) {}
 };
 template <int S>
-using DeductionsDuNoyau = Deductions<S, Recherche<S>>;
+using DeductionsDuNoyau = Deductions<S, Recherche>;
 
 // Writes all solutions. A symbol that the cell's candidates have lost since it was found is a wrong entry:
 // false then.
@@ -50,7 +38,7 @@ void Resout(Cases<S>& cases, Appui appui, Passe<S>& passe) {
   constexpr int N = S * S;
   using D = DeductionsDuNoyau<S>;
   passe.erronee = false;
-  Recherche<S> usage;
+  Recherche usage;
   D deductions(cases, usage);
   for (;;) {
     typename D::Suite suite = deductions.Candidats(appui);

@@ -1,93 +1,37 @@
 #pragma once
 
 #include <algorithm>
+#include <memory>
 #include <vector>
 
-#include "engine/amorce.inc"
-#include "engine/figures_voies.inc"
-#include "engine/moteur_de.inc"
+#include "engine/amorce.h"
+#include "engine/moteur.h"
+#include "engine/releve.h"
+#include "engine/trouve_comptes.h"
+#include "engine/trouve_voies.h"
 
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
-// Writes the deductions of one pass into the grid's journal.
 template <int S>
-class ReleveVoies {
- public:
-  using Bits = BitsDe<S>;
-  static constexpr bool kFaits = true;
+using Trouve = std::conditional_t<Largeur<S>::kMots == 1, TrouveVoies<S>, TrouveComptes<S>>;
 
-  std::vector<FigureDe<S>> figures;  // found, and not acted on yet
-
-  void Commence(Bloc& bloc) {
-    bloc_ = &bloc;
-    bloc.journal.Vide();
-  }
-
-  bool Vide(int cellule) const { return bloc_->saisie[static_cast<std::size_t>(cellule + 1)] == kVide; }
-  void Seule(int u, int cellule) {
-    Fait(cellule, Note({.genre = Argument::Genre::kSeule, .type = Type(u % 3)}));
-  }
-  std::uint32_t Inference(int u, int s, Bits lieux) {
-    return Note({.genre = Argument::Genre::kInference, .type = Type(u % 3), .unite = Numero(u), .symbole = s},
-                {lieux});
-  }
-  std::uint32_t Cachee(int u, Bits sequence, Bits lieux) {
-    return Note({.genre = Argument::Genre::kCachee, .type = Type(u % 3), .unite = Numero(u)},
-                {sequence, lieux});
-  }
-  std::uint32_t Nue(int u, Bits sequence, Bits lieux) {
-    return Note({.genre = Argument::Genre::kNue, .type = Type(u % 3), .unite = Numero(u)}, {sequence, lieux});
-  }
-  std::uint32_t Figure(const FigureDe<S>& f) {
-    return Note({.genre = Argument::Genre::kFigure,
-                 .type = Type(f.genre),
-                 .type2 = Type(f.genre2),
-                 .symbole = f.symbole},
-                {f.unites, f.cle});
-  }
-  void Fait(int cellule, std::uint32_t argument) { bloc_->journal.faits.push_back({cellule + 1, argument}); }
-  void Fait(int cellule, std::uint32_t argument, Bits exclus) {
-    bloc_->journal.faits.push_back({cellule + 1, argument, static_cast<std::int32_t>(Mots({exclus}))});
-  }
-
- private:
-  static std::uint8_t Type(int genre) {
-    return static_cast<std::uint8_t>(genre == kGenreCarre   ? kCarre
-                                     : genre == kGenreLigne ? kLigne
-                                                            : kColonne);
-  }
-  static std::int16_t Numero(int u) { return static_cast<std::int16_t>(u / 3 + 1); }
-
-  std::uint32_t Mots(std::initializer_list<Bits> masques) {
-    auto& mots = bloc_->journal.mots;
-    const auto debut = static_cast<std::uint32_t>(mots.size());
-    mots.insert(mots.end(), masques.begin(), masques.end());
-    return debut;
-  }
-  std::uint32_t Note(Argument argument, std::initializer_list<Bits> masques = {}) {
-    argument.masques = Mots(masques);
-    bloc_->journal.arguments.push_back(argument);
-    return static_cast<std::uint32_t>(bloc_->journal.arguments.size() - 1);
-  }
-
-  Bloc* bloc_ = nullptr;
-};
-
-// The engine for blocks of side S: the deductions of deductions.h where every cell that counts holds a single
-// symbol and all of these differ, the general tables otherwise.
+// The engine for blocks of side S, on lanes. Where some content that counts is no single symbol of the grid,
+// or where symbols are equal, it hands the grid to the plain one.
 template <int S>
 class MoteurVoies : public Moteur {
  public:
   std::uint64_t Passes(GameState& jeu, Grille& grille, int VpPasses, bool seconde) override {
     Bloc& bloc = grille.Donnees();
-    if (!Convient(bloc)) return general_.Passes(jeu, grille, VpPasses, seconde);
-    deductions_.tours = 0;
-    for (int passe = seconde ? 2 : 1; passe <= VpPasses; ++passe) {
-      if (VpPasses == 2) jeu.VgEtat = passe == 1 ? kJeu : kSecondePasse;
-      const bool saisies = Amorce(bloc, jeu.VgEtat);
-      if (Deduit(bloc, jeu.VgEtat) || !saisies) break;
+    if (!Convient(bloc)) {
+      if (!textes_) textes_ = FabriqueTextes(N);
+      return textes_->Passes(jeu, grille, VpPasses, seconde);
     }
+    deductions_.tours = 0;
+    ChaquePasse(jeu, VpPasses, seconde, [&](std::int32_t mode) {
+      const bool saisies = Amorce(bloc, mode);
+      return Deduit(bloc, mode) || !saisies;
+    });
     return deductions_.tours;
   }
 
@@ -97,7 +41,9 @@ class MoteurVoies : public Moteur {
   using V = Voies<S>;
   using Mot = MotDe<S>;
   using Bits = BitsDe<S>;
+  using Deductions = DeductionsSur<Trouve<S>, Releve>;
   static constexpr int kVoies = Largeur<S>::kVoies;
+  static constexpr int kMots = Largeur<S>::kMots;
   static constexpr int kDernierBit = 8 * sizeof(Bits) - 1;
 
   bool Convient(const Bloc& bloc);
@@ -105,18 +51,20 @@ class MoteurVoies : public Moteur {
   bool Amorce(Bloc& bloc, std::int32_t mode);
   void AmorceLignes(const Code* positions);
   void AmorceUnites();
+  void AmorceCases(const Code* positions);
   void Prouve(const Bloc& bloc);
   // All the rest of the pass. True if some empty cell has a solution.
   bool Deduit(Bloc& bloc, std::int32_t mode);
+  void EcritCandidats(Bloc& bloc) const;
 
-  MoteurDe<1> general_;
+  std::unique_ptr<Moteur> textes_;
   std::shared_ptr<const Alphabet> alphabet_;  // of the last grid; held, so that a new one is told from it
   bool differents_ = false;                   // its symbols
   bool autres_ = false;                       // some cell holds a symbol in another case
   std::vector<Code> positions_;               // of what counts, where `autres_`
   Contenus<S> contenus_{};
-  ReleveVoies<S> releve_;
-  Deductions<S, ReleveVoies<S>> deductions_{contenus_, releve_};
+  Releve releve_;
+  Deductions deductions_{contenus_, releve_};
 };
 
 template <int S>
@@ -151,9 +99,37 @@ bool MoteurVoies<S>::Amorce(Bloc& bloc, std::int32_t mode) {
     std::ranges::transform(bloc.possibleTexte, positions_.begin(),
                            [this](Code code) { return alphabet_->Position(code); });
   }
-  AmorceLignes((autres_ ? positions_ : bloc.possibleTexte).data() + 1);
-  AmorceUnites();
+  const Code* const positions = (autres_ ? positions_ : bloc.possibleTexte).data() + 1;
+  if constexpr (kMots == 1) {
+    AmorceLignes(positions);
+    AmorceUnites();
+  } else {
+    AmorceCases(positions);
+  }
   return saisies;
+}
+
+// Cell by cell, where a set takes several words.
+template <int S>
+void MoteurVoies<S>::AmorceCases(const Code* positions) {
+  contenus_ = {};
+  for (int genre = 0; genre < 3; ++genre) {
+    for (int mot = 0; mot < kMots; ++mot) {
+      std::fill_n(&contenus_.unites[genre][mot * kVoies + N], kVoies - N, ~Mot{0});
+    }
+  }
+  for (int i = 0; i < N * N; ++i) {
+    const int symbole = positions[i];
+    for (int genre = 0; genre < 3; ++genre) {
+      const int numero = kParties<S>.UniteDe(genre, i) / 3;
+      if (symbole < 0) {
+        Ajoute<S>(contenus_.ouvertes[genre], numero, kParties<S>.PlaceDe(genre, i));
+      } else {
+        Ajoute<S>(contenus_.symboles[genre], numero, symbole);
+        Ajoute<S>(contenus_.unites[genre], symbole, numero);
+      }
+    }
+  }
 }
 
 // Symbols and open cells of rows and columns, and the symbols of blocks.
@@ -230,18 +206,31 @@ template <int S>
 bool MoteurVoies<S>::Deduit(Bloc& bloc, std::int32_t mode) {
   releve_.Commence(bloc);
   const Appui appui = VersSure(mode) ? Appui::kSur : Appui::kPossible;
-  bool aRemplir = deductions_.Candidats(appui) == deductions_.kSolutions;
+  bool aRemplir = deductions_.Candidats(appui) == Deductions::kSolutions;
   if (!aRemplir) {
     if (mode == kSecondePasse) Prouve(bloc);
-    aRemplir = deductions_.Deduit() == deductions_.kSolutions;
+    aRemplir = deductions_.Deduit() == Deductions::kSolutions;
   }
   std::vector<Code>& solutions = VersSure(mode) ? bloc.sure : bloc.poss;
   deductions_.ChaqueSolution(
       [&](int cellule, int symbole) { solutions[static_cast<std::size_t>(cellule) + 1] = symbole; });
-  for (int l = 0; l < N; ++l) {
-    std::copy_n(deductions_.CandidatsDeLigne(l), N, &bloc.candidats[static_cast<std::size_t>(N * l + 1)]);
-  }
+  EcritCandidats(bloc);
   return aRemplir;
+}
+
+template <int S>
+void MoteurVoies<S>::EcritCandidats(Bloc& bloc) const {
+  if constexpr (kMots == 1) {
+    for (int l = 0; l < N; ++l) {
+      std::copy_n(deductions_.CandidatsDeLigne(l), N, &bloc.candidats[static_cast<std::size_t>(N * l + 1)]);
+    }
+  } else {
+    std::uint64_t* mots = &bloc.candidats[static_cast<std::size_t>(bloc.mots)];
+    for (int i = 0; i < N * N; ++i, mots += bloc.mots) {
+      const BitsDe<S> candidats = deductions_.CandidatsDe(i);
+      for (int mot = 0; mot < kMots; ++mot) mots[mot] = candidats[mot];
+    }
+  }
 }
 
 }  // namespace

@@ -14,6 +14,15 @@ constexpr bool VersSure(std::int32_t mode) {
   return mode == kSaisieGrille || mode == kJeu;
 }
 
+// Calls f(mode) for each pass of an evaluation, see Moteur; one that gives true is the last.
+template <class F>
+void ChaquePasse(GameState& jeu, int VpPasses, bool seconde, F f) {
+  for (int passe = seconde ? 2 : 1; passe <= VpPasses; ++passe) {
+    if (VpPasses == 2) jeu.VgEtat = passe == 1 ? kJeu : kSecondePasse;
+    if (f(jeu.VgEtat)) return;
+  }
+}
+
 // The contents that count in this mode become the Possible of their cells and their solutions. All else that
 // was known goes, but for SolutionSure in the second pass. True if some cell has Etat 2.
 inline bool PoseContenus(Bloc& bloc, std::int32_t mode) {

@@ -1,0 +1,112 @@
+#pragma once
+
+#include "engine/trouve_voies.h"
+
+namespace sudoku::SUDOKU_MOTEUR {
+namespace {
+
+template <int S>
+template <class F>
+void TrouveVoies<S>::ChaqueFigure(F f) {
+  Chaque(Base::SymbolesSales(), [&](int s) { FiguresDe(s, f); });
+}
+
+// Behind the S bits of a key, by unit number: the band, the stack in which a unit lies, from 1 on; and
+// numbers that differ from each other and from all keys.
+template <int S>
+struct FinsDeCles {
+  alignas(64) MotDe<S> bande[Taille(Largeur<S>::kVoies)] = {};
+  alignas(64) MotDe<S> pile[Taille(Largeur<S>::kVoies)] = {};
+  alignas(64) MotDe<S> aucune[Taille(Largeur<S>::kVoies)] = {};
+
+  constexpr FinsDeCles() {
+    for (int i = 0; i < S * S; ++i) {
+      bande[i] = static_cast<MotDe<S>>((i / S + 1) << S);
+      pile[i] = static_cast<MotDe<S>>((i % S + 1) << S);
+      aucune[i] = static_cast<MotDe<S>>(((S + 1) << S) + i);
+    }
+  }
+};
+template <int S>
+constexpr FinsDeCles<S> kFinsDeCles;
+
+// The keys of units seen through blocks, or of blocks seen through lines: which of S units side by side, and
+// behind these bits which S.
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> Cles(const Voies<S>& places, const BitsDe<S>* parties, const MotDe<S>* fins) {
+  Voies<S> cle = Lit<S>(fins);
+  for (int k = 0; k < S; ++k) {
+    cle |= NonNulles(places & Partout<S>(parties[k])) & Partout<S>(BitsDe<S>{1} << k);
+  }
+  return cle;
+}
+
+template <int S>
+template <class F>
+SUDOKU_EN_LIGNE void TrouveVoies<S>::FiguresDe(int s, F f) const {
+  alignas(64) Mot p[3][Taille(kVoies)];
+  for (auto& deUnGenre : p) Range<S>(deUnGenre, V{});
+  for (int i = 0; i < N; ++i) {
+    for (int g = 0; g < 3; ++g) p[g][i] = places_[Unite(g, i)][s];
+  }
+  const auto figure = [&](GenreUnite genre, Bits unites, GenreUnite genre2, Bits cle) {
+    f({.symbole = s, .genre = genre, .unites = unites, .genre2 = genre2, .cle = cle});
+  };
+  DeLignes(p[kGenreColonne], kGenreColonne, figure);
+  DeLignes(p[kGenreLigne], kGenreLigne, figure);
+  DeCarres(Lit<S>(p[kGenreCarre]), figure);
+}
+
+// The figures whose units are lines of this kind. Confined to crossing lines, then to blocks.
+template <int S>
+template <class F>
+SUDOKU_EN_LIGNE void TrouveVoies<S>::DeLignes(const MotDe<S>* p, GenreUnite genre, F f) {
+  const V lignes = Lit<S>(p);
+  const V comptes = Comptes(lignes);
+  Chaque(Ensembles(lignes, comptes), [&](int premiere) {
+    const Bits unites = Depuis(BitsEgales(Lit<S>(p), Partout<S>(p[premiere])), premiere);
+    f(genre, unites, genre == kGenreLigne ? kGenreColonne : kGenreLigne, p[premiere]);
+  });
+  // Blocks serve only lines with fewer than S places.
+  const V longues = PlusDe(S - 1, comptes);
+  if (S > 3 && Aucune(PlusDe(1, comptes) & ~longues)) return;
+  const V cles = (Cles<S>(lignes, kLieux<S>.groupe, kFinsDeCles<S>.bande) & ~longues) |
+                 (Lit<S>(kFinsDeCles<S>.aucune) & longues);
+  EnCarres(cles, EnsemblesVoisins<S, 1>(cles, comptes), genre, kGenreCarre, f);
+}
+
+// The figures whose units are blocks.
+template <int S>
+template <class F>
+SUDOKU_EN_LIGNE void TrouveVoies<S>::DeCarres(const V& carres, F f) {
+  const V comptes = Comptes(carres);
+  if (S > 3 && Aucune(PlusDe(1, comptes) & ~PlusDe(S, comptes))) return;
+  const V parColonnes = Cles<S>(carres, kLieux<S>.residu, kFinsDeCles<S>.pile);
+  const V parLignes = Cles<S>(carres, kLieux<S>.groupe, kFinsDeCles<S>.bande);
+  EnCarres(parColonnes, EnsemblesVoisins<S, S>(parColonnes, comptes), kGenreCarre, kGenreColonne, f);
+  EnCarres(parLignes, EnsemblesVoisins<S, 1>(parLignes, comptes), kGenreCarre, kGenreLigne, f);
+}
+
+// Figures between lines and blocks. A key names S units side by side, of which some are held.
+template <int S>
+template <class F>
+SUDOKU_EN_LIGNE void TrouveVoies<S>::EnCarres(const V& voies, Bits debuts, GenreUnite genre,
+                                              GenreUnite genre2, F f) {
+  if (debuts == 0) return;
+  alignas(64) Mot cles[Taille(kVoies)];
+  Range<S>(cles, voies);
+  Chaque(debuts, [&](int premiere) {
+    const Bits unites = Depuis(BitsEgales(voies, Partout<S>(cles[premiere])), premiere);
+    const int bande = static_cast<int>(cles[premiere] >> S) - 1;  // or the stack, in which the figure lies
+    Bits cle = 0;
+    for (int k = 0; k < S; ++k) {
+      // Down a column every Sth block comes.
+      const int unite = genre == kGenreColonne ? bande + k * S : bande * S + k;
+      cle |= (Bits{cles[premiere]} >> k & 1) << unite;
+    }
+    f(genre, unites, genre2, cle);
+  });
+}
+
+}  // namespace
+}  // namespace sudoku::SUDOKU_MOTEUR

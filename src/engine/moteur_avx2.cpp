@@ -1,2 +1,0 @@
-#define SUDOKU_MOTEUR moteur_avx2
-#include "engine/moteur.inc"

@@ -1,2 +1,0 @@
-#define SUDOKU_MOTEUR moteur_base
-#include "engine/moteur.inc"

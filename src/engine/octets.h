@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+
+#include "engine/bits.h"
+#include "engine/voies.h"
+
+namespace sudoku::SUDOKU_MOTEUR {
+namespace {
+
+// How many numbers masks have, a byte a mask, for as many of them as a set of type B can name.
+template <class B>
+struct Octets {
+  alignas(64) std::uint8_t n[Taille(64 * kMotsDe<B>)];
+};
+
+// Those of 64 bytes from `premier` to `dernier`.
+inline std::uint64_t Entre64(const std::uint8_t* n, std::uint8_t premier, std::uint8_t dernier) {
+  std::uint64_t bits = 0;
+  const auto plus = static_cast<std::uint8_t>(dernier - premier);
+#if defined(SUDOKU_VOIES_512)
+  const __m512i v = _mm512_sub_epi8(_mm512_loadu_si512(n), _mm512_set1_epi8(static_cast<char>(premier)));
+  bits = _mm512_cmple_epu8_mask(v, _mm512_set1_epi8(static_cast<char>(plus)));
+#elif defined(__SSE2__)
+  for (int i = 0; i < 64; i += 16) {
+    const __m128i octets = _mm_loadu_si128(reinterpret_cast<const __m128i*>(n + i));
+    const __m128i v = _mm_sub_epi8(octets, _mm_set1_epi8(static_cast<char>(premier)));
+    const __m128i la = _mm_cmpeq_epi8(_mm_min_epu8(v, _mm_set1_epi8(static_cast<char>(plus))), v);
+    bits |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm_movemask_epi8(la))) << i;
+  }
+#else
+  for (int i = 0; i < 64; ++i) {
+    bits |= std::uint64_t{static_cast<std::uint8_t>(n[i] - premier) <= plus} << i;
+  }
+#endif
+  return bits;
+}
+
+// The masks of `premier` to `dernier` numbers.
+template <class B>
+B Entre(const Octets<B>& nombres, int premier, int dernier) {
+  B bits{};
+  if (dernier < premier) return bits;
+  for (int i = 0; i < kMotsDe<B>; ++i) {
+    const std::uint64_t mot =
+        Entre64(nombres.n + 64 * i, static_cast<std::uint8_t>(premier), static_cast<std::uint8_t>(dernier));
+    if constexpr (std::is_integral_v<B>)
+      bits = static_cast<B>(mot);
+    else
+      bits[i] = mot;
+  }
+  return bits;
+}
+
+}  // namespace
+}  // namespace sudoku::SUDOKU_MOTEUR

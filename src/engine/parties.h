@@ -1,0 +1,112 @@
+#pragma once
+
+#include "engine/bits.h"
+#include "engine/contenus.h"
+#include "grid/geometrie.h"
+
+// What units of a grid with blocks of side S share, for sets of any width.
+namespace sudoku::SUDOKU_MOTEUR {
+namespace {
+
+// A figure of symbol `symbole`: its units and those it is confined to, kinds and sets of numbers - 1.
+template <class Bits>
+struct FigureDe {
+  int symbole;
+  GenreUnite genre;
+  Bits unites;
+  GenreUnite genre2;
+  Bits cle;
+
+  // By kind (columns first), first unit, symbol, other kind.
+  int Ordre() const {
+    constexpr int kPlus = kTailleMax + 1;
+    return ((kPlus * (2 - genre) + Premier(unites)) * kPlus + symbole) * 3 + 2 - genre2;
+  }
+};
+
+template <class Bits>
+struct Parties {
+  int S;
+  Bits groupe[13] = {};  // places in a row of a block, of a line
+  Bits residu[13] = {};  // places in a column of a block
+
+  constexpr explicit Parties(int s) : S(s) {
+    for (int i = 0; i < S * S; ++i) {
+      groupe[i / S] |= Bit<Bits>(i);
+      residu[i % S] |= Bit<Bits>(i);
+    }
+  }
+
+  // Cell, from 0, at a place of unit u.
+  constexpr int Cellule(int u, int place) const {
+    const int N = S * S;
+    const int n = u / 3;
+    if (u % 3 == kGenreLigne) return n * N + place;
+    if (u % 3 == kGenreColonne) return place * N + n;
+    return (n / S * S + place / S) * N + n % S * S + place % S;
+  }
+  // The unit of a kind that has the cell, and the cell's place in it.
+  constexpr int UniteDe(int genre, int cellule) const {
+    const int l = cellule / (S * S);
+    const int c = cellule % (S * S);
+    return Unite(genre, genre == kGenreLigne ? l : genre == kGenreColonne ? c : l / S * S + c / S);
+  }
+  constexpr int PlaceDe(int genre, int cellule) const {
+    const int l = cellule / (S * S);
+    const int c = cellule % (S * S);
+    return genre == kGenreLigne ? c : genre == kGenreColonne ? l : l % S * S + c % S;
+  }
+
+  struct Commune {
+    int unite = -1;
+    Bits places{};  // of that unit, which the first one has too
+  };
+  // The unit of another kind that has all these places of unit u, two or more; unite -1 if there is none.
+  constexpr Commune UniteCommune(int u, const Bits& lieux) const {
+    const int premier = Premier(lieux);
+    const int bande = u / 3 / S;
+    const int pile = u / 3 % S;
+    const int g = premier / S;
+    if (Vide(lieux & ~groupe[g])) {
+      if (u % 3 == kGenreCarre) return {Unite(kGenreLigne, bande * S + g), groupe[pile]};
+      if (u % 3 == kGenreLigne) return {Unite(kGenreCarre, bande * S + g), groupe[pile]};
+      return {Unite(kGenreCarre, g * S + bande), residu[pile]};
+    }
+    const int r = premier % S;
+    if (u % 3 == kGenreCarre && Vide(lieux & ~residu[r]))
+      return {Unite(kGenreColonne, pile * S + r), groupe[bande]};
+    return {};
+  }
+
+  // The places that the units of a figure have in each of those it is confined to. Where blocks are among
+  // them all lie in one band or stack.
+  constexpr Bits Dedans(const FigureDe<Bits>& f) const {
+    if (f.genre != kGenreCarre && f.genre2 != kGenreCarre) return f.unites;
+    Bits dedans{};
+    Chaque(f.unites, [&](int i) {
+      if (f.genre == kGenreCarre)
+        dedans |= groupe[f.genre2 == kGenreColonne ? i / S : i % S];
+      else
+        dedans |= f.genre == kGenreColonne ? residu[i % S] : groupe[i % S];
+    });
+    return dedans;
+  }
+  // Numbers - 1 of the units of kind genre2 that have these places of unit u, where one of the two is a
+  // block.
+  constexpr Bits Cle(int u, GenreUnite genre2, const Bits& lieux) const {
+    const int bande = u / 3 / S;
+    const int pile = u / 3 % S;
+    const int genre = u % 3;
+    Bits cle{};
+    for (int k = 0; k < S; ++k) {
+      const bool colonnes = genre == kGenreCarre && genre2 == kGenreColonne;
+      if (Vide(lieux & (colonnes ? residu[k] : groupe[k]))) continue;
+      const int suite = colonnes ? pile * S + k : bande * S + k;
+      cle |= Bit<Bits>(genre == kGenreColonne ? k * S + bande : suite);
+    }
+    return cle;
+  }
+};
+
+}  // namespace
+}  // namespace sudoku::SUDOKU_MOTEUR

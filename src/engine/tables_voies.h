@@ -1,0 +1,86 @@
+#pragma once
+
+#include "engine/voies.h"
+
+// Tables made of a board's contents, lanes for one unit at a time.
+namespace sudoku::SUDOKU_MOTEUR {
+namespace {
+
+// What is left of all symbols in each lane without `prises` and those of unit number n of `symboles`.
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> Laisse(const Voies<S>& prises, const MotDe<S>* symboles, int n,
+                                const Voies<S, 1>& ouvertes) {
+  const BitsDe<S> laissent = kTousDe<S> & ~Lu<S>(symboles, n);
+  return Voies<S>::De(
+      [&](int i) { return ~prises.r[i] & Partout<S>(laissent, i) & ouvertes.r[i % Voies<S, 1>::kTous]; });
+}
+
+// Calls f(row, candidates by column, lanes of its open cells) for each row.
+template <int S, class F>
+SUDOKU_EN_LIGNE void ChaqueLigne(const Contenus<S>& contenus, F f) {
+  const Voies<S> colonnes = Lit<S>(contenus.symboles[kGenreColonne]);
+  ChaqueConstante<S>([&](auto bande) {
+    const Voies<S> prises = Etire<S, S, 1>(contenus.symboles[kGenreCarre], bande) | colonnes;
+    for (int l = bande * S; l < (bande + 1) * S; ++l) {
+      const Voies<S, 1> ouvertes = Etale<S>(Lu<S>(contenus.ouvertes[kGenreLigne], l));
+      f(l, Laisse<S>(prises, contenus.symboles[kGenreLigne], l, ouvertes), ouvertes);
+    }
+  });
+}
+
+// The same for each column, by row.
+template <int S, class F>
+SUDOKU_EN_LIGNE void ChaqueColonne(const Contenus<S>& contenus, F f) {
+  const Voies<S> lignes = Lit<S>(contenus.symboles[kGenreLigne]);
+  ChaqueConstante<S>([&](auto pile) {
+    const Voies<S> prises = Etire<S, 1, S>(contenus.symboles[kGenreCarre], pile) | lignes;
+    for (int c = pile * S; c < (pile + 1) * S; ++c) {
+      const Voies<S, 1> ouvertes = Etale<S>(Lu<S>(contenus.ouvertes[kGenreColonne], c));
+      f(c, Laisse<S>(prises, contenus.symboles[kGenreColonne], c, ouvertes));
+    }
+  });
+}
+
+// The parts k of a unit for which the units `de` hold number premiere + k * pas, a lane a symbol.
+template <int S>
+SUDOKU_EN_LIGNE Voies<S> Etend(const BitsDe<S>* parties, const Voies<S>& de, int premiere, int pas) {
+  Voies<S> etendues{};
+  for (int k = 0; k < S; ++k) {
+    const Voies<S, 1> la = Avec<S>(de, premiere + k * pas);
+    Voies<S>::Chaque(
+        [&](int i) { etendues.r[i] |= la.r[i % Voies<S, 1>::kTous] & Partout<S>(parties[k], i); });
+  }
+  return etendues;
+}
+
+// Calls f(unit, places by symbol) for each unit. The places of a symbol in a unit are its open cells but for
+// those in units that have the symbol.
+template <int S, class F>
+SUDOKU_EN_LIGNE void ChaquePlaces(const Contenus<S>& contenus, F f) {
+  const auto& parties = kParties<S>;
+  const Voies<S> lignes = Lit<S>(contenus.unites[kGenreLigne]);
+  const Voies<S> colonnes = Lit<S>(contenus.unites[kGenreColonne]);
+  const Voies<S> carres = Lit<S>(contenus.unites[kGenreCarre]);
+  const auto une = [&](int genre, int numero, const Voies<S>& de, const Voies<S>& prises) {
+    const Voies<S, 1> avec = Avec<S>(de, numero);
+    const BitsDe<S> ouvertes = Lu<S>(contenus.ouvertes[genre], numero);
+    f(Unite(genre, numero), Voies<S>::De([&](int i) {
+        return Partout<S>(ouvertes, i) & ~(prises.r[i] | avec.r[i % Voies<S, 1>::kTous]);
+      }));
+  };
+  Voies<S> colonnesDuCarre[Taille(S)];
+  for (int g = 0; g < S; ++g) colonnesDuCarre[g] = Etend<S>(parties.residu, colonnes, S * g, 1);
+  for (int g = 0; g < S; ++g) {
+    const Voies<S> prisesLigne = Etend<S>(parties.groupe, carres, S * g, 1) | colonnes;
+    const Voies<S> prisesColonne = Etend<S>(parties.groupe, carres, g, S) | lignes;
+    const Voies<S> prisesCarre = Etend<S>(parties.groupe, lignes, S * g, 1);
+    for (int k = 0; k < S; ++k) {
+      une(kGenreLigne, S * g + k, lignes, prisesLigne);
+      une(kGenreColonne, S * g + k, colonnes, prisesColonne);
+      une(kGenreCarre, S * g + k, carres, prisesCarre | colonnesDuCarre[k]);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace sudoku::SUDOKU_MOTEUR

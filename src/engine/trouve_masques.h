@@ -1,0 +1,232 @@
+#pragma once
+
+#include <algorithm>
+#include <vector>
+
+#include "engine/deductions.h"
+#include "engine/octets.h"
+
+namespace sudoku::SUDOKU_MOTEUR {
+namespace {
+
+// Finds deductions one mask after the other, by how many numbers the masks have: what counts can't tell apart
+// is compared. The part of a Trouveur that goes with tables of any kind; these are Dos's:
+//   N(), DesParties()             the size of the board, and its Parties
+//   Places(u, s)                  of a symbol in a unit, and NombresDePlaces(u) how many, by symbol
+//   NombresDuSymbole(genre, s)    the same for the units of a kind, by number - 1
+//   Perdants(u, s, sauf)          places of unit u, but for `sauf`, that can lose the symbol
+//   Autres(u, lieux, symboles)    places among `lieux` whose candidates aren't just these symbols
+//   Fois(reste, s)                how often a symbol of `reste` stands there
+//   Premiere(s)                   the symbol by which Places knows it
+//   kDifferents                   no two symbols are equal
+//   Nue(u, n, find)               the first naked set that begins at place n of a unit or behind it and has
+//                                 something to take; false if there is none
+//   AChercher()                   symbols whose figures are to be searched for, and takes them as searched
+template <class Dos, class B>
+class TrouveMasques {
+ public:
+  using Bits = B;
+
+  template <class F>
+  void ChaqueSeule(int u, const B& reste, F f) {
+    Chaque(Entre(dos().NombresDePlaces(u), 1, 1) & reste, [&](int s) { f(s, Premier(dos().Places(u, s))); });
+  }
+  template <class F>
+  void ChaqueConfinee(int u, const B& reste, F f);
+  template <class F>
+  void ChaqueCachee(int u, const B& reste, F f);
+  template <class F>
+  void ChaqueNue(int u, F f) {
+    Trouvaille<B> t;
+    for (int depuis = 0; dos().Nue(u, depuis, t); depuis = Premier(t.lieux) + 1) f(t);
+  }
+  template <class F>
+  void ChaqueFigure(F f);
+
+ protected:
+  struct Element {
+    int numero;
+    int voulu;  // of this mask make a set
+    B masque;
+  };
+  // Masks, ascending by their numbers. A set begins where its mask stands, there and behind, just as often as
+  // is wanted.
+  struct Liste {
+    std::vector<Element> elements;
+
+    // Calls f(some element, numbers of the set's masks) for each set, ascending, and empties the list.
+    template <class F>
+    void ChaqueEnsemble(F f);
+
+   private:
+    struct Ensemble {
+      Element element;
+      B numeros;
+    };
+
+    void EnleveRares();
+
+    std::vector<Ensemble> ensembles_;
+  };
+  // Without those of which there are too few, of whatever masks, to make a set.
+  static B Assez(const Octets<B>& nombres, const B& parmi);
+
+  Liste liste_;
+
+ private:
+  Dos& dos() { return static_cast<Dos&>(*this); }
+
+  template <class F>
+  void EntreLignes(int s, GenreUnite genre, F f);
+  template <class F>
+  void AvecCarres(int s, GenreUnite genre, GenreUnite genre2, F f);
+};
+
+template <class Dos, class B>
+template <class F>
+void TrouveMasques<Dos, B>::Liste::ChaqueEnsemble(F f) {
+  // All that are equal to the first that is left make a group; what its set doesn't want of it stands in
+  // front.
+  ensembles_.clear();
+  EnleveRares();
+  while (!elements.empty()) {
+    const Element e = elements.front();
+    const auto egal = [&](const Element& autre) {
+      return autre.voulu == e.voulu && autre.masque == e.masque;
+    };
+    auto trop = std::ranges::count_if(elements, egal) - e.voulu;
+    Ensemble ensemble{e, B{}};
+    std::erase_if(elements, [&](const Element& autre) {
+      if (!egal(autre)) return false;
+      if (trop-- <= 0) ensemble.numeros |= Bit<B>(autre.numero);
+      return true;
+    });
+    if (e.voulu > 1 && Nombre(ensemble.numeros) == e.voulu) ensembles_.push_back(ensemble);
+  }
+  std::ranges::sort(ensembles_, {}, [](const Ensemble& un) { return Premier(un.numeros); });
+  for (const Ensemble& un : ensembles_) f(un.element, un.numeros);
+}
+
+// Most masks that are there too few times go by one look at a byte made of each.
+template <class Dos, class B>
+void TrouveMasques<Dos, B>::Liste::EnleveRares() {
+  std::uint8_t combien[256] = {};
+  const auto octet = [](const Element& e) {
+    std::uint64_t h = 0;
+    for (int i = 0; i < kMotsDe<B>; ++i) h = (h ^ Mot(e.masque, i)) * 0x9E3779B97F4A7C15U;
+    return h >> 56;
+  };
+  for (const Element& e : elements) ++combien[octet(e)];
+  std::erase_if(elements, [&](const Element& e) { return combien[octet(e)] < e.voulu; });
+}
+
+template <class Dos, class B>
+B TrouveMasques<Dos, B>::Assez(const Octets<B>& nombres, const B& parmi) {
+  std::uint8_t combien[256] = {};
+  bool quelques = false;
+  Chaque(parmi, [&](int i) { quelques |= ++combien[nombres.n[i]] == nombres.n[i]; });
+  B assez{};
+  if (!quelques) return assez;
+  // A set of all masks that aren't empty takes nothing.
+  const int tous = Dos::kDifferents ? Nombre(Entre(nombres, 1, 255)) : 0;
+  Chaque(parmi, [&](int i) {
+    if (combien[nombres.n[i]] >= nombres.n[i] && nombres.n[i] != tous) assez |= Bit<B>(i);
+  });
+  return assez;
+}
+
+template <class Dos, class B>
+template <class F>
+void TrouveMasques<Dos, B>::ChaqueConfinee(int u, const B& reste, F f) {
+  const auto& parties = dos().DesParties();
+  Chaque(Entre(dos().NombresDePlaces(u), 2, parties.S) & reste, [&](int s) {
+    const B lieux = dos().Places(u, s);
+    const auto commune = parties.UniteCommune(u, lieux);
+    if (commune.unite < 0) return;
+    const B perdants = dos().Perdants(commune.unite, s, commune.places);
+    if (Vide(perdants)) return;
+    f({.symboles = Bit<B>(s), .lieux = lieux, .perdants = perdants, .unite = commune.unite});
+  });
+}
+
+// Sets of symbols with equal places, so many of them as they have places. A symbol that stands twice notes
+// each of its places twice.
+template <class Dos, class B>
+template <class F>
+void TrouveMasques<Dos, B>::ChaqueCachee(int u, const B& reste, F f) {
+  const Octets<B>& nombres = dos().NombresDePlaces(u);
+  const B assez = Assez(nombres, Entre(nombres, 2, dos().N()) & reste);
+  if (Vide(assez)) return;
+  B notes{};
+  Chaque(assez, [&](int s) {
+    const int premiere = dos().Premiere(s);
+    if (Contient(notes, premiere)) return;
+    notes |= Bit<B>(premiere);
+    liste_.elements.push_back({premiere, nombres.n[s] * dos().Fois(reste, s), dos().Places(u, s)});
+  });
+  liste_.ChaqueEnsemble([&](const Element& e, const B& symboles) {
+    const B autres = dos().Autres(u, e.masque, symboles);
+    if (Vide(autres)) return;
+    f({.symboles = symboles, .lieux = e.masque, .perdants = autres, .fois = e.voulu / Nombre(e.masque)});
+  });
+}
+
+template <class Dos, class B>
+template <class F>
+void TrouveMasques<Dos, B>::ChaqueFigure(F f) {
+  Chaque(dos().AChercher(), [&](int s) {
+    for (const GenreUnite genre : {kGenreColonne, kGenreLigne}) {
+      EntreLignes(s, genre, f);
+      AvecCarres(s, genre, kGenreCarre, f);
+      AvecCarres(s, kGenreCarre, genre, f);
+    }
+  });
+}
+
+// Between lines the places themselves say to which units a unit is confined.
+template <class Dos, class B>
+template <class F>
+void TrouveMasques<Dos, B>::EntreLignes(int s, GenreUnite genre, F f) {
+  const Octets<B>& nombres = dos().NombresDuSymbole(genre, s);
+  const B assez = Assez(nombres, Entre(nombres, 2, dos().N() - 1));
+  if (Vide(assez)) return;
+  Chaque(assez, [&](int v) {
+    liste_.elements.push_back({v, nombres.n[v], dos().Places(Unite(genre, v), s)});
+  });
+  const GenreUnite genre2 = genre == kGenreLigne ? kGenreColonne : kGenreLigne;
+  liste_.ChaqueEnsemble([&](const Element& e, const B& unites) {
+    f({.symbole = s, .genre = genre, .unites = unites, .genre2 = genre2, .cle = e.masque});
+  });
+}
+
+// Between blocks and lines only units side by side, S of them, can be confined to the same ones: those of the
+// band, or the stack, which they cross. Blocks serve so only lines with fewer than S places.
+template <class Dos, class B>
+template <class F>
+void TrouveMasques<Dos, B>::AvecCarres(int s, GenreUnite genre, GenreUnite genre2, F f) {
+  const auto& parties = dos().DesParties();
+  const int S = parties.S;
+  const Octets<B>& nombres = dos().NombresDuSymbole(genre, s);
+  const int pas = genre == kGenreCarre && genre2 == kGenreColonne ? S : 1;
+  const int maximum = genre2 == kGenreCarre ? S - 1 : dos().N() - 1;
+  const auto cle = [&](int v) {
+    return parties.Cle(Unite(genre, v), genre2, dos().Places(Unite(genre, v), s));
+  };
+  Chaque(Entre(nombres, 2, genre2 == kGenreCarre ? S - 1 : S), [&](int premiere) {
+    const int fin = pas == 1 ? (premiere / S + 1) * S : premiere % S + dos().N();
+    const int n = nombres.n[premiere];
+    if (n > (fin - premiere) / pas) return;
+    const B celle = cle(premiere);
+    B unites{};
+    int k = 0;
+    for (int v = premiere; v < fin; v += pas) {
+      if (nombres.n[v] == 0 || nombres.n[v] > maximum || !(cle(v) == celle)) continue;
+      unites |= Bit<B>(v);
+      ++k;
+    }
+    if (k == n) f({.symbole = s, .genre = genre, .unites = unites, .genre2 = genre2, .cle = celle});
+  });
+}
+
+}  // namespace
+}  // namespace sudoku::SUDOKU_MOTEUR

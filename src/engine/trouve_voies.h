@@ -1,0 +1,239 @@
+#pragma once
+
+#include <cstring>
+
+#include "engine/deductions.h"
+#include "engine/ensembles.h"
+#include "engine/suivi.h"
+#include "engine/tables_voies.h"
+
+namespace sudoku::SUDOKU_MOTEUR {
+namespace {
+
+// Finds deductions on a board of blocks of side S, up to 8, whose cells hold single symbols, all different:
+// vectors with a lane for each symbol or place of a unit, so that all of them are looked at together. A
+// Trouveur; what each member means stands there.
+template <int S>
+class TrouveVoies : public Suivi<S> {
+ public:
+  using Bits = BitsDe<S>;
+  using V = Voies<S>;
+  using Suivi<S>::Suivi;
+
+  Bits CandidatsDe(int cellule) const { return candidats_[Unite(kGenreLigne, cellule / N)][cellule % N]; }
+  // The candidates of the N cells of a row.
+  const MotDe<S>* CandidatsDeLigne(int ligne) const { return candidats_[Unite(kGenreLigne, ligne)]; }
+
+  // The places of each symbol that is left to place in a unit, and how many.
+  struct EtatUnite {
+    V places;
+    V comptes;
+    V seules;  // lanes with one
+  };
+
+  bool Amorce(Appui appui);
+  void Retourne();
+  EtatUnite Reste(int u) const;
+  template <class F>
+  void ChaqueSeule(int u, const EtatUnite& e, F f) const;
+  template <class F>
+  void ChaqueConfinee(int u, const EtatUnite& e, F f);
+  template <class F>
+  void ChaqueCachee(int u, const EtatUnite& e, F f);
+  template <class F>
+  void ChaqueNue(int u, F f) const;
+  template <class F>
+  void ChaqueFigure(F f);
+  template <class F>
+  void ChaqueSeul(F f);
+
+  Bits Places(int u, int symbole) const { return places_[u][symbole]; }
+  Bits HorsDe(int cellule, Bits symboles) const { return CandidatsDe(cellule) & ~symboles; }
+
+  bool Enleve(int cellule, int symbole) { return EnleveTous(cellule, UnBit(symbole)); }
+  bool EnleveNue(int cellule, const Trouvaille<Bits>& t) {
+    return EnleveTous(cellule, CandidatsDe(cellule) & t.symboles);
+  }
+  void Remplace(int cellule, Bits sequence);
+
+ private:
+  using Base = Suivi<S>;
+  using Base::contenus_, Base::prouves_, Base::kVoies, Base::kUnites, Base::N;
+  using Mot = MotDe<S>;
+
+  static Bits UnBit(int n) { return Bit<Bits>(n); }
+
+  template <class F>
+  void FiguresDe(int s, F f) const;
+  template <class F>
+  static void DeLignes(const Mot* p, GenreUnite genre, F f);
+  template <class F>
+  static void DeCarres(const V& carres, F f);
+  template <class F>
+  static void EnCarres(const V& voies, Bits debuts, GenreUnite genre, GenreUnite genre2, F f);
+  bool EnleveTous(int cellule, Bits symboles);
+
+  // Candidates by unit and place, places by unit and symbol; lanes from N on stay 0.
+  alignas(64) Mot candidats_[Taille(kUnites)][Taille(kVoies)];
+  alignas(64) Mot places_[Taille(kUnites)][Taille(kVoies)];
+};
+
+template <int S>
+bool TrouveVoies<S>::Amorce(Appui appui) {
+  Base::Commence(appui);
+  V nuls{};
+  ChaqueLigne<S>(contenus_, [&](int l, const V& c, const V& ouvertes) SUDOKU_LAMBDA_EN_LIGNE {
+    Range<S>(candidats_[Unite(kGenreLigne, l)], c);
+    nuls |= Nulles(c) & ouvertes;
+    Base::NoteSeuls(l, EnBits(Seules(c)));
+  });
+  return Aucune(nuls);
+}
+
+// The rest of the tables, from the contents and the candidates by row.
+template <int S>
+void TrouveVoies<S>::Retourne() {
+  ChaqueColonne<S>(contenus_, [&](int c, const V& colonne) SUDOKU_LAMBDA_EN_LIGNE {
+    Range<S>(candidats_[Unite(kGenreColonne, c)], colonne);
+  });
+  for (int b = 0; b < N; ++b) {
+    Mot* const carre = candidats_[Unite(kGenreCarre, b)];
+    Range<S>(carre, V{});
+    for (int l = 0; l < S; ++l) {
+      std::memcpy(carre + S * l, candidats_[Unite(kGenreLigne, b / S * S + l)] + b % S * S, S * sizeof(Mot));
+    }
+  }
+  ChaquePlaces<S>(contenus_,
+                  [&](int u, const V& places) SUDOKU_LAMBDA_EN_LIGNE { Range<S>(places_[u], places); });
+  Base::ToutSale();
+}
+
+template <int S>
+SUDOKU_EN_LIGNE typename TrouveVoies<S>::EtatUnite TrouveVoies<S>::Reste(int u) const {
+  V places = Lit<S>(places_[u]);
+  if (prouves_[u] != 0) {
+    alignas(64) Mot copie[Taille(kVoies)];
+    Range<S>(copie, places);
+    Chaque(prouves_[u], [&](int s) { copie[s] = 0; });
+    places = Lit<S>(copie);
+  }
+  const V comptes = Comptes(places);
+  return {places, comptes, Egales(comptes, Partout<S>(1))};
+}
+
+template <int S>
+template <class F>
+SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueSeule(int, const EtatUnite& e, F f) const {
+  const Bits symboles = EnBits(e.seules);
+  if (symboles == 0) return;
+  alignas(64) Mot p[Taille(kVoies)];
+  Range<S>(p, e.places);
+  Chaque(symboles, [&](int s) { f(s, std::countr_zero(Bits{p[s]})); });
+}
+
+template <int S>
+template <class F>
+SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueConfinee(int u, const EtatUnite& e, F f) {
+  // A part has S cells; in a large unit there is often no symbol with so few places.
+  if (S > 3 && Aucune(PlusDe(1, e.comptes) & ~PlusDe(S, e.comptes))) return;
+  const Croisements<S>& croisements = kLieux<S>.croisements[u];
+  const V places = e.places & ~e.seules;
+  const V ou = places | Nulles(places);  // a symbol without places isn't confined to anything
+  const int n = u % 3 == kGenreCarre ? 2 * S : S;
+  V perdants[Taille(2 * S)];
+  V tous{};
+  for (int k = 0; k < n; ++k) {
+    const auto& c = croisements.un[k];
+    perdants[k] = Lit<S>(places_[c.unite]) & Nulles(ou & Partout<S>(c.horsDeIci)) & Partout<S>(c.horsDeLa);
+    tous |= perdants[k];
+  }
+  if (Aucune(tous)) return;
+  for (int k = 0; k < n; ++k) {
+    const Bits symboles = BitsNonNulles(perdants[k]);
+    if (symboles == 0) continue;
+    alignas(64) Mot p[Taille(kVoies)];
+    Range<S>(p, perdants[k]);
+    Chaque(symboles, [&](int s) {
+      f({.symboles = UnBit(s), .lieux = places_[u][s], .perdants = p[s], .unite = croisements.un[k].unite});
+    });
+  }
+}
+
+template <int S>
+template <class F>
+SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueCachee(int u, const EtatUnite& e, F f) {
+  const Bits debuts = Ensembles(e.places, e.comptes);
+  if (debuts == 0) return;
+  alignas(64) Mot places[Taille(kVoies)];
+  Range<S>(places, e.places);
+  Chaque(debuts, [&](int premier) {
+    const Bits lieux = places[premier];
+    const Bits sequence = Depuis(BitsEgales(Lit<S>(places), Partout<S>(lieux)), premier);
+    const Bits autres = lieux & ~BitsEgales(Lit<S>(candidats_[u]), Partout<S>(sequence));
+    if (autres != 0) f({.symboles = sequence, .lieux = lieux, .perdants = autres});
+  });
+}
+
+template <int S>
+template <class F>
+SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueNue(int u, F f) const {
+  V candidats = Lit<S>(candidats_[u]);
+  Bits debuts = Ensembles(candidats, Comptes(candidats));
+  while (debuts != 0) {
+    const int premier = std::countr_zero(debuts);
+    debuts &= debuts - 1;
+    const Bits sequence = candidats_[u][premier];
+    const Bits egales = BitsEgales(candidats, Partout<S>(sequence));
+    const Bits perdants = BitsNonNulles(candidats & Partout<S>(sequence)) & ~egales;
+    if (perdants == 0) continue;
+    f({.symboles = sequence, .lieux = Depuis(egales, premier), .perdants = perdants});
+    candidats = Lit<S>(candidats_[u]);
+    debuts = Depuis(Ensembles(candidats, Comptes(candidats)), premier + 1);
+  }
+}
+
+template <int S>
+bool TrouveVoies<S>::EnleveTous(int cellule, Bits symboles) {
+  const Lieu<S>& lieu = kLieux<S>.lieux[cellule];
+  for (int g = 0; g < 3; ++g) {
+    const int u = lieu.unite[g];
+    candidats_[u][lieu.place[g]] &= static_cast<Mot>(~symboles);
+    Chaque(symboles, [&](int s) { places_[u][s] &= static_cast<Mot>(~UnBit(lieu.place[g])); });
+  }
+  Base::Salit(cellule, symboles);
+  const Bits reste = CandidatsDe(cellule);
+  if ((reste & (reste - 1)) == 0) Base::NoteSeul(cellule);
+  return reste != 0;
+}
+
+// Two symbols or more. Sets that overlap, in a contradictory board, can bring a symbol back; everything is
+// looked at again then.
+template <int S>
+void TrouveVoies<S>::Remplace(int cellule, Bits sequence) {
+  const Lieu<S>& lieu = kLieux<S>.lieux[cellule];
+  const Bits avant = CandidatsDe(cellule);
+  for (int g = 0; g < 3; ++g) {
+    const int u = lieu.unite[g];
+    candidats_[u][lieu.place[g]] = static_cast<Mot>(sequence);
+    Chaque(avant ^ sequence, [&](int s) { places_[u][s] ^= static_cast<Mot>(UnBit(lieu.place[g])); });
+  }
+  Base::Salit(cellule, avant & ~sequence);
+  if ((sequence & ~avant) != 0) Base::ToutSale();
+}
+
+template <int S>
+template <class F>
+void TrouveVoies<S>::ChaqueSeul(F f) {
+  Base::ChaqueNote([&](int cellule) {
+    const Bits reste = CandidatsDe(cellule);
+    if (std::popcount(reste) == 1) f(cellule, std::countr_zero(reste));
+  });
+}
+
+template <int S, class U>
+using Deductions = DeductionsSur<TrouveVoies<S>, U>;
+
+}  // namespace
+}  // namespace sudoku::SUDOKU_MOTEUR
+
+#include "engine/figures_voies.h"

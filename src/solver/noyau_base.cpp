@@ -1,2 +1,0 @@
-#define SUDOKU_MOTEUR noyau_base
-#include "solver/noyau_passe.inc"
