@@ -14,8 +14,8 @@ void Mesure(benchmark::State& state, const Alea& alea) {
   Grille grille = Grille::Nouvelle(jeu, SymbolesPour(alea.N));
   Charge(alea, grille);
   jeu.VgEtat = kJeu;
-  Evaluateur moteur(jeu);
-  for (auto _ : state) benchmark::DoNotOptimize(moteur.Evaluation(grille, 2));
+  Evaluateur evaluateur(jeu);
+  for (auto _ : state) benchmark::DoNotOptimize(evaluateur.Evaluation(grille, 2));
 }
 
 // A board that the player has nearly filled, as a game that is loaded: the evaluation proves one entry after
@@ -25,13 +25,13 @@ void MesurePreuves(benchmark::State& state, int N) {
   const Grille depart = Grille::Nouvelle(jeu, SymbolesPour(N));
   Charge({.N = N, .rempli = 95, .dixieme = true}, depart);
   Grille grille;
-  Evaluateur moteur(jeu);
+  Evaluateur evaluateur(jeu);
   for (auto _ : state) {
     GrilleCopy(depart, grille);
     jeu.VgEtat = kJeu;
-    benchmark::DoNotOptimize(moteur.Evaluation(grille, 2));
+    benchmark::DoNotOptimize(evaluateur.Evaluation(grille, 2));
   }
-  state.SetLabel(std::to_string(moteur.Reprises() / static_cast<std::uint64_t>(state.iterations())) +
+  state.SetLabel(std::to_string(evaluateur.Reprises() / static_cast<std::uint64_t>(state.iterations())) +
                  " passages");
 }
 

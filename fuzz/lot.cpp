@@ -51,10 +51,11 @@ class Resolveur : public lot::Ouvrier {
     lot::LecteurGrille lecteur(jeu, appel_.symboles);
     if (lecteur.Lis(champ)) return;
     jeu.VgEtat = kJeu;
-    Evaluateur moteur(jeu);
+    Evaluateur evaluateur(jeu);
     Impatient plateau;
     try {
-      AutoDriver(jeu, moteur, plateau, lecture_).JeuAuto(true, !appel_.deduction && Vides(jeu) <= kVidesMax);
+      AutoDriver(jeu, evaluateur, plateau, lecture_)
+          .JeuAuto(true, !appel_.deduction && Vides(jeu) <= kVidesMax);
     } catch (const Impatient::Assez&) {
       return;
     }

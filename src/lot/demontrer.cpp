@@ -53,9 +53,9 @@ class Demontrer : public Ouvrier, private Auditeur {
 
   bool supposer_;
   GameState jeu_;
-  Evaluateur moteur_{jeu_};
+  Evaluateur evaluateur_{jeu_};
   Repondeur repondeur_;
-  AutoDriver driver_{jeu_, moteur_, repondeur_, Lecture::kContenus, this};
+  AutoDriver driver_{jeu_, evaluateur_, repondeur_, Lecture::kContenus, this};
   LecteurGrille lecteur_;
   std::unique_ptr<Recit> recit_;
   Etape etape_;

@@ -30,7 +30,7 @@ class Expliquer : public Ouvrier {
       return;
     }
     jeu_.VgEtat = passes_ == 1 ? kSaisieGrille : kJeu;
-    const int verdict = moteur_.Evaluation(jeu_.VmGrille, passes_);
+    const int verdict = evaluateur_.Evaluation(jeu_.VmGrille, passes_);
     if (texte_) {
       EcrisTexte(champ, verdict, reponse.sortie);
     } else {
@@ -50,7 +50,7 @@ class Expliquer : public Ouvrier {
   int passes_;
   bool texte_;
   GameState jeu_;
-  Evaluateur moteur_{jeu_};
+  Evaluateur evaluateur_{jeu_};
   LecteurGrille lecteur_;
   SymbolesUtf8 symboles_;
 };

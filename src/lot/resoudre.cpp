@@ -38,9 +38,9 @@ class Resoudre : public Ouvrier {
 
   bool deduction_;
   GameState jeu_;
-  Evaluateur moteur_{jeu_};
+  Evaluateur evaluateur_{jeu_};
   Repondeur repondeur_;
-  AutoDriver driver_{jeu_, moteur_, repondeur_, Lecture::kContenus};
+  AutoDriver driver_{jeu_, evaluateur_, repondeur_, Lecture::kContenus};
   LecteurGrille lecteur_;
   SymbolesUtf8 symboles_;
 };

@@ -35,11 +35,11 @@ class Verifier : public Ouvrier {
   bool SaisiesJustes() const;
 
   GameState jeu_;
-  Evaluateur moteur_{jeu_};
+  Evaluateur evaluateur_{jeu_};
   SansPlateau plateau_;
-  AutoDriver driver_{jeu_, moteur_, plateau_};
+  AutoDriver driver_{jeu_, evaluateur_, plateau_};
   Route route_;
-  AutoDriver conteur_{jeu_, moteur_, plateau_, Lecture::kContenus, &route_};
+  AutoDriver conteur_{jeu_, evaluateur_, plateau_, Lecture::kContenus, &route_};
   LecteurGrille lecteur_;
   CompteurSolutions compteur_;
 };
@@ -109,7 +109,7 @@ bool Verifier::SaisiesJustes() const {
 int Verifier::Rejoue(Temoin& temoin) {
   jeu_.VgEtat = kJeu;
   for (int evaluations = 1;; ++evaluations) {
-    const int verdict = moteur_.Evaluation(jeu_.VmGrille, 2);
+    const int verdict = evaluateur_.Evaluation(jeu_.VmGrille, 2);
     temoin.Examine(jeu_.VmGrille, verdict);
     if (verdict < 0 || !Remplis()) return evaluations;
   }

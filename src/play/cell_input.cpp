@@ -14,9 +14,9 @@ void CellInput::ChangeCase(int Index) {
   cellule.Valeur(plateau_.TxtCase(Index).Text);
   saisies_.Note(Index, avant, cellule.ValeurSaisie());
   if (jeu_.VgEtat == kSaisieGrille) {
-    moteur_.Evaluation(jeu_.VmGrille, 1);
+    evaluateur_.Evaluation(jeu_.VmGrille, 1);
   } else if (jeu_.VgEtat == kJeu) {
-    if (moteur_.Evaluation(jeu_.VmGrille, 2) == 0) FinDuJeu();
+    if (evaluateur_.Evaluation(jeu_.VmGrille, 2) == 0) FinDuJeu();
   }
   affichage_.Affiche();
   affichage_.SetMenus();

@@ -13,12 +13,12 @@ namespace sudoku {
 // What the user does on the board.
 class CellInput {
  public:
-  CellInput(GameState& jeu, Plateau& plateau, Saisies& saisies, Evaluateur& moteur, BoardDisplay& affichage,
-            Chrono& chrono, Assistant& assistant, Stockage& stockage)
+  CellInput(GameState& jeu, Plateau& plateau, Saisies& saisies, Evaluateur& evaluateur,
+            BoardDisplay& affichage, Chrono& chrono, Assistant& assistant, Stockage& stockage)
       : jeu_(jeu),
         plateau_(plateau),
         saisies_(saisies),
-        moteur_(moteur),
+        evaluateur_(evaluateur),
         affichage_(affichage),
         chrono_(chrono),
         assistant_(assistant),
@@ -39,7 +39,7 @@ class CellInput {
   GameState& jeu_;
   Plateau& plateau_;
   Saisies& saisies_;
-  Evaluateur& moteur_;
+  Evaluateur& evaluateur_;
   BoardDisplay& affichage_;
   Chrono& chrono_;
   Assistant& assistant_;

@@ -24,7 +24,7 @@ void GameFlow::JeuStart() {
   pilote_.JeuAuto(true, false);
   jeu_.VgSilence = false;
   jeu_.VgEtat = kJeu;
-  moteur_.Evaluation(jeu_.VmGrille, 2);
+  evaluateur_.Evaluation(jeu_.VmGrille, 2);
   affichage_.Affiche();
   affichage_.SetMenus();
   chrono_.StartChrono();

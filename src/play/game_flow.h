@@ -14,12 +14,12 @@ namespace sudoku {
 // From an empty grid to play, back to the start of a game, and to its solution.
 class GameFlow : private PlateauVierge {
  public:
-  GameFlow(GameState& jeu, Systeme& systeme, Saisies& saisies, Evaluateur& moteur, AutoDriver& pilote,
+  GameFlow(GameState& jeu, Systeme& systeme, Saisies& saisies, Evaluateur& evaluateur, AutoDriver& pilote,
            BoardDisplay& affichage, Chrono& chrono)
       : jeu_(jeu),
         systeme_(systeme),
         saisies_(saisies),
-        moteur_(moteur),
+        evaluateur_(evaluateur),
         pilote_(pilote),
         affichage_(affichage),
         chrono_(chrono) {}
@@ -38,13 +38,13 @@ class GameFlow : private PlateauVierge {
  private:
   Texte DemandeSymboles() override;
   void MetEnPlace() override;
-  void Evalue() override { moteur_.Evaluation(jeu_.VmGrille, 1); }
+  void Evalue() override { evaluateur_.Evaluation(jeu_.VmGrille, 1); }
   void SetInfos() override { affichage_.SetInfos(); }
 
   GameState& jeu_;
   Systeme& systeme_;
   Saisies& saisies_;
-  Evaluateur& moteur_;
+  Evaluateur& evaluateur_;
   AutoDriver& pilote_;
   BoardDisplay& affichage_;
   Chrono& chrono_;

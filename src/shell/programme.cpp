@@ -10,16 +10,16 @@ Programme::Programme(Systeme& systeme)
     : systeme_(systeme),
       principale_(TableFRMSudoku()),
       assistant_(principale_.plateau),
-      moteur_(jeu_),
+      evaluateur_(jeu_),
       affichage_(jeu_, principale_, systeme, assistant_),
-      pilote_(jeu_, moteur_, affichage_),
+      pilote_(jeu_, evaluateur_, affichage_),
       chrono_(jeu_, systeme, principale_, assistant_),
       saisies_(jeu_, principale_.plateau),
-      deroulement_(jeu_, systeme, saisies_, moteur_, pilote_, affichage_, chrono_),
+      deroulement_(jeu_, systeme, saisies_, evaluateur_, pilote_, affichage_, chrono_),
       dialogue_(systeme),
       stockage_(jeu_, systeme, principale_, deroulement_, affichage_, dialogue_),
       aPropos_(systeme, principale_),
-      saisie_(jeu_, principale_.plateau, saisies_, moteur_, affichage_, chrono_, assistant_, stockage_),
+      saisie_(jeu_, principale_.plateau, saisies_, evaluateur_, affichage_, chrono_, assistant_, stockage_),
       commandes_(jeu_, systeme, principale_, affichage_, deroulement_, assistant_, stockage_) {
   jeu_.Message = [&systeme](TexteVue texte) { systeme.Message(texte); };
   assistant_.Branche(jeu_, pilote_, affichage_);

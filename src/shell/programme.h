@@ -41,7 +41,7 @@ class Programme {
   GameState jeu_;
   Fenetre principale_;
   FRMHelp assistant_;
-  Evaluateur moteur_;
+  Evaluateur evaluateur_;
   BoardDisplay affichage_;
   AutoDriver pilote_;
   Chrono chrono_;

@@ -12,14 +12,14 @@ void Ajoute(Texte& texte, std::uint64_t nombre) {
 
 }  // namespace
 
-AutoDriver::AutoDriver(GameState& jeu, Evaluateur& moteur, PlateauAuto& plateau, Lecture lecture,
+AutoDriver::AutoDriver(GameState& jeu, Evaluateur& evaluateur, PlateauAuto& plateau, Lecture lecture,
                        Auditeur* auditeur)
     : jeu_(jeu),
-      moteur_(moteur),
+      evaluateur_(evaluateur),
       plateau_(plateau),
       lecture_(lecture),
       auditeur_(auditeur),
-      general_(moteur, auditeur) {}
+      general_(evaluateur, auditeur) {}
 
 void AutoDriver::JeuAuto(bool VpReset, bool VpGuess) {
   if (VpReset) jeu_.VsResolu = false;
@@ -53,7 +53,7 @@ void AutoDriver::JeuAuto(bool VpReset, bool VpGuess) {
 
 Travail& AutoDriver::TravailPour(const Grille& grille) {
   if (auditeur_ != nullptr || !NoyauConvient(grille)) return general_;
-  if (coteNoyau_ != grille.N()) noyau_ = FaisTravailNoyau(coteNoyau_ = grille.N(), moteur_);
+  if (coteNoyau_ != grille.N()) noyau_ = FaisTravailNoyau(coteNoyau_ = grille.N(), evaluateur_);
   return *noyau_;
 }
 

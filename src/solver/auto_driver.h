@@ -40,7 +40,7 @@ struct Comptes {
 // the result is the same.
 class AutoDriver {
  public:
-  AutoDriver(GameState& jeu, Evaluateur& moteur, PlateauAuto& plateau, Lecture lecture = Lecture::kTout,
+  AutoDriver(GameState& jeu, Evaluateur& evaluateur, PlateauAuto& plateau, Lecture lecture = Lecture::kTout,
              Auditeur* auditeur = nullptr);
 
   // VpReset: forget that VmGrilleEtat is complete (otherwise a complete one is simply shown, without a
@@ -63,7 +63,7 @@ class AutoDriver {
   TexteVue MessageFinal(std::int16_t VlVerdict);
 
   GameState& jeu_;
-  Evaluateur& moteur_;
+  Evaluateur& evaluateur_;
   PlateauAuto& plateau_;
   Lecture lecture_;
   Auditeur* auditeur_;

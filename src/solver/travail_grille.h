@@ -11,8 +11,8 @@ namespace sudoku {
 // A run on any grid, cell by cell, with the engine. `auditeur`, where there is one, hears what is filled.
 class TravailGrille : public Travail {
  public:
-  explicit TravailGrille(Evaluateur& moteur, Auditeur* auditeur = nullptr)
-      : moteur_(moteur), auditeur_(auditeur) {}
+  explicit TravailGrille(Evaluateur& evaluateur, Auditeur* auditeur = nullptr)
+      : evaluateur_(evaluateur), auditeur_(auditeur) {}
 
   // Puts a cell of the board at this content and Etat, unjudged.
   void Charge(int cellule, Code symbole, std::int32_t etat);
@@ -31,11 +31,11 @@ class TravailGrille : public Travail {
   void Montre() override {}
 
  private:
-  std::int16_t Evalue() { return verdict_ = moteur_.Evaluation(travail_, 2, baseProuvee_); }
+  std::int16_t Evalue() { return verdict_ = evaluateur_.Evaluation(travail_, 2, baseProuvee_); }
   void RaconteTour();
   void Raconte();
 
-  Evaluateur& moteur_;
+  Evaluateur& evaluateur_;
   Auditeur* auditeur_;
   std::int16_t verdict_ = 0;           // of the last evaluation
   std::vector<Remplissage> remplies_;  // what is told next

@@ -18,8 +18,8 @@ std::size_t At(int i) {
 template <int S>
 class TravailVoies : public Travail {
  public:
-  explicit TravailVoies(Evaluateur& moteur)
-      : moteur_(moteur), general_(moteur), noyau_(VersionsNoyau<S>().front()) {}
+  explicit TravailVoies(Evaluateur& evaluateur)
+      : evaluateur_(evaluateur), general_(evaluateur), noyau_(VersionsNoyau<S>().front()) {}
 
   void Commence(const Grille& grille) override;
   Grille Rend(bool contenus) override;
@@ -45,7 +45,7 @@ class TravailVoies : public Travail {
   void EcritBase();
   void PasseAuGeneral();
 
-  Evaluateur& moteur_;
+  Evaluateur& evaluateur_;
   TravailGrille general_;  // takes over an attempt in which a wrong entry comes up
   bool auGeneral_ = false;
   Noyau<S> noyau_;
@@ -91,7 +91,7 @@ Grille TravailVoies<S>::Rend(bool contenus) {
     rendue = general_.Rend(contenus);
   } else {
     Ecrit(rendue);
-    if (!contenus) moteur_.Evaluation(rendue, 2);
+    if (!contenus) evaluateur_.Evaluation(rendue, 2);
   }
   rendue.Donnees().jeu->VgEtat = kJeu;
   grille_ = Grille();
@@ -201,7 +201,7 @@ void TravailVoies<S>::Montre() {
   if (montree_) return;
   montree_ = true;
   EcritBase();
-  moteur_.Evaluation(grille_, 2);
+  evaluateur_.Evaluation(grille_, 2);
 }
 
 template <int S>
@@ -229,20 +229,20 @@ bool NoyauConvient(const Grille& grille) {
   return true;
 }
 
-std::unique_ptr<Travail> FaisTravailNoyau(int N, Evaluateur& moteur) {
+std::unique_ptr<Travail> FaisTravailNoyau(int N, Evaluateur& evaluateur) {
   switch (N) {
     case 9:
-      return std::make_unique<TravailVoies<3>>(moteur);
+      return std::make_unique<TravailVoies<3>>(evaluateur);
     case 16:
-      return std::make_unique<TravailVoies<4>>(moteur);
+      return std::make_unique<TravailVoies<4>>(evaluateur);
     case 25:
-      return std::make_unique<TravailVoies<5>>(moteur);
+      return std::make_unique<TravailVoies<5>>(evaluateur);
     case 36:
-      return std::make_unique<TravailVoies<6>>(moteur);
+      return std::make_unique<TravailVoies<6>>(evaluateur);
     case 49:
-      return std::make_unique<TravailVoies<7>>(moteur);
+      return std::make_unique<TravailVoies<7>>(evaluateur);
     default:
-      return std::make_unique<TravailVoies<8>>(moteur);
+      return std::make_unique<TravailVoies<8>>(evaluateur);
   }
 }
 

@@ -75,14 +75,14 @@ bool Abandonne(F f) {
 
 }  // namespace
 
-void Pose(const Plateau& plateau, GameState& jeu, Evaluateur& moteur) {
+void Pose(const Plateau& plateau, GameState& jeu, Evaluateur& evaluateur) {
   jeu.VgEtat = kEntree;
   jeu.VmValeurs = plateau.symboles;
   jeu.VmTaille = static_cast<std::int16_t>(plateau.symboles.size());
   jeu.VmGrille = sudoku::Grille::Nouvelle(jeu, plateau.symboles);
   jeu.VmGrilleEtat = {};
   jeu.VsResolu = false;
-  moteur.Evaluation(jeu.VmGrille, 1);
+  evaluateur.Evaluation(jeu.VmGrille, 1);
   for (std::size_t i = 0; i < plateau.cases.size(); ++i) {
     jeu.VmGrille(static_cast<int>(i + 1)).Load(plateau.cases[i].valeur, plateau.cases[i].etat);
   }
@@ -133,12 +133,12 @@ void Paire::Charge(const Plateau& plateau) {
     simple_.VmGrille[i]->Load(plateau.cases[i].valeur, plateau.cases[i].etat);
   }
   simple_.VgEtat = plateau.mode;
-  Pose(plateau, rapide_, moteur_);
+  Pose(plateau, rapide_, evaluateur_);
 }
 
 void Paire::Evalue(int passes) {
   verdictSimple_ = simple_.Evaluation(simple_.VmGrille, passes);
-  verdictRapide_ = moteur_.Evaluation(rapide_.VmGrille, passes);
+  verdictRapide_ = evaluateur_.Evaluation(rapide_.VmGrille, passes);
 }
 
 // As the board does it: in other modes than grid entry and play nothing is evaluated, a complete grid ends
@@ -167,7 +167,7 @@ std::string Paire::Recopie() {
   sudoku::GrilleCopy(rapide_.VmGrille, rapide);
   const std::string ecarts = Compare(simple, rapide);
   verdictSimple_ = simple_.Evaluation(simple, 2);
-  verdictRapide_ = moteur_.Evaluation(rapide, 2);
+  verdictRapide_ = evaluateur_.Evaluation(rapide, 2);
   return ecarts.empty() ? Compare(simple, rapide) : ecarts;
 }
 
@@ -192,7 +192,7 @@ std::string Paire::CompareContenus() {
   }
   if (!simple_.VmGrilleEtat.empty() && rapide_.VmGrilleEtat.Borne() > 0) {
     simple_.Evaluation(simple_.VmGrilleEtat, 2);
-    moteur_.Evaluation(rapide_.VmGrilleEtat, 2);
+    evaluateur_.Evaluation(rapide_.VmGrilleEtat, 2);
   }
   Evalue(2);
   return ecarts;

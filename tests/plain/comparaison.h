@@ -29,7 +29,7 @@ struct Action {
 };
 
 // Puts a board into a game of the engine: a new grid for its symbols, evaluated; its cells loaded; its mode.
-void Pose(const Plateau& plateau, GameState& jeu, Evaluateur& moteur);
+void Pose(const Plateau& plateau, GameState& jeu, Evaluateur& evaluateur);
 
 // The two sides. They live on from one grid to the next, as in the program.
 class Paire : private PlateauAuto {
@@ -62,9 +62,9 @@ class Paire : private PlateauAuto {
 
   Jeu simple_;
   GameState rapide_;
-  Evaluateur moteur_{rapide_};
-  AutoDriver auto_{rapide_, moteur_, *this};
-  AutoDriver autoContenus_{rapide_, moteur_, *this, Lecture::kContenus};
+  Evaluateur evaluateur_{rapide_};
+  AutoDriver auto_{rapide_, evaluateur_, *this};
+  AutoDriver autoContenus_{rapide_, evaluateur_, *this, Lecture::kContenus};
   // The boxes that the last step opened, each with the grid that stood on the board.
   std::vector<Texte> boitesSimple_, boitesRapide_;
   bool avecGrille_ = true;

@@ -19,9 +19,9 @@ Plateau TireFigure(Hasard& hasard, int n) {
   for (int essais = 20000 / (n * n); essais > 0; --essais) {
     const Plateau plateau = hasard.UneFoisSur(2) ? PlateauAResoudre(hasard, n) : PlateauAuHasard(hasard, n);
     GameState jeu;
-    Evaluateur moteur(jeu);
-    Pose(plateau, jeu, moteur);
-    moteur.Evaluation(jeu.VmGrille, 2);
+    Evaluateur evaluateur(jeu);
+    Pose(plateau, jeu, evaluateur);
+    evaluateur.Evaluation(jeu.VmGrille, 2);
     for (const Argument& a : jeu.VmGrille.Donnees().journal.arguments) {
       if (a.genre != Argument::Genre::kFigure) continue;
       if (a.type == type && a.type2 == type2) return plateau;

@@ -42,9 +42,9 @@ TEST(Resolution, NAlloueRienApresLaPremiere) {
       U"6.1....2..54..93.1....6.5.....6.1....1...4.5.3..2....6.69...2....3....894.5...7..",
       U"88.5.9...3.7..8...5......162.8.93..461.2...797396......7.43......3..2.95........."};
   GameState jeu;
-  Evaluateur moteur(jeu);
+  Evaluateur evaluateur(jeu);
   Muet plateau;
-  AutoDriver driver(jeu, moteur, plateau, Lecture::kContenus);
+  AutoDriver driver(jeu, evaluateur, plateau, Lecture::kContenus);
   jeu.VmGrille = Grille::Nouvelle(jeu, U"123456789");
   std::size_t derniere = 0;
   for (int tour = 0; tour < 3; ++tour) {

@@ -24,7 +24,7 @@ class Compteur : public PlateauAuto {
   struct Assez {};
 
   void Charge(const plain::Plateau& plateau) {
-    plain::Pose(plateau, jeu_, moteur_);
+    plain::Pose(plateau, jeu_, evaluateur_);
     Evalue(plateau.cases.empty() ? 1 : 2);
   }
   void Tape(Hasard& hasard) {
@@ -50,8 +50,8 @@ class Compteur : public PlateauAuto {
   std::vector<std::uint64_t> Longueurs() const;
 
   GameState jeu_;
-  Evaluateur moteur_{jeu_};
-  AutoDriver driver_{jeu_, moteur_, *this};
+  Evaluateur evaluateur_{jeu_};
+  AutoDriver driver_{jeu_, evaluateur_, *this};
   std::uint64_t toursVus_ = 0;  // of the search, up to the last box
   std::uint64_t parBoite_ = 0;
   int boites_ = 0;
@@ -65,13 +65,13 @@ std::vector<std::uint64_t> Compteur::Longueurs() const {
 }
 
 void Compteur::Evalue(int passes) {
-  const std::uint64_t reprisesAvant = moteur_.Reprises(), toursAvant = moteur_.Tours();
+  const std::uint64_t reprisesAvant = evaluateur_.Reprises(), toursAvant = evaluateur_.Tours();
   const std::vector<std::uint64_t> longueurs = Longueurs();
   const auto textes = std::accumulate(longueurs.begin(), longueurs.end(), std::uint64_t{0});
-  moteur_.Evaluation(jeu_.VmGrille, passes);
-  const std::uint64_t reprises = moteur_.Reprises() - reprisesAvant;
+  evaluateur_.Evaluation(jeu_.VmGrille, passes);
+  const std::uint64_t reprises = evaluateur_.Reprises() - reprisesAvant;
   ASSERT_LE(reprises, BorneReprises());
-  ASSERT_LE(moteur_.Tours() - toursAvant, reprises * 2 * (1 + 2 * N() * N() * N() + textes));
+  ASSERT_LE(evaluateur_.Tours() - toursAvant, reprises * 2 * (1 + 2 * N() * N() * N() + textes));
   reprisesMax_ = std::max(reprisesMax_, reprises);
 }
 
@@ -82,7 +82,7 @@ void Compteur::Message(TexteVue) {
 }
 
 void Compteur::Resous() {
-  const std::uint64_t reprises = moteur_.Reprises();
+  const std::uint64_t reprises = evaluateur_.Reprises();
   parBoite_ = 1 + N() * N() * (1 + std::max(N(), std::ranges::max(Longueurs())));
   toursVus_ = 0;
   boites_ = 0;
@@ -95,7 +95,7 @@ void Compteur::Resous() {
   }
   // A turn makes three solve passes at most, the whole run an evaluation or two besides.
   const std::uint64_t evaluations = driver_.Tours() * 3 * (2 * N() * N() + 1) + 2;
-  EXPECT_LE(moteur_.Reprises() - reprises, evaluations * BorneReprises());
+  EXPECT_LE(evaluateur_.Reprises() - reprises, evaluations * BorneReprises());
   jeu_.VmGrille = joueuse;
   jeu_.VgEtat = mode;
 }
