@@ -21,7 +21,7 @@ void GameFlow::NouvelleGrille() {
 void GameFlow::JeuStart() {
   saisies_.Oublie();
   jeu_.VgSilence = true;
-  pilote_.JeuAuto(true, false);
+  solveur_.JeuAuto(true, false);
   jeu_.VgSilence = false;
   jeu_.VgEtat = kJeu;
   evaluateur_.Evaluation(jeu_.VmGrille, 2);
@@ -44,7 +44,7 @@ void GameFlow::JeuReinit(bool VpValide) {
 void GameFlow::Resout(bool VpGuess) {
   saisies_.Oublie();
   chrono_.Annule();
-  pilote_.JeuAuto(false, VpGuess);
+  solveur_.JeuAuto(false, VpGuess);
   affichage_.SetMenus();
 }
 

@@ -14,13 +14,13 @@ namespace sudoku {
 // From an empty grid to play, back to the start of a game, and to its solution.
 class GameFlow : private PlateauVierge {
  public:
-  GameFlow(GameState& jeu, Systeme& systeme, Saisies& saisies, Evaluateur& evaluateur, AutoDriver& pilote,
+  GameFlow(GameState& jeu, Systeme& systeme, Saisies& saisies, Evaluateur& evaluateur, AutoDriver& solveur,
            BoardDisplay& affichage, Chrono& chrono)
       : jeu_(jeu),
         systeme_(systeme),
         saisies_(saisies),
         evaluateur_(evaluateur),
-        pilote_(pilote),
+        solveur_(solveur),
         affichage_(affichage),
         chrono_(chrono) {}
 
@@ -45,7 +45,7 @@ class GameFlow : private PlateauVierge {
   Systeme& systeme_;
   Saisies& saisies_;
   Evaluateur& evaluateur_;
-  AutoDriver& pilote_;
+  AutoDriver& solveur_;
   BoardDisplay& affichage_;
   Chrono& chrono_;
 };

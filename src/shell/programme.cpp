@@ -12,17 +12,17 @@ Programme::Programme(Systeme& systeme)
       assistant_(principale_.plateau),
       evaluateur_(jeu_),
       affichage_(jeu_, principale_, systeme, assistant_),
-      pilote_(jeu_, evaluateur_, affichage_),
+      solveur_(jeu_, evaluateur_, affichage_),
       chrono_(jeu_, systeme, principale_, assistant_),
       saisies_(jeu_, principale_.plateau),
-      deroulement_(jeu_, systeme, saisies_, evaluateur_, pilote_, affichage_, chrono_),
+      deroulement_(jeu_, systeme, saisies_, evaluateur_, solveur_, affichage_, chrono_),
       dialogue_(systeme),
       stockage_(jeu_, systeme, principale_, deroulement_, affichage_, dialogue_),
       aPropos_(systeme, principale_),
       saisie_(jeu_, principale_.plateau, saisies_, evaluateur_, affichage_, chrono_, assistant_, stockage_),
       commandes_(jeu_, systeme, principale_, affichage_, deroulement_, assistant_, stockage_) {
   jeu_.Message = [&systeme](TexteVue texte) { systeme.Message(texte); };
-  assistant_.Branche(jeu_, pilote_, affichage_);
+  assistant_.Branche(jeu_, solveur_, affichage_);
   BrancheFRMSudoku(principale_, commandes_, saisie_, chrono_, stockage_, aPropos_);
   principale_.conforts = ConfortsDuJeu(jeu_, principale_.plateau, saisies_, commandes_);
   systeme.Ajoute(principale_);

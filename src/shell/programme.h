@@ -43,7 +43,7 @@ class Programme {
   FRMHelp assistant_;
   Evaluateur evaluateur_;
   BoardDisplay affichage_;
-  AutoDriver pilote_;
+  AutoDriver solveur_;
   Chrono chrono_;
   Saisies saisies_;
   GameFlow deroulement_;
