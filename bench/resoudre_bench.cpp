@@ -69,7 +69,7 @@ void Resoudre(benchmark::State& state, const Texte& symboles, const std::vector<
   }
   lot::Appel appel;
   appel.symboles = symboles;
-  const auto ouvrier = lot::FaisResoudre(appel);
+  const auto ouvrier = lot::FabriqueResoudre(appel);
   lot::Reponse reponse;
   for (auto _ : state) {
     for (const std::string& grille : grilles) {

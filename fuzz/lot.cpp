@@ -71,7 +71,7 @@ class Resolveur : public lot::Ouvrier {
 class Verificateur : public lot::Ouvrier {
  public:
   explicit Verificateur(const lot::Appel& appel)
-      : lecteur_(jeu_, appel.symboles), ouvrier_(lot::FaisVerifier(appel)) {}
+      : lecteur_(jeu_, appel.symboles), ouvrier_(lot::FabriqueVerifier(appel)) {}
   void Traite(std::string_view champ, lot::Reponse& reponse) override {
     if (lecteur_.Lis(champ) || Vides(jeu_) <= kVidesMax) ouvrier_->Traite(champ, reponse);
   }
@@ -86,7 +86,7 @@ std::unique_ptr<lot::Ouvrier> Choisit(int commande, const lot::Appel& appel) {
   if (commande < 2)
     return std::make_unique<Resolveur>(appel, commande == 0 ? Lecture::kTout : Lecture::kContenus);
   if (commande == 2) return std::make_unique<Verificateur>(appel);
-  return lot::FaisExpliquer(appel);
+  return lot::FabriqueExpliquer(appel);
 }
 
 void ParLignes(std::string_view octets, lot::Ouvrier& ouvrier) {

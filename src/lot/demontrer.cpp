@@ -9,7 +9,7 @@
 namespace sudoku::lot {
 namespace {
 
-std::unique_ptr<Recit> FaisRecit(Format format) {
+std::unique_ptr<Recit> FabriqueRecit(Format format) {
   if (format == Format::kHtml) return RecitHtml();
   return format == Format::kJson ? RecitJson() : RecitTexte();
 }
@@ -17,7 +17,7 @@ std::unique_ptr<Recit> FaisRecit(Format format) {
 class Demontrer : public Ouvrier, private Auditeur {
  public:
   explicit Demontrer(const Appel& appel)
-      : supposer_(appel.supposer), lecteur_(jeu_, appel.symboles), recit_(FaisRecit(appel.format)) {}
+      : supposer_(appel.supposer), lecteur_(jeu_, appel.symboles), recit_(FabriqueRecit(appel.format)) {}
 
   void Traite(std::string_view champ, Reponse& reponse) override {
     if (auto erreur = lecteur_.Lis(champ)) {

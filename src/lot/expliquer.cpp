@@ -138,7 +138,7 @@ void Expliquer::EcrisCaseTexte(const Explicateur& explicateur, int cellule, std:
 
 }  // namespace
 
-std::unique_ptr<Ouvrier> FaisExpliquer(const Appel& appel) {
+std::unique_ptr<Ouvrier> FabriqueExpliquer(const Appel& appel) {
   return std::make_unique<Expliquer>(appel);
 }
 

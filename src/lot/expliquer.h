@@ -9,6 +9,6 @@ namespace sudoku::lot {
 //   {"verdict":51,"mode":2,"cases":[{"index":1,"valeur":"","etat":0,"possible":"257","sure":"","poss":"",
 //   "explications":["Le 7 du carré 1 se trouve dans les cases 1, 2"]}, … ]}
 // keys in this order, no blank outside strings; or the same as text for a person.
-std::unique_ptr<Ouvrier> FaisExpliquer(const Appel& appel);
+std::unique_ptr<Ouvrier> FabriqueExpliquer(const Appel& appel);
 
 }  // namespace sudoku::lot

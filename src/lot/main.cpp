@@ -32,13 +32,13 @@ void SansMemoire() {
   std::_Exit(Renonce("sudoku-lot : mémoire insuffisante\n"));
 }
 
-int Fais(const Appel& appel) {
+int Fabrique(const Appel& appel) {
   if (appel.commande == "importer") return Importe(appel);
   if (appel.commande == "exporter") return Exporte(appel);
   if (appel.commande == "demontrer") return Demontre(appel);
-  const auto fais = appel.commande == "resoudre"    ? FaisResoudre
-                    : appel.commande == "expliquer" ? FaisExpliquer
-                                                    : FaisVerifier;
+  const auto fais = appel.commande == "resoudre"    ? FabriqueResoudre
+                    : appel.commande == "expliquer" ? FabriqueExpliquer
+                                                    : FabriqueVerifier;
   return Deroule(appel, [&] { return fais(appel); });
 }
 
@@ -53,7 +53,7 @@ int main(int argc, char** argv) {
   const std::optional<Appel> appel = LisAppel(argc, argv, statut);
   if (!appel) return statut;
   try {
-    return Fais(*appel);
+    return Fabrique(*appel);
   } catch (const std::system_error&) {
     return Renonce("sudoku-lot : le système ne donne pas de fil d'exécution\n");
   }

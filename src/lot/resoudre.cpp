@@ -47,7 +47,7 @@ class Resoudre : public Ouvrier {
 
 }  // namespace
 
-std::unique_ptr<Ouvrier> FaisResoudre(const Appel& appel) {
+std::unique_ptr<Ouvrier> FabriqueResoudre(const Appel& appel) {
   return std::make_unique<Resoudre>(appel);
 }
 

@@ -158,7 +158,7 @@ bool Verifier::RouteJuste() {
 
 }  // namespace
 
-std::unique_ptr<Ouvrier> FaisVerifier(const Appel& appel) {
+std::unique_ptr<Ouvrier> FabriqueVerifier(const Appel& appel) {
   return std::make_unique<Verifier>(appel);
 }
 

@@ -10,6 +10,6 @@ namespace sudoku::lot {
 // on the way against the solution. A line a grid, five fields with a TAB between them: the grid as read, its
 // solutions (2 for more), evaluations made, candidates removed by deductions, contradictions found. What
 // contradicts is an alert of the answer.
-std::unique_ptr<Ouvrier> FaisVerifier(const Appel& appel);
+std::unique_ptr<Ouvrier> FabriqueVerifier(const Appel& appel);
 
 }  // namespace sudoku::lot

@@ -53,7 +53,7 @@ void AutoDriver::JeuAuto(bool VpReset, bool VpGuess) {
 
 Travail& AutoDriver::TravailPour(const Grille& grille) {
   if (auditeur_ != nullptr || !NoyauConvient(grille)) return general_;
-  if (coteNoyau_ != grille.N()) noyau_ = FaisTravailNoyau(coteNoyau_ = grille.N(), evaluateur_);
+  if (coteNoyau_ != grille.N()) noyau_ = FabriqueTravailNoyau(coteNoyau_ = grille.N(), evaluateur_);
   return *noyau_;
 }
 

@@ -229,7 +229,7 @@ bool NoyauConvient(const Grille& grille) {
   return true;
 }
 
-std::unique_ptr<Travail> FaisTravailNoyau(int N, Evaluateur& evaluateur) {
+std::unique_ptr<Travail> FabriqueTravailNoyau(int N, Evaluateur& evaluateur) {
   switch (N) {
     case 9:
       return std::make_unique<TravailVoies<3>>(evaluateur);

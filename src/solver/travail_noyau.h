@@ -13,6 +13,6 @@ bool NoyauConvient(const Grille& grille);
 
 // For runs on such grids of side N. The player's grid is brought up to date when a run ends or somebody
 // looks.
-std::unique_ptr<Travail> FaisTravailNoyau(int N, Evaluateur& evaluateur);
+std::unique_ptr<Travail> FabriqueTravailNoyau(int N, Evaluateur& evaluateur);
 
 }  // namespace sudoku
