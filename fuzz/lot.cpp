@@ -49,7 +49,7 @@ class Resolveur : public lot::Ouvrier {
   void Traite(std::string_view champ, lot::Reponse& reponse) override {
     GameState jeu;
     lot::LecteurGrille lecteur(jeu, appel_.symboles);
-    if (lecteur.Lis(champ)) return;
+    if (lecteur.Lit(champ)) return;
     jeu.VgEtat = kJeu;
     Evaluateur evaluateur(jeu);
     Impatient plateau;
@@ -73,7 +73,7 @@ class Verificateur : public lot::Ouvrier {
   explicit Verificateur(const lot::Appel& appel)
       : lecteur_(jeu_, appel.symboles), ouvrier_(lot::FabriqueVerifier(appel)) {}
   void Traite(std::string_view champ, lot::Reponse& reponse) override {
-    if (lecteur_.Lis(champ) || Vides(jeu_) <= kVidesMax) ouvrier_->Traite(champ, reponse);
+    if (lecteur_.Lit(champ) || Vides(jeu_) <= kVidesMax) ouvrier_->Traite(champ, reponse);
   }
 
  private:

@@ -103,13 +103,11 @@ const Commande& Connue(const std::string& mot) {
   return *commande;
 }
 
-constexpr option kOptions[] = {{"symboles", required_argument, nullptr, 0},
-                               {"processus", required_argument, nullptr, 0},
-                               {"passes", required_argument, nullptr, 0},
-                               {"deduction", no_argument, nullptr, 0},
-                               {"texte", no_argument, nullptr, 0},
-                               {"supposer", no_argument, nullptr, 0},
-                               {"format", required_argument, nullptr, 0}};
+constexpr option kOptions[] = {
+    {"symboles", required_argument, nullptr, 0}, {"processus", required_argument, nullptr, 0},
+    {"passes", required_argument, nullptr, 0},   {"deduction", no_argument, nullptr, 0},
+    {"texte", no_argument, nullptr, 0},          {"supposer", no_argument, nullptr, 0},
+    {"format", required_argument, nullptr, 0}};
 
 // The words of a call: options with their values, of an option given twice the last, and what is no option.
 struct Mots {
@@ -163,7 +161,7 @@ Mots Trie(const Commande& commande, std::vector<std::string> mots) {
   return tries;
 }
 
-Appel Lis(const std::vector<std::string>& mots) {
+Appel Lit(const std::vector<std::string>& mots) {
   constexpr int kProcessusMax = 1024;
   const Commande& commande = Connue(mots.front());
   Mots tries = Trie(commande, mots);
@@ -190,7 +188,7 @@ Appel Lis(const std::vector<std::string>& mots) {
   return appel;
 }
 
-void Ecris(std::FILE* flux, std::string_view texte) {
+void Ecrit(std::FILE* flux, std::string_view texte) {
   std::fwrite(texte.data(), 1, texte.size(), flux);
 }
 
@@ -205,18 +203,18 @@ bool AideDemandee(const std::vector<std::string>& mots) {
 
 }  // namespace
 
-std::optional<Appel> LisAppel(int argc, const char* const* argv, int& statut) {
+std::optional<Appel> LitAppel(int argc, const char* const* argv, int& statut) {
   const std::vector<std::string> mots(argv + std::min(argc, 1), argv + argc);
   statut = 0;
   if (AideDemandee(mots)) {
-    Ecris(stdout, kAide);
+    Ecrit(stdout, kAide);
     return std::nullopt;
   }
   try {
     if (mots.empty()) throw AppelIncorrect{"il manque la commande"};
-    return Lis(mots);
+    return Lit(mots);
   } catch (const AppelIncorrect& erreur) {
-    Ecris(stderr,
+    Ecrit(stderr,
           "sudoku-lot : " + Montrable(erreur.raison) + "\nsudoku-lot --aide dit comment l'appeler.\n");
     statut = 2;
     return std::nullopt;

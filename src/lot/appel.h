@@ -25,6 +25,6 @@ struct Appel {
 
 // Reads the words of the call. Nothing if there is nothing to run: `statut` is then 0 after the help, 2 after
 // the message about a wrong call.
-std::optional<Appel> LisAppel(int argc, const char* const* argv, int& statut);
+std::optional<Appel> LitAppel(int argc, const char* const* argv, int& statut);
 
 }  // namespace sudoku::lot

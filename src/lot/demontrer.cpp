@@ -20,7 +20,7 @@ class Demontrer : public Ouvrier, private Auditeur {
       : supposer_(appel.supposer), lecteur_(jeu_, appel.symboles), recit_(FabriqueRecit(appel.format)) {}
 
   void Traite(std::string_view champ, Reponse& reponse) override {
-    if (auto erreur = lecteur_.Lis(champ)) {
+    if (auto erreur = lecteur_.Lit(champ)) {
       reponse.erreur = std::move(*erreur);
       return;
     }

@@ -18,7 +18,7 @@ constexpr int kAlerte = 3;
 class Numeroteur {
  public:
   explicit Numeroteur(const Appel& appel) : lecteur_(jeu_, appel.symboles) {}
-  std::int64_t Rang(std::string_view champ) { return lecteur_.Lis(champ) ? 0 : ++bonnes_; }
+  std::int64_t Rang(std::string_view champ) { return lecteur_.Lit(champ) ? 0 : ++bonnes_; }
 
  private:
   GameState jeu_;
@@ -31,7 +31,7 @@ class Deroulement {
   explicit Deroulement(const Appel& appel) : appel_(appel), progres_(TailleDesFichiers(appel.fichiers)) {}
 
   void Compte() { numeroteur_.emplace(appel_); }
-  void Ecris(std::string_view texte) { sortie_.Ecris(texte); }
+  void Ecrit(std::string_view texte) { sortie_.Ecrit(texte); }
   void Travaille(const Atelier& atelier) {
     if (appel_.processus > 1) {
       Ensemble(atelier);
@@ -107,7 +107,7 @@ class Deroulement {
   }
 
   void Coule(std::string_view texte) {
-    sortie_.Ecris(texte);
+    sortie_.Ecrit(texte);
     if (lecteurAttend_) sortie_.Pousse();
   }
 
@@ -138,9 +138,9 @@ int Deroule(const Appel& appel, const Atelier& atelier) {
 int DeroulePage(const Appel& appel, const Atelier& atelier, std::string_view avant, std::string_view apres) {
   Deroulement deroulement(appel);
   deroulement.Compte();
-  deroulement.Ecris(avant);
+  deroulement.Ecrit(avant);
   deroulement.Travaille(atelier);
-  deroulement.Ecris(apres);
+  deroulement.Ecrit(apres);
   return deroulement.Statut();
 }
 

@@ -25,24 +25,24 @@ class Expliquer : public Ouvrier {
         symboles_(texte_ ? nullptr : Json) {}
 
   void Traite(std::string_view champ, Reponse& reponse) override {
-    if (auto erreur = lecteur_.Lis(champ)) {
+    if (auto erreur = lecteur_.Lit(champ)) {
       reponse.erreur = std::move(*erreur);
       return;
     }
     jeu_.VgEtat = passes_ == 1 ? kSaisieGrille : kJeu;
     const int verdict = evaluateur_.Evaluation(jeu_.VmGrille, passes_);
     if (texte_) {
-      EcrisTexte(champ, verdict, reponse.sortie);
+      EcritTexte(champ, verdict, reponse.sortie);
     } else {
-      EcrisJson(verdict, reponse.sortie);
+      EcritJson(verdict, reponse.sortie);
     }
   }
 
  private:
-  void EcrisJson(int verdict, std::string& s);
-  void EcrisCaseJson(const Explicateur& explicateur, int cellule, std::string& s);
-  void EcrisTexte(std::string_view champ, int verdict, std::string& s);
-  void EcrisCaseTexte(const Explicateur& explicateur, int cellule, std::string& s);
+  void EcritJson(int verdict, std::string& s);
+  void EcritCaseJson(const Explicateur& explicateur, int cellule, std::string& s);
+  void EcritTexte(std::string_view champ, int verdict, std::string& s);
+  void EcritCaseTexte(const Explicateur& explicateur, int cellule, std::string& s);
   const std::string& Symbole(Code code) { return symboles_.De(*Donnees().alphabet, code); }
   void Possible(int cellule, std::string_view separateur, std::string& s);
   const Bloc& Donnees() const { return jeu_.VmGrille.Donnees(); }
@@ -75,18 +75,18 @@ void Expliquer::Possible(int cellule, std::string_view separateur, std::string& 
   s.resize(static_cast<std::size_t>(fin - s.data()));
 }
 
-void Expliquer::EcrisJson(int verdict, std::string& s) {
+void Expliquer::EcritJson(int verdict, std::string& s) {
   s +=
       "{\"verdict\":" + std::to_string(verdict) + ",\"mode\":" + std::to_string(jeu_.VgEtat) + ",\"cases\":[";
   const Explicateur explicateur(jeu_.VmGrille);
   for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
     if (i > 1) s += ',';
-    EcrisCaseJson(explicateur, i, s);
+    EcritCaseJson(explicateur, i, s);
   }
   s += "]}\n";
 }
 
-void Expliquer::EcrisCaseJson(const Explicateur& explicateur, int cellule, std::string& s) {
+void Expliquer::EcritCaseJson(const Explicateur& explicateur, int cellule, std::string& s) {
   const Bloc& bloc = Donnees();
   (s += "{\"index\":") += std::to_string(cellule);
   (s += ",\"valeur\":\"") += Symbole(bloc.saisie[At(cellule)]);
@@ -109,16 +109,16 @@ std::string Verdict(int verdict) {
   return std::to_string(verdict) + " case(s) à remplir";
 }
 
-void Expliquer::EcrisTexte(std::string_view champ, int verdict, std::string& s) {
+void Expliquer::EcritTexte(std::string_view champ, int verdict, std::string& s) {
   ((s += "Grille ") += champ) += '\n';
   s += Verdict(verdict) + " (verdict " + std::to_string(verdict) + ", mode " + std::to_string(jeu_.VgEtat) +
        ")\n";
   const Explicateur explicateur(jeu_.VmGrille);
-  for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) EcrisCaseTexte(explicateur, i, s);
+  for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) EcritCaseTexte(explicateur, i, s);
   s += '\n';
 }
 
-void Expliquer::EcrisCaseTexte(const Explicateur& explicateur, int cellule, std::string& s) {
+void Expliquer::EcritCaseTexte(const Explicateur& explicateur, int cellule, std::string& s) {
   const Bloc& bloc = Donnees();
   const ClsPos position = jeu_.VmGrille(cellule);
   const auto champ = [&](const char* nom, const std::string& valeur) {

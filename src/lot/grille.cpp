@@ -50,17 +50,17 @@ LecteurGrille::LecteurGrille(GameState& jeu, TexteVue symboles)
   }
 }
 
-std::optional<std::string> LecteurGrille::Lis(std::string_view champ) {
-  if (LisOctets(champ)) return std::nullopt;
+std::optional<std::string> LecteurGrille::Lit(std::string_view champ) {
+  if (LitOctets(champ)) return std::nullopt;
   // Of so many bytes the characters needn't be counted, and the field may not be here to its end.
   if (champ.size() > cases_ * 2 * 4) return "plus de " + std::to_string(cases_ * 2) + Longueurs();
   const std::optional<Texte> texte = DepuisUtf8Strict(champ);
   if (!texte) return MalForme(champ);
-  return LisTexte(*texte);
+  return LitTexte(*texte);
 }
 
 // The usual line, all ASCII and right. False: anything else.
-bool LecteurGrille::LisOctets(std::string_view champ) {
+bool LecteurGrille::LitOctets(std::string_view champ) {
   Bloc& bloc = jeu_.VmGrille.Donnees();
   bool juste = true;
   const auto sens = [](const Sens& table, char c) {
@@ -87,7 +87,7 @@ bool LecteurGrille::LisOctets(std::string_view champ) {
   return juste;
 }
 
-std::optional<std::string> LecteurGrille::LisTexte(TexteVue texte) {
+std::optional<std::string> LecteurGrille::LitTexte(TexteVue texte) {
   if (texte.size() != cases_ && texte.size() != 2 * cases_) return std::to_string(texte.size()) + Longueurs();
   Bloc& bloc = jeu_.VmGrille.Donnees();
   const std::size_t pas = texte.size() / cases_;

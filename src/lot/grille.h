@@ -20,15 +20,15 @@ class LecteurGrille {
 
   // Nothing: the cells are loaded. Otherwise what is wrong with the field, in French, and the cells are in no
   // particular state.
-  std::optional<std::string> Lis(std::string_view champ);
+  std::optional<std::string> Lit(std::string_view champ);
 
  private:
   // What a character means: a Code, kVide for an empty cell, or kFaux.
   static constexpr Code kFaux = -2;
   using Sens = std::array<Code, 128>;
 
-  bool LisOctets(std::string_view champ);
-  std::optional<std::string> LisTexte(TexteVue texte);
+  bool LitOctets(std::string_view champ);
+  std::optional<std::string> LitTexte(TexteVue texte);
   Code SensDe(char32_t c, bool avecEtats);
   Code CodeDuSymbole(char32_t c);
   std::string Attendu(bool avecEtats) const;

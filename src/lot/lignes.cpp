@@ -19,7 +19,7 @@ constexpr std::size_t kTampon = std::size_t{1} << 18;
 static_assert(kTampon > Lignes::kChampMax, "a full buffer holds more than the longest field");
 
 // Reads what is there, waiting for it if need be. Less than 0 where it fails; errno says why.
-ssize_t Lis(int fd, char* tampon, std::size_t taille) {
+ssize_t Lit(int fd, char* tampon, std::size_t taille) {
   for (;;) {
     const ssize_t lus = read(fd, tampon, taille);
     if (lus >= 0 || (errno != EINTR && errno != EAGAIN)) return lus;
@@ -139,7 +139,7 @@ bool Lignes::Remplis() {
   debut_ = 0;
   pollfd attente{fd_, POLLIN, 0};
   if (poll(&attente, 1, 0) == 0) avantAttente_();
-  const ssize_t lus = Lis(fd_, tampon_.data() + fin_, tampon_.size() - fin_);
+  const ssize_t lus = Lit(fd_, tampon_.data() + fin_, tampon_.size() - fin_);
   if (lus < 0) erreur_ = RaisonSysteme(errno);
   epuise_ = lus <= 0;
   fin_ += static_cast<std::size_t>(std::max<ssize_t>(lus, 0));
@@ -168,12 +168,12 @@ std::optional<std::int64_t> TailleDesFichiers(const std::vector<std::string>& ch
   return somme;
 }
 
-std::optional<std::string> LisTout(const std::string& chemin, std::string& octets) {
+std::optional<std::string> LitTout(const std::string& chemin, std::string& octets) {
   int fd = -1;
   std::optional<std::string> raison = OuvreFichier(chemin, fd);
   std::vector<char> tampon(kTampon);
   for (ssize_t lus = 1; !raison && lus > 0;) {
-    lus = Lis(fd, tampon.data(), tampon.size());
+    lus = Lit(fd, tampon.data(), tampon.size());
     if (lus < 0) raison = RaisonSysteme(errno);
     octets.append(tampon.data(), static_cast<std::size_t>(std::max<ssize_t>(lus, 0)));
     if (octets.size() > static_cast<std::size_t>(kOctetsMax)) raison = "trop grand pour une partie";

@@ -58,7 +58,7 @@ class Lignes {
 
 // Reads a whole file, "-" for standard input. Otherwise a French reason why it can't be: more than kOctetsMax
 // is one.
-std::optional<std::string> LisTout(const std::string& chemin, std::string& octets);
+std::optional<std::string> LitTout(const std::string& chemin, std::string& octets);
 
 // What the system says of a failed call, in French.
 std::string RaisonSysteme(int erreur);

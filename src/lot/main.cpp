@@ -23,7 +23,7 @@ namespace {
 constexpr int kEchec = 1;
 
 int Renonce(std::string_view raison) {
-  EcrisTout(STDERR_FILENO, raison);
+  EcritTout(STDERR_FILENO, raison);
   return kEchec;
 }
 
@@ -50,7 +50,7 @@ int main(int argc, char** argv) {
   std::set_new_handler(SansMemoire);
   std::signal(SIGXFSZ, SIG_IGN);  // a write beyond the limit fails, and ends nothing
   int statut = 0;
-  const std::optional<Appel> appel = LisAppel(argc, argv, statut);
+  const std::optional<Appel> appel = LitAppel(argc, argv, statut);
   if (!appel) return statut;
   try {
     return Fabrique(*appel);

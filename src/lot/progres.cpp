@@ -48,19 +48,19 @@ Progres::~Progres() {
   }
   reveil_.notify_one();
   veilleur_.join();
-  if (montre_) EcrisTout(STDERR_FILENO, kEfface);
+  if (montre_) EcritTout(STDERR_FILENO, kEfface);
 }
 
 void Progres::Message(std::string_view texte) {
   const std::lock_guard verrou(mutex_);
-  EcrisTout(STDERR_FILENO, std::string(montre_ ? kEfface : "") + Montrable(texte) + "\n");
+  EcritTout(STDERR_FILENO, std::string(montre_ ? kEfface : "") + Montrable(texte) + "\n");
   montre_ = false;
 }
 
 void Progres::Veille() {
   std::unique_lock verrou(mutex_);
   while (!reveil_.wait_for(verrou, kRythme, [this] { return fin_; })) {
-    EcrisTout(STDERR_FILENO, std::string(kEfface) + Etat());
+    EcritTout(STDERR_FILENO, std::string(kEfface) + Etat());
     montre_ = true;
   }
 }

@@ -72,7 +72,7 @@ void Objets::Finit(std::int64_t grille, const Grille& VmGrille, const Bilan& bil
   (s += "{\"grille\":") += std::to_string(grille);
   (s += ",\"fin\":\"") += bilan.message;
   s += "\",\"resultat\":\"";
-  symboles_.Ecris(*alphabet_, std::span(VmGrille.Donnees().saisie).subspan(1), s);
+  symboles_.Ecrit(*alphabet_, std::span(VmGrille.Donnees().saisie).subspan(1), s);
   (s += "\",\"suppositions\":") += std::to_string(bilan.comptes.faites);
   (s += ",\"refutations\":") += std::to_string(bilan.comptes.refutees);
   ((s += ",\"retours\":") += std::to_string(bilan.comptes.retours)) += "}\n";

@@ -73,7 +73,7 @@ void Lignes::Finit(std::int64_t, const Grille& VmGrille, const Bilan& bilan, std
   (s += bilan.message) += '\n';
   if (bilan.comptes.retours > 0) s += "Retours arrière : " + std::to_string(bilan.comptes.retours) + "\n";
   s += "Résultat : ";
-  symboles_.Ecris(*bloc.alphabet, std::span(bloc.saisie).subspan(1), s);
+  symboles_.Ecrit(*bloc.alphabet, std::span(bloc.saisie).subspan(1), s);
   s += "\n\n";
   grille_ = Grille();
 }

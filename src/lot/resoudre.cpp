@@ -14,21 +14,21 @@ class Resoudre : public Ouvrier {
   explicit Resoudre(const Appel& appel) : deduction_(appel.deduction), lecteur_(jeu_, appel.symboles) {}
 
   void Traite(std::string_view champ, Reponse& reponse) override {
-    if (auto erreur = lecteur_.Lis(champ)) {
+    if (auto erreur = lecteur_.Lit(champ)) {
       reponse.erreur = std::move(*erreur);
       return;
     }
     jeu_.VgEtat = kJeu;
     driver_.JeuAuto(true, !deduction_);
-    Ecris(champ, reponse.sortie);
+    Ecrit(champ, reponse.sortie);
   }
 
  private:
-  void Ecris(std::string_view champ, std::string& ligne) {
+  void Ecrit(std::string_view champ, std::string& ligne) {
     const Bloc& bloc = jeu_.VmGrille.Donnees();
     ligne += champ;
     ligne += '\t';
-    symboles_.Ecris(*bloc.alphabet, std::span(bloc.saisie).subspan(1), ligne);
+    symboles_.Ecrit(*bloc.alphabet, std::span(bloc.saisie).subspan(1), ligne);
     const Comptes& comptes = driver_.DerniersComptes();
     for (const std::uint64_t n : {comptes.faites, comptes.refutees, comptes.retours}) {
       (ligne += '\t') += std::to_string(n);

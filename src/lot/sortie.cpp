@@ -18,7 +18,7 @@ constexpr std::chrono::milliseconds kDelai(20);
 
 }  // namespace
 
-int EcrisTout(int fd, std::string_view texte) {
+int EcritTout(int fd, std::string_view texte) {
   while (!texte.empty()) {
     const ssize_t ecrits = write(fd, texte.data(), texte.size());
     if (ecrits >= 0) {
@@ -33,9 +33,9 @@ int EcrisTout(int fd, std::string_view texte) {
   return 0;
 }
 
-int EcrisSortie(std::string_view texte) {
+int EcritSortie(std::string_view texte) {
   static const bool terminal = isatty(STDOUT_FILENO) != 0;
-  return EcrisTout(STDOUT_FILENO, terminal ? Montrable(texte, "\n\t") : texte);
+  return EcritTout(STDOUT_FILENO, terminal ? Montrable(texte, "\n\t") : texte);
 }
 
 Sortie::Sortie() : veilleur_(&Sortie::Veille, this) {}
@@ -50,7 +50,7 @@ Sortie::~Sortie() {
   veilleur_.join();
 }
 
-void Sortie::Ecris(std::string_view texte) {
+void Sortie::Ecrit(std::string_view texte) {
   bool premier = false;
   {
     const std::lock_guard verrou(mutex_);
@@ -67,10 +67,10 @@ void Sortie::Pousse() {
 }
 
 void Sortie::PousseTampon() {
-  const int erreur = EcrisSortie(tampon_);
+  const int erreur = EcritSortie(tampon_);
   tampon_.clear();
   if (erreur == 0) return;
-  if (erreur != EPIPE) EcrisTout(STDERR_FILENO, "sortie standard: " + RaisonSysteme(erreur) + "\n");
+  if (erreur != EPIPE) EcritTout(STDERR_FILENO, "sortie standard: " + RaisonSysteme(erreur) + "\n");
   std::_Exit(1);
 }
 

@@ -18,7 +18,7 @@ class Sortie {
   Sortie(const Sortie&) = delete;
   Sortie& operator=(const Sortie&) = delete;
 
-  void Ecris(std::string_view texte);
+  void Ecrit(std::string_view texte);
   // Writes at once what has been gathered.
   void Pousse();
 
@@ -35,9 +35,9 @@ class Sortie {
 
 // Writes to standard output: everything as it is, but on a terminal control characters are shown, for nobody
 // knows who chose the names and symbols. The number of the error, 0 for none.
-int EcrisSortie(std::string_view texte);
+int EcritSortie(std::string_view texte);
 
 // Writes all of it to a file descriptor; the number of the error, 0 for none.
-int EcrisTout(int fd, std::string_view texte);
+int EcritTout(int fd, std::string_view texte);
 
 }  // namespace sudoku::lot

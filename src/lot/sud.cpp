@@ -15,7 +15,7 @@ namespace sudoku::lot {
 namespace {
 
 int Refuse(const std::string& fichier, const std::string& raison) {
-  EcrisTout(STDERR_FILENO, Montrable(fichier + ": " + raison) + "\n");
+  EcritTout(STDERR_FILENO, Montrable(fichier + ": " + raison) + "\n");
   return 1;
 }
 
@@ -66,7 +66,7 @@ class Lecteur {
     std::string_view entree = ligne.ends_with('\r') ? ligne.substr(0, ligne.size() - 1) : ligne;
     const std::size_t tabulation = entree.find('\t');
     const std::string_view champ = entree.substr(0, tabulation);
-    const bool etats = EstChaineEtats(champ) && !etats_.Lis(champ);
+    const bool etats = EstChaineEtats(champ) && !etats_.Lit(champ);
     if (etats && tabulation != std::string_view::npos) {
       contenu.parties.push_back({Nom(entree.substr(tabulation + 1)), ChaineEtats(jeu_.VmGrille)});
     } else if (etats && !contenu.initiale) {
@@ -122,13 +122,13 @@ std::optional<std::string> Ligne(TexteVue chaine, TexteVue symboles) {
 int Importe(const Appel& appel) {
   const std::string& fichier = appel.fichiers.front();
   std::string octets;
-  if (const auto raison = LisTout(fichier, octets)) return Refuse(fichier, *raison);
+  if (const auto raison = LitTout(fichier, octets)) return Refuse(fichier, *raison);
   Lecteur lecteur(appel.symboles);
   const Contenu contenu = lecteur.Partage(octets);
   if (contenu.parties.size() > kEntreesMax + 1) return Refuse(fichier, "trop grand pour une partie");
   const std::optional<Texte> initiale = contenu.initiale ? contenu.initiale : lecteur.Initiale(contenu.reste);
   if (!initiale) return Refuse(fichier, PasDeGrille(appel.symboles.size()));
-  const int erreur = EcrisTout(
+  const int erreur = EcritTout(
       STDOUT_FILENO, EcritSud(appel.symboles, *initiale, contenu.parties, std::vector<TypScore>(1)));
   return erreur == 0 ? 0 : Refuse("sortie standard", RaisonSysteme(erreur));
 }
@@ -136,7 +136,7 @@ int Importe(const Appel& appel) {
 int Exporte(const Appel& appel) {
   const std::string& fichier = appel.fichiers.front();
   std::string octets;
-  if (const auto raison = LisTout(fichier, octets)) return Refuse(fichier, *raison);
+  if (const auto raison = LitTout(fichier, octets)) return Refuse(fichier, *raison);
   const LectureSud lu = LitSud(octets);
   if (!lu.grille) return Refuse(fichier, VersUtf8(DescriptionErreur(*lu.erreur)));
   if (!TailleAcceptable(lu.VmValeurs->size()))
@@ -156,7 +156,7 @@ int Exporte(const Appel& appel) {
       statut = Refuse(fichier, "la partie « " + nom + " » est plus courte que la grille");
     }
   }
-  const int erreur = EcrisSortie(lignes);
+  const int erreur = EcritSortie(lignes);
   return erreur == 0 ? statut : Refuse("sortie standard", RaisonSysteme(erreur));
 }
 

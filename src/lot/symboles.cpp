@@ -2,7 +2,7 @@
 
 namespace sudoku::lot {
 
-void SymbolesUtf8::Ecris(const Alphabet& alphabet, std::span<const Code> codes, std::string& sortie) {
+void SymbolesUtf8::Ecrit(const Alphabet& alphabet, std::span<const Code> codes, std::string& sortie) {
   for (const Code code : codes) {
     if (code == kVide) {
       sortie += '.';

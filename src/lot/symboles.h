@@ -33,7 +33,7 @@ class SymbolesUtf8 {
   }
 
   // Appends the contents of cells in a row, "." for an empty one.
-  void Ecris(const Alphabet& alphabet, std::span<const Code> codes, std::string& sortie);
+  void Ecrit(const Alphabet& alphabet, std::span<const Code> codes, std::string& sortie);
 
  private:
   struct Court {

@@ -45,7 +45,7 @@ class Verifier : public Ouvrier {
 };
 
 void Verifier::Traite(std::string_view champ, Reponse& reponse) {
-  if (auto erreur = lecteur_.Lis(champ)) {
+  if (auto erreur = lecteur_.Lit(champ)) {
     reponse.erreur = std::move(*erreur);
     return;
   }
@@ -57,9 +57,9 @@ void Verifier::Traite(std::string_view champ, Reponse& reponse) {
     const bool justes = SaisiesJustes();
     Temoin temoin(compteur_.Solution(), justes);
     evaluations = Rejoue(temoin);
-    lecteur_.Lis(champ);
+    lecteur_.Lit(champ);
     const bool resolue = !justes || ResoutJuste();
-    lecteur_.Lis(champ);
+    lecteur_.Lit(champ);
     const bool menee = !justes || RouteJuste();
     retraits = temoin.Retraits();
     contradictions = temoin.Contradictions() + (resolue ? 0 : 1) + (menee ? 0 : 1);

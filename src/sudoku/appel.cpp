@@ -44,7 +44,7 @@ bool Memes(const char* un, const char* autre) {
 
 }  // namespace
 
-std::optional<Appel> LisAppel(int argc, const char* const* argv) {
+std::optional<Appel> LitAppel(int argc, const char* const* argv) {
   std::span mots(argv, static_cast<std::size_t>(argc));
   mots = mots.subspan(std::min<std::size_t>(1, mots.size()));
   const auto passe = [&] {

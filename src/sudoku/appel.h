@@ -19,6 +19,6 @@ struct Appel {
 // Reads the words of the call, and touches no file. Nothing where it is wrong, which has been said on
 // standard error then: a word too many, an unknown option, an image that is missing, has none of the names of
 // its forms, or is the game file itself.
-std::optional<Appel> LisAppel(int argc, const char* const* argv);
+std::optional<Appel> LitAppel(int argc, const char* const* argv);
 
 }  // namespace sudoku

@@ -42,7 +42,7 @@ int Capture(const char* image, const char* fichier) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const std::optional<sudoku::Appel> appel = sudoku::LisAppel(argc, argv);
+  const std::optional<sudoku::Appel> appel = sudoku::LitAppel(argc, argv);
   if (!appel) return 2;
   if (appel->reponse != nullptr) return std::fputs(appel->reponse, stdout) < 0 ? 1 : 0;
   std::signal(SIGXFSZ, SIG_IGN);  // a write beyond the limit fails, and ends nothing

@@ -73,7 +73,7 @@ class TemoinTest : public testing::Test {
  protected:
   TemoinTest() {
     EXPECT_FALSE(
-        lecteur_.Lis("..1.8..37...7.3...473.9.8.539781..5..459371.818.....7..6.3..79.7.96.85..5...79.86"));
+        lecteur_.Lit("..1.8..37...7.3...473.9.8.539781..5..459371.818.....7..6.3..79.7.96.85..5...79.86"));
     std::vector<int> positions;
     for (const Code code : B().saisie) positions.push_back(B().alphabet->Position(code));
     EXPECT_EQ(compteur_.Compte(*B().geometrie, positions), 1);
