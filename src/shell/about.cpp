@@ -158,7 +158,7 @@ FRMNRVAbout::FRMNRVAbout(Systeme& systeme, Fenetre& proprietaire)
   fenetre_.Trouve("BtSysInfo")->Click = [this] { StartSysInfo(systeme_); };
 }
 
-void AboutCommand::MnuAbout_Click() {
+void AProposDuJeu::MnuAbout_Click() {
   AlwaysOnTop(principale_, false);
   FRMNRVAbout(systeme_, principale_).Montre();
   AlwaysOnTop(principale_, true);

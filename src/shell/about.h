@@ -36,9 +36,9 @@ class FRMNRVAbout {
 };
 
 // The about box, as the main window sees it.
-class AboutCommand : public APropos {
+class AProposDuJeu : public APropos {
  public:
-  AboutCommand(Systeme& systeme, Fenetre& principale) : systeme_(systeme), principale_(principale) {}
+  AProposDuJeu(Systeme& systeme, Fenetre& principale) : systeme_(systeme), principale_(principale) {}
   void MnuAbout_Click() override;
 
  private:

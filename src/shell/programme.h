@@ -10,7 +10,7 @@
 #include "play/saisies.h"
 #include "shell/about.h"
 #include "shell/com_dlg.h"
-#include "storage/game_storage.h"
+#include "storage/stockage_du_jeu.h"
 
 namespace sudoku {
 
@@ -48,8 +48,8 @@ class Programme {
   Saisies saisies_;
   GameFlow deroulement_;
   ComDlg dialogue_;
-  GameStorage stockage_;
-  AboutCommand aPropos_;
+  StockageDuJeu stockage_;
+  AProposDuJeu aPropos_;
   CellInput saisie_;
   Commands commandes_;
 };

@@ -8,15 +8,15 @@
 namespace sudoku {
 
 // All that is stored of a game, as the main window sees it.
-class GameStorage : public Stockage {
+class StockageDuJeu : public Stockage {
  public:
-  GameStorage(GameState& jeu, Systeme& systeme, Fenetre& principale, GameFlow& deroulement,
-              BoardDisplay& affichage, DialogueFichier& dialogue)
+  StockageDuJeu(GameState& jeu, Systeme& systeme, Fenetre& principale, GameFlow& deroulement,
+                BoardDisplay& affichage, DialogueFichier& dialogue)
       : bibliotheque_(jeu, systeme, principale, deroulement, affichage),
         scores_(jeu, systeme),
         fichier_(jeu, systeme, affichage, bibliotheque_, dialogue) {}
-  GameStorage(const GameStorage&) = delete;
-  GameStorage& operator=(const GameStorage&) = delete;
+  StockageDuJeu(const StockageDuJeu&) = delete;
+  StockageDuJeu& operator=(const StockageDuJeu&) = delete;
 
   void MnuLoad_Click() override { fichier_.MnuLoad_Click(); }
   void MnuSave_Click() override { fichier_.MnuSave_Click(); }
