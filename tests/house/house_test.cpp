@@ -51,10 +51,6 @@ std::vector<std::string> Lignes(const fs::path& fichier) {
   return lignes;
 }
 
-std::string Relatif(const fs::path& fichier) {
-  return fs::relative(fichier, kRacine / "src").string();
-}
-
 // A folder, and all that its arrows lead to.
 void Atteint(const std::string& dossier, Noms& atteints) {
   if (!atteints.insert(dossier).second) return;
@@ -65,13 +61,13 @@ TEST(Maison, InclusionsSelonLesFleches) {
   const std::regex inclusion(R"re(^\s*#\s*include\s*"([^"/]*)(/?)[^"]*")re");
   for (const fs::path& fichier : Fichiers("src")) {
     const std::string dossier = fichier.parent_path().filename();
-    ASSERT_TRUE(kFleches.contains(dossier)) << Relatif(fichier) << ": a folder without arrows";
+    ASSERT_TRUE(kFleches.contains(dossier)) << fichier << ": a folder without arrows";
     Noms permis;
     Atteint(dossier, permis);
     for (const std::string& ligne : Lignes(fichier)) {
       std::smatch trouve;
       if (!std::regex_search(ligne, trouve, inclusion)) continue;
-      EXPECT_TRUE(trouve.length(2) == 1 && permis.contains(trouve[1])) << Relatif(fichier) << ": " << ligne;
+      EXPECT_TRUE(trouve.length(2) == 1 && permis.contains(trouve[1])) << fichier << ": " << ligne;
     }
   }
 }
