@@ -22,10 +22,6 @@
 namespace sudoku {
 namespace {
 
-int AuBureau(int pixels) {
-  return static_cast<int>(std::lround(pixels * EchelleDuBureau()));
-}
-
 void Installe(QDialog& boite, const PlaceDeBoite& place, const char* nom) {
   boite.setObjectName(QString::fromLatin1(nom));
   boite.setWindowTitle(place.titre);

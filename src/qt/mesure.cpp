@@ -21,6 +21,10 @@ double EchelleDuBureau() {
   return QApplication::font().pixelSize() / (Police().Taille * kPixelsParPoint);
 }
 
+int AuBureau(int pixels) {
+  return static_cast<int>(std::lround(pixels * EchelleDuBureau()));
+}
+
 QFont Condensee(QFont police, const QString& texte, int largeur, int moindre) {
   const int voulue = QFontMetrics(police).horizontalAdvance(texte);
   if (voulue <= largeur || voulue == 0) return police;

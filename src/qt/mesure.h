@@ -31,4 +31,7 @@ QFont Condensee(QFont police, const QString& texte, int largeur, int moindre = 5
 // application, which is made so in PrepareApplication.
 double EchelleDuBureau();
 
+// A length in pixels of windows that grow with the desktop's font, from the one at its usual size.
+int AuBureau(int pixels);
+
 }  // namespace sudoku

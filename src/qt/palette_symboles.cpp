@@ -16,7 +16,9 @@
 namespace sudoku {
 namespace {
 
-constexpr int kCote = 26;
+int CoteBouton() {
+  return AuBureau(26);
+}
 
 // A flat button that is marked while it would be the choice: a mouse that moves brings it the focus. All its
 // keys but the space bar are the palette's.
@@ -60,10 +62,11 @@ PaletteSymboles::PaletteSymboles(Texte symboles, bool libre, Texte ici, QWidget*
     : QWidget(parent, Qt::Popup), symboles_(std::move(symboles)), contenu_(std::move(ici)) {
   setObjectName(QStringLiteral("PaletteSymboles"));
   setAttribute(Qt::WA_DeleteOnClose);
-  setFont(PoliceQt({}));
+  setFont(PoliceQt({}, EchelleDuBureau()));
   auto* pile = new QVBoxLayout(this);
-  pile->setContentsMargins(5, 5, 5, 5);
-  pile->setSpacing(4);
+  const int bord = AuBureau(5);
+  pile->setContentsMargins(bord, bord, bord, bord);
+  pile->setSpacing(AuBureau(4));
   auto* grille = new QGridLayout;
   grille->setSpacing(0);
   grille->setAlignment(Qt::AlignHCenter);
@@ -77,8 +80,8 @@ void PaletteSymboles::AjouteSymboles(QGridLayout* grille, bool libre) {
   for (std::size_t n = 0; n < symboles_.size(); ++n) {
     const Texte texte(1, symboles_[n]);
     auto* bouton = new BoutonPalette(VersQt(texte), *this);
-    bouton->setFont(PoliceQt({.Gras = true}));
-    bouton->setFixedSize(kCote, kCote);
+    bouton->setFont(PoliceQt({.Gras = true}, EchelleDuBureau()));
+    bouton->setFixedSize(CoteBouton(), CoteBouton());
     bouton->setEnabled(libre);
     connect(bouton, &QToolButton::clicked, this, [this, texte] {
       const auto choisi = Choisi;
@@ -93,12 +96,13 @@ void PaletteSymboles::AjouteSymboles(QGridLayout* grille, bool libre) {
 
 void PaletteSymboles::Ajoute(const std::vector<Commande>& commandes) {
   auto* rangee = new QHBoxLayout;
-  rangee->setSpacing(2);
+  rangee->setSpacing(AuBureau(2));
   rangees_.emplace_back();
   for (const Commande& commande : commandes) {
     auto* bouton = new BoutonPalette(commande.texte, *this);
     bouton->setEnabled(commande.permise);
-    bouton->setFixedSize(bouton->fontMetrics().horizontalAdvance(commande.texte) + 14, kCote);
+    bouton->setFixedSize(bouton->fontMetrics().horizontalAdvance(commande.texte) + AuBureau(14),
+                         CoteBouton());
     connect(bouton, &QToolButton::clicked, this, [this, acte = commande.acte] {
       const auto aFaire = acte;
       close();

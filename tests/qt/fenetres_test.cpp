@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 #include <regex>
 
 #include "joueur.h"
@@ -231,6 +232,11 @@ TEST(Fenetres, LaPoliceDuBureauAgranditTout) {
   JoueurQt j;
   j.Demarre();
   j.NouvelleGrille(QStringLiteral("1234"));
+  j.CliqueCase(1);
+  j.Touche(Qt::Key_Space, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::activePopupWidget()->findChild<QToolButton*>()->size(), QSize(52, 52));
+  EXPECT_EQ(QApplication::activePopupWidget()->findChild<QToolButton*>()->font().pixelSize(), 22);
+  QApplication::activePopupWidget()->close();
   j.Menu(Qt::Key_Question, Qt::Key_A);
   QApplication::setFont(PoliceQt({}));
   EXPECT_EQ(j.Ecran().RectangleCase(1).size(), QSize(50, 50));
