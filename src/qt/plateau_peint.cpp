@@ -36,7 +36,9 @@ void PlateauQt::paintEvent(QPaintEvent* evenement) {
   p.translate(origine);
   for (const QRect& zone : evenement->region()) {
     const QRectF appareil(zone.x() * dpr, zone.y() * dpr, zone.width() * dpr, zone.height() * dpr);
-    PeintZone(p, appareil.toAlignedRect().translated(-origine));
+    const QRect ici = appareil.toAlignedRect().translated(-origine);
+    p.setClipRect(ici);  // boxes are painted whole, and would cover the ring that another zone has painted
+    PeintZone(p, ici);
   }
 }
 

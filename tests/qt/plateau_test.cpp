@@ -235,6 +235,19 @@ TEST_F(UnPlateau, AnnuleEtRetablitCommeOnSaisit) {
   EXPECT_TRUE(changements.empty()) << "the start of play empties the list";
 }
 
+TEST_F(UnPlateau, LAnneauResteEntierQuandUneAutreCaseEstRepeinte) {
+  Ouvre(QStringLiteral("1234"));
+  j.CliqueCase(3);
+  QTest::qWait(0);
+  j.CliqueCase(1);
+  QTest::qWait(0);
+  const QWidget& vue = *j.Ecran().viewport();
+  const QRect voisine = j.Ecran().RectangleCase(2);
+  const QPoint bord = vue.mapTo(vue.window(), QPoint(voisine.left(), voisine.center().y()));
+  const QImage ecran = vue.screen()->grabWindow(vue.window()->winId()).toImage();
+  EXPECT_EQ(ecran.pixelColor(bord).name(), QStringLiteral("#e07000"));
+}
+
 TEST_F(UnPlateau, LaPaletteDonneTousLesSymboles) {
   Ouvre(QStringLiteral("♠♥♦♣"));
   j.CliqueCase(3);
