@@ -30,6 +30,13 @@ void Installe(QDialog& boite, const PlaceDeBoite& place, const char* nom) {
   if (place.dessus) boite.setWindowFlag(Qt::WindowStaysOnTopHint);
 }
 
+// A short text leaves the title whole.
+void ElargitPourLeTitre(QMessageBox& boite) {
+  constexpr int kLargeur = 200;
+  auto* texte = boite.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (texte->sizeHint().width() < AuBureau(kLargeur)) texte->setMinimumWidth(AuBureau(kLargeur));
+}
+
 // A text that is too tall for the screen rolls.
 void Enroule(QMessageBox& boite) {
   auto* texte = boite.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
@@ -48,6 +55,7 @@ void Prepare(QMessageBox& boite, const PlaceDeBoite& place, const char* nom, con
   boite.setTextFormat(Qt::PlainText);
   boite.setText(texte);
   boite.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  ElargitPourLeTitre(boite);
   Enroule(boite);
 }
 

@@ -42,7 +42,10 @@ TEST(Fenetres, UneGrilleSaisieEtJoueeJusquAuxScores) {
   j.Touche(Qt::Key_Tab);
   j.Tape(QStringLiteral("1"));
   j.Touche(Qt::Key_Right);
-  j.Quand("message", [&](QWidget&) { j.Touche(Qt::Key_Escape); });
+  j.Quand("message", [&](QWidget& boite) {
+    EXPECT_GE(boite.width(), 200) << "a short text leaves room for the title";
+    j.Touche(Qt::Key_Escape);
+  });
   j.Tape(QStringLiteral("1"));
   EXPECT_TRUE(j.ToutEstVenu());
   EXPECT_EQ(j.Grille(), "1...............") << "the refused text is gone";

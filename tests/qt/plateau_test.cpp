@@ -188,7 +188,10 @@ TEST_F(UnPlateau, LesTouchesDeTousLesBureaux) {
   j.Touche(Qt::Key_Z, Qt::ControlModifier);
   j.Touche(Qt::Key_Y, Qt::ControlModifier);
   EXPECT_EQ(j.Grille(), ".....1..........");
-  j.Quand("message", [&](QWidget&) { j.Touche(Qt::Key_Return); });
+  j.Quand("message", [&](QWidget& boite) {
+    EXPECT_GT(boite.findChild<QLabel*>("qt_msgbox_label")->width(), 300) << "long lines are whole";
+    j.Touche(Qt::Key_Return);
+  });
   j.Touche(Qt::Key_F1);
   j.Quand("fichier", [&](QWidget&) { j.Touche(Qt::Key_Escape); });
   j.Touche(Qt::Key_S, Qt::ControlModifier);
