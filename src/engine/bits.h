@@ -101,11 +101,11 @@ constexpr int Premier(const B& b) {
   else
     return b.PremierDepuis(0);
 }
-// Those of the set from n on.
+// Those of the set from n on; n is less than the bits of a word.
 template <class B>
 constexpr B Depuis(const B& b, int n) {
   if constexpr (std::is_integral_v<B>) {
-    return static_cast<B>(n < static_cast<int>(8 * sizeof(B)) ? b >> n << n : 0);
+    return static_cast<B>(b >> n << n);
   } else {
     B depuis = b;
     for (int i = 0; i < kMotsDe<B>; ++i) {

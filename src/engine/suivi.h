@@ -76,7 +76,10 @@ class Suivi {
   // These cells of the row have one candidate.
   void NoteSeuls(int ligne, const Bits& cellules) {
     seuls_[ligne] = cellules;
-    if (!Vide(cellules)) quelques_ |= Bit<Bits>(ligne);
+    if constexpr (kMots == 1)
+      quelques_ |= Bits{cellules != 0} << ligne;
+    else if (!Vide(cellules))
+      quelques_ |= Bit<Bits>(ligne);
   }
   void NoteSeul(int cellule) {
     seuls_[cellule / N] |= Bit<Bits>(cellule % N);

@@ -188,7 +188,7 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueNue(int u, F f) const {
     if (perdants == 0) continue;
     f({.symboles = sequence, .lieux = Depuis(egales, premier), .perdants = perdants});
     candidats = Lit<S>(candidats_[u]);
-    debuts = Depuis(Ensembles(candidats, Comptes(candidats)), premier + 1);
+    debuts = Ensembles(candidats, Comptes(candidats)) & ~((Bits{2} << premier) - 1);
   }
 }
 
