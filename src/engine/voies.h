@@ -349,6 +349,20 @@ SUDOKU_EN_LIGNE Voies<S> Comptes(const Voies<S>& voies) {
       return reinterpret_cast<Registre>(_mm512_popcnt_epi32(reinterpret_cast<__m512i>(v)));
     if constexpr (kOctets == 8)
       return reinterpret_cast<Registre>(_mm512_popcnt_epi64(reinterpret_cast<__m512i>(v)));
+#elif defined(__AVX2__)
+    const __m256i bas = _mm256_set1_epi8(15);
+    const __m256i combien = _mm256_setr_epi8(0, 1, 1, 2, 1, 2, 2, 3, 1, 2, 2, 3, 2, 3, 3, 4, 0, 1, 1, 2, 1, 2,
+                                             2, 3, 1, 2, 2, 3, 2, 3, 3, 4);
+    const auto bits = reinterpret_cast<__m256i>(v);
+    const __m256i hauts = _mm256_and_si256(_mm256_srli_epi16(bits, 4), bas);
+    const __m256i octets = _mm256_add_epi8(_mm256_shuffle_epi8(combien, _mm256_and_si256(bits, bas)),
+                                           _mm256_shuffle_epi8(combien, hauts));
+    if constexpr (kOctets == 8)
+      return reinterpret_cast<Registre>(_mm256_sad_epu8(octets, _mm256_setzero_si256()));
+    const __m256i paires = _mm256_maddubs_epi16(octets, _mm256_set1_epi8(1));
+    if constexpr (kOctets == 2) return reinterpret_cast<Registre>(paires);
+    if constexpr (kOctets == 4)
+      return reinterpret_cast<Registre>(_mm256_madd_epi16(paires, _mm256_set1_epi16(1)));
 #else
     constexpr auto kTous = static_cast<MotDe<S>>(~MotDe<S>{0});
     v = v - ((v >> 1) & static_cast<MotDe<S>>(kTous / 3));
