@@ -23,13 +23,23 @@ SUDOKU_EN_LIGNE BitsDe<S> EnsemblesVoisins(const Voies<S>& cles, const Voies<S>&
   return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
 }
 
-// The lanes are few enough that each compared with all later ones, without a branch, is soonest done.
+// Where the lanes are few, each is soonest compared with all later ones, if a set is to be expected.
 template <int S>
 constexpr bool kToutCompare = S == 4;
-#if !defined(SUDOKU_VOIES_512)
+#if defined(__AVX2__) && !defined(SUDOKU_VOIES_512)
 template <>
 constexpr bool kToutCompare<5> = true;
 #endif
+
+template <int S>
+SUDOKU_EN_LIGNE BitsDe<S> EnsemblesComparees(const Voies<S>& cles, const Voies<S>& comptes) {
+  alignas(64) MotDe<S> suite[Taille(2 * Largeur<S>::kVoies)];
+  Range<S>(suite, cles);
+  Range<S>(suite + Largeur<S>::kVoies, Voies<S>{});
+  Voies<S> egales = Partout<S>(1);
+  for (int d = 1; d < S * S; ++d) egales = egales - Egales(cles, Lit<S>(suite + d));
+  return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
+}
 
 // The same with all later lanes; equal lanes have equal `comptes`.
 template <int S>
@@ -37,14 +47,11 @@ SUDOKU_EN_LIGNE BitsDe<S> Ensembles(const Voies<S>& cles, const Voies<S>& compte
   if constexpr (S == 3) {
     const Voies<S> egales = CompteEgales<S, 1>(cles, std::make_integer_sequence<int, 8>());
     return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
-  } else if constexpr (kToutCompare<S>) {
-    alignas(64) MotDe<S> suite[Taille(2 * Largeur<S>::kVoies)];
-    Range<S>(suite, cles);
-    Range<S>(suite + Largeur<S>::kVoies, Voies<S>{});
-    Voies<S> egales = Partout<S>(1);
-    for (int d = 1; d < S * S; ++d) egales = egales - Egales(cles, Lit<S>(suite + d));
-    return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
   } else {
+    // Sets of two are the likely ones, and a board without them has few others.
+    if constexpr (kToutCompare<S>) {
+      if (std::popcount(BitsEgales(comptes, Partout<S>(2))) > 1) return EnsemblesComparees<S>(cles, comptes);
+    }
     // Lanes with the same count together: most are seen to be too few before any two are compared.
     alignas(64) MotDe<S> c[Taille(Largeur<S>::kVoies)];
     alignas(64) MotDe<S> n[Taille(Largeur<S>::kVoies)];
