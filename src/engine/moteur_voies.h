@@ -13,8 +13,14 @@
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
+// Lanes of 64 bits pay only where a few of them are compared at once.
+#if defined(__AVX2__)
+constexpr int kCoteDeVoies = 8;
+#else
+constexpr int kCoteDeVoies = 5;
+#endif
 template <int S>
-using Trouve = std::conditional_t<Largeur<S>::kMots == 1, TrouveVoies<S>, TrouveComptes<S>>;
+using Trouve = std::conditional_t<S <= kCoteDeVoies, TrouveVoies<S>, TrouveComptes<S>>;
 
 // The engine for blocks of side S, on lanes. Where some content that counts is no single symbol of the grid,
 // or where symbols are equal, it hands the grid to the plain one.
@@ -220,7 +226,7 @@ bool MoteurVoies<S>::Deduit(Bloc& bloc, std::int32_t mode) {
 
 template <int S>
 void MoteurVoies<S>::EcritCandidats(Bloc& bloc) const {
-  if constexpr (kMots == 1) {
+  if constexpr (S <= kCoteDeVoies) {
     for (int l = 0; l < N; ++l) {
       std::copy_n(deductions_.CandidatsDeLigne(l), N, &bloc.candidats[static_cast<std::size_t>(N * l + 1)]);
     }
@@ -228,7 +234,7 @@ void MoteurVoies<S>::EcritCandidats(Bloc& bloc) const {
     std::uint64_t* mots = &bloc.candidats[static_cast<std::size_t>(bloc.mots)];
     for (int i = 0; i < N * N; ++i, mots += bloc.mots) {
       const BitsDe<S> candidats = deductions_.CandidatsDe(i);
-      for (int mot = 0; mot < kMots; ++mot) mots[mot] = candidats[mot];
+      for (int mot = 0; mot < kMots; ++mot) mots[mot] = SUDOKU_MOTEUR::Mot(candidats, mot);
     }
   }
 }
