@@ -41,7 +41,9 @@ bool DessineSvg(FenetreQt& fenetre, QIODevice& fichier) {
   dessin.setTitle(fenetre.windowTitle());
   QPainter p(&dessin);
   DessineSurPapier(fenetre.LaFenetre(), p);
-  return p.end() && fichier.write(XmlBienForme(xml.data())) >= 0;
+  if (!p.end()) return false;
+  const QByteArray sain = XmlBienForme(xml.data());
+  return fichier.write(sain) == sain.size();
 }
 
 bool DessinePdf(FenetreQt& fenetre, QIODevice& fichier) {

@@ -7,6 +7,7 @@ cd "$(mktemp -d)" || exit 1
 trap 'rm -rf "$PWD"' EXIT
 export HOME=$PWD
 printf '1234\r\n10 0 0 0 0 020 0 030 0 0 0 0 040\r\n\0' > jeu.sud
+{ printf '123456789\r\n'; printf '10%.0s' {1..81}; printf '\r\n\0'; } > plein.sud
 ln -s jeu.sud jeu.png
 echo notes > notes.txt
 echo ancien | tee a.png a.svg > a.pdf
@@ -42,9 +43,10 @@ essai 1 '53 - Fichier introuvable' --capture a.png rien.sud
 essai 1 "d.png : Erreur d'accès" --capture d.png jeu.sud
 essai 1 "absent/a.png : Erreur d'accès" --capture absent/a.png jeu.sud
 
-# No room for the image: what was there stays, and nothing beside it. (The limit stands in for a full disk.)
+# No room for the image, which is larger than a buffer: what was there stays, and nothing beside it. (The limit stands
+# in for a full disk.)
 for image in a.png a.svg a.pdf; do
-  (ulimit -f 1; essai 1 "$image : Erreur d'accès" --capture $image jeu.sud; exit $echec) || echec=1
+  (ulimit -f 1; essai 1 "$image : Erreur d'accès" --capture $image plein.sud; exit $echec) || echec=1
 done
 
 # A game whose name isn't UTF-8.
