@@ -154,6 +154,7 @@ Masque<4> TrouveTextes::HorsDe(int cellule, const M& symboles) const {
 
 bool TrouveTextes::Nue(int u, int depuis, Trouvaille<M>& t) {
   std::vector<Texte> possibles;
+  possibles.reserve(Rang(N()));
   for (int place = 0; place < N(); ++place) possibles.push_back(Possible(Cellule(u, place)));
   for (int premier = depuis; premier < N(); ++premier) {
     const Texte& sequence = possibles[Rang(premier)];

@@ -67,7 +67,8 @@ void DessineSurPapier(const Fenetre& fenetre, QPainter& p) {
   p.setFont(PoliceDePapier(kMoindreTitre, false));
   p.drawText(QRect(0, 0, kLargeur, kTitre), Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine,
              p.fontMetrics().elidedText(Titre(fenetre), Qt::ElideRight, kLargeur));
-  p.translate((kLargeur - tout.width()) / 2 - tout.left(), kTitre - tout.top());
+  const int marge = (kLargeur - tout.width()) / 2;
+  p.translate(marge - tout.left(), kTitre - tout.top());
   // Lines on paper are finer than on a screen: drawn in the middle of the gaps.
   const double ecart = geometrie.Trait();
   p.setPen(QPen(Qt::black, ecart / 4, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));

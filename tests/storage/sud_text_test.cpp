@@ -96,10 +96,10 @@ TEST(EcritSud, LesSignesDuTiretReviennent) {
                                           U"\x1F"
                                           U"0",
                                           {{}, {nom, nom}}, {{}, {nom, 0}}));
-    const Texte attendu =
+    Texte attendu =
         U"\x1F|\x1F"
-        U"0|" +
-        nom + U"=" + nom + U"|scores " + nom + U"=00:00:00";
+        U"0|";
+    attendu.append(nom).append(U"=").append(nom).append(U"|scores ").append(nom).append(U"=00:00:00");
     ASSERT_EQ(Resume(lu), VersUtf8(attendu)) << n;
   }
   EXPECT_EQ(EcritSud(U"1", U" 0", {{}, {U"a\x1F\x1E-\x1E", U""}}, {{}}),
