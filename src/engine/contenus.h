@@ -4,14 +4,17 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "grid/geometrie.h"
+
 namespace sudoku {
 
-// Kinds of units in the order in which the engine goes through those of one number.
-enum GenreUnite { kGenreCarre = 0, kGenreLigne = 1, kGenreColonne = 2 };
-
-// Units are numbered 3 * (number - 1) + kind, in the order in which the engine goes through them.
+// Units of all kinds as one number, in the order in which the engine goes through them: block, row, column of
+// each number.
 constexpr int Unite(int genre, int numero) {
-  return 3 * numero + genre;
+  return 3 * numero + kCarre - genre;
+}
+constexpr TypeUnite TypeDe(int u) {
+  return static_cast<TypeUnite>(kCarre - u % 3);
 }
 
 // A number of elements, for the bounds of an array.

@@ -126,14 +126,9 @@ class DeductionsSur : public T {
   void Releve();
   void PoseSolution(int cellule, int symbole);
 
-  static std::uint8_t Type(int genre) {
-    return static_cast<std::uint8_t>(genre == kGenreCarre   ? kCarre
-                                     : genre == kGenreLigne ? kLigne
-                                                            : kColonne);
-  }
   // What a fact of unit u begins with.
   static Argument De(Genre genre, int u) {
-    return {.genre = genre, .type = Type(u % 3), .unite = static_cast<std::int16_t>(u / 3 + 1)};
+    return {.genre = genre, .type = TypeDe(u), .unite = static_cast<std::int16_t>(u / 3 + 1)};
   }
   template <class... B>
   std::uint32_t Note(const Argument& argument, const B&... masques) {
@@ -221,7 +216,7 @@ bool DeductionsSur<T, U>::TestSerie(int u) {
 template <Trouveur T, Usage U>
 void DeductionsSur<T, U>::Seule(int u, int symbole, int cellule) {
   PoseSolution(cellule, symbole);
-  Fait(cellule, Note({.genre = Genre::kSeule, .type = Type(u % 3)}));
+  Fait(cellule, Note({.genre = Genre::kSeule, .type = TypeDe(u)}));
 }
 
 // The symbol goes from the rest of the other unit.
@@ -296,11 +291,9 @@ bool DeductionsSur<T, U>::Agit(const Figure& figure) {
   std::uint32_t note = 0;
   ChaquePerte(figure, [&](int u, const Bits& perdants) {
     if (!change) {
-      note = Note({.genre = Genre::kFigure,
-                   .type = Type(figure.genre),
-                   .type2 = Type(figure.genre2),
-                   .symbole = figure.symbole},
-                  figure.unites, figure.cle);
+      note = Note(
+          {.genre = Genre::kFigure, .type = figure.genre, .type2 = figure.genre2, .symbole = figure.symbole},
+          figure.unites, figure.cle);
     }
     change = true;
     Chaque(perdants, [&](int place) {

@@ -22,9 +22,8 @@ class Explicateur {
   std::vector<Fait> faits_;
 };
 
-// A unit: its kind (0 column, 1 row, 2 block) and its number.
 struct UniteNommee {
-  int type;
+  TypeUnite type;
   int numero;
 };
 

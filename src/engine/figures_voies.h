@@ -49,30 +49,30 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::FiguresDe(int s, F f) const {
   for (int i = 0; i < N; ++i) {
     for (int g = 0; g < 3; ++g) p[g][i] = places_[Unite(g, i)][s];
   }
-  const auto figure = [&](GenreUnite genre, Bits unites, GenreUnite genre2, Bits cle) {
+  const auto figure = [&](TypeUnite genre, Bits unites, TypeUnite genre2, Bits cle) {
     f({.symbole = s, .genre = genre, .unites = unites, .genre2 = genre2, .cle = cle});
   };
-  DeLignes(p[kGenreColonne], kGenreColonne, figure);
-  DeLignes(p[kGenreLigne], kGenreLigne, figure);
-  DeCarres(Lit<S>(p[kGenreCarre]), figure);
+  DeLignes(p[kColonne], kColonne, figure);
+  DeLignes(p[kLigne], kLigne, figure);
+  DeCarres(Lit<S>(p[kCarre]), figure);
 }
 
 // The figures whose units are lines of this kind. Confined to crossing lines, then to blocks.
 template <int S>
 template <class F>
-SUDOKU_EN_LIGNE void TrouveVoies<S>::DeLignes(const MotDe<S>* p, GenreUnite genre, F f) {
+SUDOKU_EN_LIGNE void TrouveVoies<S>::DeLignes(const MotDe<S>* p, TypeUnite genre, F f) {
   const V lignes = Lit<S>(p);
   const V comptes = Comptes(lignes);
   Chaque(Ensembles(lignes, comptes), [&](int premiere) {
     const Bits unites = Depuis(BitsEgales(Lit<S>(p), Partout<S>(p[premiere])), premiere);
-    f(genre, unites, genre == kGenreLigne ? kGenreColonne : kGenreLigne, p[premiere]);
+    f(genre, unites, genre == kLigne ? kColonne : kLigne, p[premiere]);
   });
   // Blocks serve only lines with fewer than S places.
   const V longues = PlusDe(S - 1, comptes);
   if (S > 3 && Aucune(PlusDe(1, comptes) & ~longues)) return;
   const V cles = (Cles<S>(lignes, kLieux<S>.groupe, kFinsDeCles<S>.bande) & ~longues) |
                  (Lit<S>(kFinsDeCles<S>.aucune) & longues);
-  EnCarres(cles, EnsemblesVoisins<S, 1>(cles, comptes), genre, kGenreCarre, f);
+  EnCarres(cles, EnsemblesVoisins<S, 1>(cles, comptes), genre, kCarre, f);
 }
 
 // The figures whose units are blocks.
@@ -83,15 +83,15 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::DeCarres(const V& carres, F f) {
   if (S > 3 && Aucune(PlusDe(1, comptes) & ~PlusDe(S, comptes))) return;
   const V parColonnes = Cles<S>(carres, kLieux<S>.residu, kFinsDeCles<S>.pile);
   const V parLignes = Cles<S>(carres, kLieux<S>.groupe, kFinsDeCles<S>.bande);
-  EnCarres(parColonnes, EnsemblesVoisins<S, S>(parColonnes, comptes), kGenreCarre, kGenreColonne, f);
-  EnCarres(parLignes, EnsemblesVoisins<S, 1>(parLignes, comptes), kGenreCarre, kGenreLigne, f);
+  EnCarres(parColonnes, EnsemblesVoisins<S, S>(parColonnes, comptes), kCarre, kColonne, f);
+  EnCarres(parLignes, EnsemblesVoisins<S, 1>(parLignes, comptes), kCarre, kLigne, f);
 }
 
 // Figures between lines and blocks. A key names S units side by side, of which some are held.
 template <int S>
 template <class F>
-SUDOKU_EN_LIGNE void TrouveVoies<S>::EnCarres(const V& voies, Bits debuts, GenreUnite genre,
-                                              GenreUnite genre2, F f) {
+SUDOKU_EN_LIGNE void TrouveVoies<S>::EnCarres(const V& voies, Bits debuts, TypeUnite genre, TypeUnite genre2,
+                                              F f) {
   if (debuts == 0) return;
   alignas(64) Mot cles[Taille(kVoies)];
   Range<S>(cles, voies);
@@ -101,7 +101,7 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::EnCarres(const V& voies, Bits debuts, Genre
     Bits cle = 0;
     for (int k = 0; k < S; ++k) {
       // Down a column every Sth block comes.
-      const int unite = genre == kGenreColonne ? bande + k * S : bande * S + k;
+      const int unite = genre == kColonne ? bande + k * S : bande * S + k;
       cle |= (Bits{cles[premiere]} >> k & 1) << unite;
     }
     f(genre, unites, genre2, cle);

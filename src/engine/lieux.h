@@ -54,10 +54,10 @@ struct TousLesLieux {
       for (int k = 0; k < S; ++k) {
         const int premiers = n / S;
         const int derniers = n % S;
-        Croise(kGenreCarre, n, k, Unite(kGenreLigne, S * premiers + k), groupe[k], groupe[derniers]);
-        Croise(kGenreCarre, n, S + k, Unite(kGenreColonne, S * derniers + k), residu[k], groupe[premiers]);
-        Croise(kGenreLigne, n, k, Unite(kGenreCarre, S * premiers + k), groupe[k], groupe[derniers]);
-        Croise(kGenreColonne, n, k, Unite(kGenreCarre, S * k + premiers), groupe[k], residu[derniers]);
+        Croise(kCarre, n, k, Unite(kLigne, S * premiers + k), groupe[k], groupe[derniers]);
+        Croise(kCarre, n, S + k, Unite(kColonne, S * derniers + k), residu[k], groupe[premiers]);
+        Croise(kLigne, n, k, Unite(kCarre, S * premiers + k), groupe[k], groupe[derniers]);
+        Croise(kColonne, n, k, Unite(kCarre, S * k + premiers), groupe[k], residu[derniers]);
       }
     }
   }
@@ -66,8 +66,8 @@ struct TousLesLieux {
   constexpr void Place(int cellule) {
     const int ligne = cellule / N;
     const int colonne = cellule % N;
-    const int numero[3] = {ligne / S * S + colonne / S, ligne, colonne};
-    const int place[3] = {ligne % S * S + colonne % S, colonne, ligne};
+    const int numero[3] = {colonne, ligne, ligne / S * S + colonne / S};
+    const int place[3] = {ligne, colonne, ligne % S * S + colonne % S};
     for (int g = 0; g < 3; ++g) {
       const int u = Unite(g, numero[g]);
       lieux[cellule].unite[g] = static_cast<std::uint8_t>(u);

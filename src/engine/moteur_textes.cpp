@@ -39,7 +39,7 @@ bool TrouveTextes::Amorce(Appui appui) {
 // What texts leave depends on what went before: block, row, column, cell by cell.
 Masque<4> TrouveTextes::ListePossibles(int cellule) const {
   M liste = Premiers<M>(N());
-  for (const int genre : {kGenreCarre, kGenreLigne, kGenreColonne}) {
+  for (const int genre : {kCarre, kLigne, kColonne}) {
     const int u = parties_.UniteDe(genre, cellule);
     for (int place = 0; place < N(); ++place) {
       const int autre = Cellule(u, place);

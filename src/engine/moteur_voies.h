@@ -157,20 +157,20 @@ void MoteurVoies<S>::AmorceLignes(const Code* positions) {
       const V ouvertes = Nulles(symboles);
       carres |= symboles;
       vides |= ouvertes & Partout<S>(Bits{1} << l);
-      contenus_.symboles[kGenreLigne][l] = ligne;
-      contenus_.ouvertes[kGenreLigne][l] = static_cast<Mot>(EnBits(ouvertes) & kLieux<S>.tous);
+      contenus_.symboles[kLigne][l] = ligne;
+      contenus_.ouvertes[kLigne][l] = static_cast<Mot>(EnBits(ouvertes) & kLieux<S>.tous);
     }
     colonnes |= carres;
     Range<S>(bande, carres);
     for (int pile = 0; pile < S; ++pile) {
       Mot carre = 0;
       for (int k = 0; k < S; ++k) carre |= bande[S * pile + k];
-      contenus_.symboles[kGenreCarre][S * b + pile] = carre;
+      contenus_.symboles[kCarre][S * b + pile] = carre;
     }
   }
-  Range<S>(contenus_.symboles[kGenreColonne], colonnes);
+  Range<S>(contenus_.symboles[kColonne], colonnes);
   Range<S>(bits, vides);
-  std::copy_n(bits, N, contenus_.ouvertes[kGenreColonne]);
+  std::copy_n(bits, N, contenus_.ouvertes[kColonne]);
 }
 
 // The rest, turned round from that.
@@ -184,10 +184,10 @@ void MoteurVoies<S>::AmorceUnites() {
   for (int c = 0; c < N; ++c) {
     Bits ouvertes = 0;
     for (int k = 0; k < S; ++k) {
-      const Bits ligne = contenus_.ouvertes[kGenreLigne][c / S * S + k];
+      const Bits ligne = contenus_.ouvertes[kLigne][c / S * S + k];
       ouvertes |= (ligne >> (c % S * S) & ((Bits{1} << S) - 1)) << (k * S);
     }
-    contenus_.ouvertes[kGenreCarre][c] = static_cast<Mot>(ouvertes);
+    contenus_.ouvertes[kCarre][c] = static_cast<Mot>(ouvertes);
   }
 }
 

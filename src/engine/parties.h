@@ -12,15 +12,15 @@ namespace {
 template <class Bits>
 struct FigureDe {
   int symbole;
-  GenreUnite genre;
+  TypeUnite genre;
   Bits unites;
-  GenreUnite genre2;
+  TypeUnite genre2;
   Bits cle;
 
-  // By kind (columns first), first unit, symbol, other kind.
+  // By kind, first unit, symbol, other kind.
   int Ordre() const {
     constexpr int kPlus = kTailleMax + 1;
-    return ((kPlus * (2 - genre) + Premier(unites)) * kPlus + symbole) * 3 + 2 - genre2;
+    return ((kPlus * genre + Premier(unites)) * kPlus + symbole) * 3 + genre2;
   }
 };
 
@@ -41,20 +41,20 @@ struct Parties {
   constexpr int Cellule(int u, int place) const {
     const int N = S * S;
     const int n = u / 3;
-    if (u % 3 == kGenreLigne) return n * N + place;
-    if (u % 3 == kGenreColonne) return place * N + n;
+    if (TypeDe(u) == kLigne) return n * N + place;
+    if (TypeDe(u) == kColonne) return place * N + n;
     return (n / S * S + place / S) * N + n % S * S + place % S;
   }
   // The unit of a kind that has the cell, and the cell's place in it.
   constexpr int UniteDe(int genre, int cellule) const {
     const int l = cellule / (S * S);
     const int c = cellule % (S * S);
-    return Unite(genre, genre == kGenreLigne ? l : genre == kGenreColonne ? c : l / S * S + c / S);
+    return Unite(genre, genre == kLigne ? l : genre == kColonne ? c : l / S * S + c / S);
   }
   constexpr int PlaceDe(int genre, int cellule) const {
     const int l = cellule / (S * S);
     const int c = cellule % (S * S);
-    return genre == kGenreLigne ? c : genre == kGenreColonne ? l : l % S * S + c % S;
+    return genre == kLigne ? c : genre == kColonne ? l : l % S * S + c % S;
   }
 
   struct Commune {
@@ -68,41 +68,41 @@ struct Parties {
     const int pile = u / 3 % S;
     const int g = premier / S;
     if (Vide(lieux & ~groupe[g])) {
-      if (u % 3 == kGenreCarre) return {Unite(kGenreLigne, bande * S + g), groupe[pile]};
-      if (u % 3 == kGenreLigne) return {Unite(kGenreCarre, bande * S + g), groupe[pile]};
-      return {Unite(kGenreCarre, g * S + bande), residu[pile]};
+      if (TypeDe(u) == kCarre) return {Unite(kLigne, bande * S + g), groupe[pile]};
+      if (TypeDe(u) == kLigne) return {Unite(kCarre, bande * S + g), groupe[pile]};
+      return {Unite(kCarre, g * S + bande), residu[pile]};
     }
     const int r = premier % S;
-    if (u % 3 == kGenreCarre && Vide(lieux & ~residu[r]))
-      return {Unite(kGenreColonne, pile * S + r), groupe[bande]};
+    if (TypeDe(u) == kCarre && Vide(lieux & ~residu[r]))
+      return {Unite(kColonne, pile * S + r), groupe[bande]};
     return {};
   }
 
   // The places that the units of a figure have in each of those it is confined to. Where blocks are among
   // them all lie in one band or stack.
   constexpr Bits Dedans(const FigureDe<Bits>& f) const {
-    if (f.genre != kGenreCarre && f.genre2 != kGenreCarre) return f.unites;
+    if (f.genre != kCarre && f.genre2 != kCarre) return f.unites;
     Bits dedans{};
     Chaque(f.unites, [&](int i) {
-      if (f.genre == kGenreCarre)
-        dedans |= groupe[f.genre2 == kGenreColonne ? i / S : i % S];
+      if (f.genre == kCarre)
+        dedans |= groupe[f.genre2 == kColonne ? i / S : i % S];
       else
-        dedans |= f.genre == kGenreColonne ? residu[i % S] : groupe[i % S];
+        dedans |= f.genre == kColonne ? residu[i % S] : groupe[i % S];
     });
     return dedans;
   }
   // Numbers - 1 of the units of kind genre2 that have these places of unit u, where one of the two is a
   // block.
-  constexpr Bits Cle(int u, GenreUnite genre2, const Bits& lieux) const {
+  constexpr Bits Cle(int u, TypeUnite genre2, const Bits& lieux) const {
     const int bande = u / 3 / S;
     const int pile = u / 3 % S;
-    const int genre = u % 3;
+    const int genre = TypeDe(u);
     Bits cle{};
     for (int k = 0; k < S; ++k) {
-      const bool colonnes = genre == kGenreCarre && genre2 == kGenreColonne;
+      const bool colonnes = genre == kCarre && genre2 == kColonne;
       if (Vide(lieux & (colonnes ? residu[k] : groupe[k]))) continue;
       const int suite = colonnes ? pile * S + k : bande * S + k;
-      cle |= Bit<Bits>(genre == kGenreColonne ? k * S + bande : suite);
+      cle |= Bit<Bits>(genre == kColonne ? k * S + bande : suite);
     }
     return cle;
   }

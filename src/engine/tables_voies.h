@@ -18,12 +18,12 @@ SUDOKU_EN_LIGNE Voies<S> Laisse(const Voies<S>& prises, const MotDe<S>* symboles
 // Calls f(row, candidates by column, lanes of its open cells) for each row.
 template <int S, class F>
 SUDOKU_EN_LIGNE void ChaqueLigne(const Contenus<S>& contenus, F f) {
-  const Voies<S> colonnes = Lit<S>(contenus.symboles[kGenreColonne]);
+  const Voies<S> colonnes = Lit<S>(contenus.symboles[kColonne]);
   ChaqueConstante<S>([&](auto bande) {
-    const Voies<S> prises = Etire<S, S, 1>(contenus.symboles[kGenreCarre], bande) | colonnes;
+    const Voies<S> prises = Etire<S, S, 1>(contenus.symboles[kCarre], bande) | colonnes;
     for (int l = bande * S; l < (bande + 1) * S; ++l) {
-      const Voies<S, 1> ouvertes = Etale<S>(Lu<S>(contenus.ouvertes[kGenreLigne], l));
-      f(l, Laisse<S>(prises, contenus.symboles[kGenreLigne], l, ouvertes), ouvertes);
+      const Voies<S, 1> ouvertes = Etale<S>(Lu<S>(contenus.ouvertes[kLigne], l));
+      f(l, Laisse<S>(prises, contenus.symboles[kLigne], l, ouvertes), ouvertes);
     }
   });
 }
@@ -31,12 +31,12 @@ SUDOKU_EN_LIGNE void ChaqueLigne(const Contenus<S>& contenus, F f) {
 // The same for each column, by row.
 template <int S, class F>
 SUDOKU_EN_LIGNE void ChaqueColonne(const Contenus<S>& contenus, F f) {
-  const Voies<S> lignes = Lit<S>(contenus.symboles[kGenreLigne]);
+  const Voies<S> lignes = Lit<S>(contenus.symboles[kLigne]);
   ChaqueConstante<S>([&](auto pile) {
-    const Voies<S> prises = Etire<S, 1, S>(contenus.symboles[kGenreCarre], pile) | lignes;
+    const Voies<S> prises = Etire<S, 1, S>(contenus.symboles[kCarre], pile) | lignes;
     for (int c = pile * S; c < (pile + 1) * S; ++c) {
-      const Voies<S, 1> ouvertes = Etale<S>(Lu<S>(contenus.ouvertes[kGenreColonne], c));
-      f(c, Laisse<S>(prises, contenus.symboles[kGenreColonne], c, ouvertes));
+      const Voies<S, 1> ouvertes = Etale<S>(Lu<S>(contenus.ouvertes[kColonne], c));
+      f(c, Laisse<S>(prises, contenus.symboles[kColonne], c, ouvertes));
     }
   });
 }
@@ -58,9 +58,9 @@ SUDOKU_EN_LIGNE Voies<S> Etend(const BitsDe<S>* parties, const Voies<S>& de, int
 template <int S, class F>
 SUDOKU_EN_LIGNE void ChaquePlaces(const Contenus<S>& contenus, F f) {
   const auto& parties = kParties<S>;
-  const Voies<S> lignes = Lit<S>(contenus.unites[kGenreLigne]);
-  const Voies<S> colonnes = Lit<S>(contenus.unites[kGenreColonne]);
-  const Voies<S> carres = Lit<S>(contenus.unites[kGenreCarre]);
+  const Voies<S> lignes = Lit<S>(contenus.unites[kLigne]);
+  const Voies<S> colonnes = Lit<S>(contenus.unites[kColonne]);
+  const Voies<S> carres = Lit<S>(contenus.unites[kCarre]);
   const auto une = [&](int genre, int numero, const Voies<S>& de, const Voies<S>& prises) {
     const Voies<S, 1> avec = Avec<S>(de, numero);
     const BitsDe<S> ouvertes = Lu<S>(contenus.ouvertes[genre], numero);
@@ -75,9 +75,9 @@ SUDOKU_EN_LIGNE void ChaquePlaces(const Contenus<S>& contenus, F f) {
     const Voies<S> prisesColonne = Etend<S>(parties.groupe, carres, g, S) | lignes;
     const Voies<S> prisesCarre = Etend<S>(parties.groupe, lignes, S * g, 1);
     for (int k = 0; k < S; ++k) {
-      une(kGenreLigne, S * g + k, lignes, prisesLigne);
-      une(kGenreColonne, S * g + k, colonnes, prisesColonne);
-      une(kGenreCarre, S * g + k, carres, prisesCarre | colonnesDuCarre[k]);
+      une(kLigne, S * g + k, lignes, prisesLigne);
+      une(kColonne, S * g + k, colonnes, prisesColonne);
+      une(kCarre, S * g + k, carres, prisesCarre | colonnesDuCarre[k]);
     }
   }
 }

@@ -75,10 +75,10 @@ bool TrouveComptes<S>::Amorce(Appui appui) {
   bool complets = true;
   ChaqueLigne<S>(this->contenus_, [&](int l, const V& c, const Voies<S, 1>&) SUDOKU_LAMBDA_EN_LIGNE {
     Range<S>(candidats_[l], c);
-    Octets<Bits>& comptes = comptes_[Unite(kGenreLigne, l)];
+    Octets<Bits>& comptes = comptes_[Unite(kLigne, l)];
     Compte(candidats_[l], comptes);
     this->NoteSeuls(l, Entre(comptes, 1, 1));
-    complets &= Nombre(Entre(comptes, 1, kN)) == Nombre(Lu<S>(this->contenus_.ouvertes[kGenreLigne], l));
+    complets &= Nombre(Entre(comptes, 1, kN)) == Nombre(Lu<S>(this->contenus_.ouvertes[kLigne], l));
   });
   return complets;
 }
@@ -96,10 +96,10 @@ void TrouveComptes<S>::Compte(const Mot* masques, Octets<Bits>& comptes) {
 template <int S>
 void TrouveComptes<S>::Retourne() {
   for (int l = 0; l < kN; ++l) {
-    const std::uint8_t* const ligne = comptes_[Unite(kGenreLigne, l)].n;
+    const std::uint8_t* const ligne = comptes_[Unite(kLigne, l)].n;
     for (int c = 0; c < kN; ++c) {
-      comptes_[Unite(kGenreColonne, c)].n[l] = ligne[c];
-      comptes_[Unite(kGenreCarre, l / S * S + c / S)].n[l % S * S + c % S] = ligne[c];
+      comptes_[Unite(kColonne, c)].n[l] = ligne[c];
+      comptes_[Unite(kCarre, l / S * S + c / S)].n[l % S * S + c % S] = ligne[c];
     }
   }
   ChaquePlaces<S>(this->contenus_, [&](int u, const V& places) SUDOKU_LAMBDA_EN_LIGNE {
@@ -112,7 +112,7 @@ void TrouveComptes<S>::Retourne() {
 template <int S>
 void TrouveComptes<S>::ComptePlaces(int u) {
   Compte(places_[u], nombres_[u]);
-  for (int s = 0; s < kN; ++s) parSymbole_[u % 3][s].n[u / 3] = nombres_[u].n[s];
+  for (int s = 0; s < kN; ++s) parSymbole_[TypeDe(u)][s].n[u / 3] = nombres_[u].n[s];
 }
 
 template <int S>

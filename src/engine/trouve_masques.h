@@ -77,9 +77,9 @@ class TrouveMasques {
   Dos& dos() { return static_cast<Dos&>(*this); }
 
   template <class F>
-  void EntreLignes(int s, GenreUnite genre, F f);
+  void EntreLignes(int s, TypeUnite genre, F f);
   template <class F>
-  void AvecCarres(int s, GenreUnite genre, GenreUnite genre2, F f);
+  void AvecCarres(int s, TypeUnite genre, TypeUnite genre2, F f);
 };
 
 template <class Dos, class B>
@@ -175,10 +175,10 @@ template <class Dos, class B>
 template <class F>
 void TrouveMasques<Dos, B>::ChaqueFigure(F f) {
   Chaque(dos().AChercher(), [&](int s) {
-    for (const GenreUnite genre : {kGenreColonne, kGenreLigne}) {
+    for (const TypeUnite genre : {kColonne, kLigne}) {
       EntreLignes(s, genre, f);
-      AvecCarres(s, genre, kGenreCarre, f);
-      AvecCarres(s, kGenreCarre, genre, f);
+      AvecCarres(s, genre, kCarre, f);
+      AvecCarres(s, kCarre, genre, f);
     }
   });
 }
@@ -186,14 +186,14 @@ void TrouveMasques<Dos, B>::ChaqueFigure(F f) {
 // Between lines the places themselves say to which units a unit is confined.
 template <class Dos, class B>
 template <class F>
-void TrouveMasques<Dos, B>::EntreLignes(int s, GenreUnite genre, F f) {
+void TrouveMasques<Dos, B>::EntreLignes(int s, TypeUnite genre, F f) {
   const Octets<B>& nombres = dos().NombresDuSymbole(genre, s);
   const B assez = Assez(nombres, Entre(nombres, 2, dos().N() - 1));
   if (Vide(assez)) return;
   Chaque(assez, [&](int v) {
     liste_.elements.push_back({v, nombres.n[v], dos().Places(Unite(genre, v), s)});
   });
-  const GenreUnite genre2 = genre == kGenreLigne ? kGenreColonne : kGenreLigne;
+  const TypeUnite genre2 = genre == kLigne ? kColonne : kLigne;
   liste_.ChaqueEnsemble([&](const Element& e, const B& unites) {
     f({.symbole = s, .genre = genre, .unites = unites, .genre2 = genre2, .cle = e.masque});
   });
@@ -203,16 +203,16 @@ void TrouveMasques<Dos, B>::EntreLignes(int s, GenreUnite genre, F f) {
 // band, or the stack, which they cross. Blocks serve so only lines with fewer than S places.
 template <class Dos, class B>
 template <class F>
-void TrouveMasques<Dos, B>::AvecCarres(int s, GenreUnite genre, GenreUnite genre2, F f) {
+void TrouveMasques<Dos, B>::AvecCarres(int s, TypeUnite genre, TypeUnite genre2, F f) {
   const auto& parties = dos().DesParties();
   const int S = parties.S;
   const Octets<B>& nombres = dos().NombresDuSymbole(genre, s);
-  const int pas = genre == kGenreCarre && genre2 == kGenreColonne ? S : 1;
-  const int maximum = genre2 == kGenreCarre ? S - 1 : dos().N() - 1;
+  const int pas = genre == kCarre && genre2 == kColonne ? S : 1;
+  const int maximum = genre2 == kCarre ? S - 1 : dos().N() - 1;
   const auto cle = [&](int v) {
     return parties.Cle(Unite(genre, v), genre2, dos().Places(Unite(genre, v), s));
   };
-  Chaque(Entre(nombres, 2, genre2 == kGenreCarre ? S - 1 : S), [&](int premiere) {
+  Chaque(Entre(nombres, 2, genre2 == kCarre ? S - 1 : S), [&](int premiere) {
     const int fin = pas == 1 ? (premiere / S + 1) * S : premiere % S + dos().N();
     const int n = nombres.n[premiere];
     if (n > (fin - premiere) / pas) return;

@@ -20,9 +20,9 @@ class TrouveVoies : public Suivi<S> {
   using V = Voies<S>;
   using Suivi<S>::Suivi;
 
-  Bits CandidatsDe(int cellule) const { return candidats_[Unite(kGenreLigne, cellule / N)][cellule % N]; }
+  Bits CandidatsDe(int cellule) const { return candidats_[Unite(kLigne, cellule / N)][cellule % N]; }
   // The candidates of the N cells of a row.
-  const MotDe<S>* CandidatsDeLigne(int ligne) const { return candidats_[Unite(kGenreLigne, ligne)]; }
+  const MotDe<S>* CandidatsDeLigne(int ligne) const { return candidats_[Unite(kLigne, ligne)]; }
 
   // The places of each symbol that is left to place in a unit, and how many.
   struct EtatUnite {
@@ -66,11 +66,11 @@ class TrouveVoies : public Suivi<S> {
   template <class F>
   void FiguresDe(int s, F f) const;
   template <class F>
-  static void DeLignes(const Mot* p, GenreUnite genre, F f);
+  static void DeLignes(const Mot* p, TypeUnite genre, F f);
   template <class F>
   static void DeCarres(const V& carres, F f);
   template <class F>
-  static void EnCarres(const V& voies, Bits debuts, GenreUnite genre, GenreUnite genre2, F f);
+  static void EnCarres(const V& voies, Bits debuts, TypeUnite genre, TypeUnite genre2, F f);
   bool EnleveTous(int cellule, Bits symboles);
 
   // Candidates by unit and place, places by unit and symbol; lanes from N on stay 0.
@@ -83,7 +83,7 @@ bool TrouveVoies<S>::Amorce(Appui appui) {
   Base::Commence(appui);
   V nuls{};
   ChaqueLigne<S>(contenus_, [&](int l, const V& c, const V& ouvertes) SUDOKU_LAMBDA_EN_LIGNE {
-    Range<S>(candidats_[Unite(kGenreLigne, l)], c);
+    Range<S>(candidats_[Unite(kLigne, l)], c);
     nuls |= Nulles(c) & ouvertes;
     Base::NoteSeuls(l, EnBits(Seules(c)));
   });
@@ -94,13 +94,13 @@ bool TrouveVoies<S>::Amorce(Appui appui) {
 template <int S>
 void TrouveVoies<S>::Retourne() {
   ChaqueColonne<S>(contenus_, [&](int c, const V& colonne) SUDOKU_LAMBDA_EN_LIGNE {
-    Range<S>(candidats_[Unite(kGenreColonne, c)], colonne);
+    Range<S>(candidats_[Unite(kColonne, c)], colonne);
   });
   for (int b = 0; b < N; ++b) {
-    Mot* const carre = candidats_[Unite(kGenreCarre, b)];
+    Mot* const carre = candidats_[Unite(kCarre, b)];
     Range<S>(carre, V{});
     for (int l = 0; l < S; ++l) {
-      std::memcpy(carre + S * l, candidats_[Unite(kGenreLigne, b / S * S + l)] + b % S * S, S * sizeof(Mot));
+      std::memcpy(carre + S * l, candidats_[Unite(kLigne, b / S * S + l)] + b % S * S, S * sizeof(Mot));
     }
   }
   ChaquePlaces<S>(contenus_,
@@ -139,7 +139,7 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueConfinee(int u, const EtatUnite& e, F
   const Croisements<S>& croisements = kLieux<S>.croisements[u];
   const V places = e.places & ~e.seules;
   const V ou = places | Nulles(places);  // a symbol without places isn't confined to anything
-  const int n = u % 3 == kGenreCarre ? 2 * S : S;
+  const int n = TypeDe(u) == kCarre ? 2 * S : S;
   V perdants[Taille(2 * S)];
   V tous{};
   for (int k = 0; k < n; ++k) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "grid/alphabet.h"
+#include "grid/geometrie.h"
 
 namespace sudoku {
 
@@ -19,8 +20,8 @@ struct Argument {
     kFigure      // `symbole` of the units of masque A, of kind `type`, confined to those of masque B, `type2`
   };
   Genre genre;
-  std::uint8_t type = 0;
-  std::uint8_t type2 = 0;
+  TypeUnite type = kColonne;
+  TypeUnite type2 = kColonne;
   std::int16_t unite = 0;
   // A position of VmValeurs; for kNue the number of a text that no mask can hold, or kVide.
   Code symbole = kVide;

@@ -7,8 +7,8 @@
 
 namespace sudoku {
 
-// Kinds of units, as numbers of the data model.
-enum TypeUnite : std::int32_t { kColonne = 0, kLigne = 1, kCarre = 2 };
+// Kinds of units.
+enum TypeUnite : std::uint8_t { kColonne = 0, kLigne = 1, kCarre = 2 };
 
 inline constexpr int kTailleMax = 169;  // the next square, 196, has more cells than a 16-bit number counts
 
