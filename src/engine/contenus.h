@@ -10,8 +10,8 @@ namespace sudoku {
 
 // Units of all kinds as one number, in the order in which the engine goes through them: block, row, column of
 // each number.
-constexpr int Unite(int genre, int numero) {
-  return 3 * numero + kCarre - genre;
+constexpr int Unite(int type, int numero) {
+  return 3 * numero + kCarre - type;
 }
 constexpr TypeUnite TypeDe(int u) {
   return static_cast<TypeUnite>(kCarre - u % 3);

@@ -292,7 +292,7 @@ bool DeductionsSur<T, U>::Agit(const Figure& figure) {
   ChaquePerte(figure, [&](int u, const Bits& perdants) {
     if (!change) {
       note = Note(
-          {.genre = Genre::kFigure, .type = figure.genre, .type2 = figure.genre2, .symbole = figure.symbole},
+          {.genre = Genre::kFigure, .type = figure.type, .type2 = figure.type2, .symbole = figure.symbole},
           figure.unites, figure.cle);
     }
     change = true;
@@ -311,7 +311,7 @@ template <class F>
 void DeductionsSur<T, U>::ChaquePerte(const Figure& figure, F f) const {
   const Bits dedans = T::Dedans(figure);
   Chaque(figure.cle, [&](int v) {
-    const int u = Unite(figure.genre2, v);
+    const int u = Unite(figure.type2, v);
     const Bits perdants = T::Places(u, figure.symbole) & ~dedans;
     if (!Vide(perdants)) f(u, perdants);
   });

@@ -49,8 +49,8 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::FiguresDe(int s, F f) const {
   for (int i = 0; i < N; ++i) {
     for (int g = 0; g < 3; ++g) p[g][i] = places_[Unite(g, i)][s];
   }
-  const auto figure = [&](TypeUnite genre, Bits unites, TypeUnite genre2, Bits cle) {
-    f({.symbole = s, .genre = genre, .unites = unites, .genre2 = genre2, .cle = cle});
+  const auto figure = [&](TypeUnite type, Bits unites, TypeUnite type2, Bits cle) {
+    f({.symbole = s, .type = type, .unites = unites, .type2 = type2, .cle = cle});
   };
   DeLignes(p[kColonne], kColonne, figure);
   DeLignes(p[kLigne], kLigne, figure);
@@ -60,19 +60,19 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::FiguresDe(int s, F f) const {
 // The figures whose units are lines of this kind. Confined to crossing lines, then to blocks.
 template <int S>
 template <class F>
-SUDOKU_EN_LIGNE void TrouveVoies<S>::DeLignes(const MotDe<S>* p, TypeUnite genre, F f) {
+SUDOKU_EN_LIGNE void TrouveVoies<S>::DeLignes(const MotDe<S>* p, TypeUnite type, F f) {
   const V lignes = Lit<S>(p);
   const V comptes = Comptes(lignes);
   Chaque(Ensembles(lignes, comptes), [&](int premiere) {
     const Bits unites = Depuis(BitsEgales(Lit<S>(p), Partout<S>(p[premiere])), premiere);
-    f(genre, unites, genre == kLigne ? kColonne : kLigne, p[premiere]);
+    f(type, unites, type == kLigne ? kColonne : kLigne, p[premiere]);
   });
   // Blocks serve only lines with fewer than S places.
   const V longues = PlusDe(S - 1, comptes);
   if (S > 3 && Aucune(PlusDe(1, comptes) & ~longues)) return;
   const V cles = (Cles<S>(lignes, kLieux<S>.groupe, kFinsDeCles<S>.bande) & ~longues) |
                  (Lit<S>(kFinsDeCles<S>.aucune) & longues);
-  EnCarres(cles, EnsemblesVoisins<S, 1>(cles, comptes), genre, kCarre, f);
+  EnCarres(cles, EnsemblesVoisins<S, 1>(cles, comptes), type, kCarre, f);
 }
 
 // The figures whose units are blocks.
@@ -90,7 +90,7 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::DeCarres(const V& carres, F f) {
 // Figures between lines and blocks. A key names S units side by side, of which some are held.
 template <int S>
 template <class F>
-SUDOKU_EN_LIGNE void TrouveVoies<S>::EnCarres(const V& voies, Bits debuts, TypeUnite genre, TypeUnite genre2,
+SUDOKU_EN_LIGNE void TrouveVoies<S>::EnCarres(const V& voies, Bits debuts, TypeUnite type, TypeUnite type2,
                                               F f) {
   if (debuts == 0) return;
   alignas(64) Mot cles[Taille(kVoies)];
@@ -101,10 +101,10 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::EnCarres(const V& voies, Bits debuts, TypeU
     Bits cle = 0;
     for (int k = 0; k < S; ++k) {
       // Down a column every Sth block comes.
-      const int unite = genre == kColonne ? bande + k * S : bande * S + k;
+      const int unite = type == kColonne ? bande + k * S : bande * S + k;
       cle |= (Bits{cles[premiere]} >> k & 1) << unite;
     }
-    f(genre, unites, genre2, cle);
+    f(type, unites, type2, cle);
   });
 }
 

@@ -76,8 +76,8 @@ struct TousLesLieux {
       cellules[u][place[g]] = static_cast<std::uint16_t>(cellule);
     }
   }
-  constexpr void Croise(int genre, int numero, int k, int unite, Bits ici, Bits la) {
-    croisements[Unite(genre, numero)].un[k] = {static_cast<std::uint8_t>(unite), tous & ~ici, tous & ~la};
+  constexpr void Croise(int type, int numero, int k, int unite, Bits ici, Bits la) {
+    croisements[Unite(type, numero)].un[k] = {static_cast<std::uint8_t>(unite), tous & ~ici, tous & ~la};
   }
 };
 // All versions of the hot code share these tables.

@@ -39,8 +39,8 @@ bool TrouveTextes::Amorce(Appui appui) {
 // What texts leave depends on what went before: block, row, column, cell by cell.
 Masque<4> TrouveTextes::ListePossibles(int cellule) const {
   M liste = Premiers<M>(N());
-  for (const int genre : {kCarre, kLigne, kColonne}) {
-    const int u = parties_.UniteDe(genre, cellule);
+  for (const int type : {kCarre, kLigne, kColonne}) {
+    const int u = parties_.UniteDe(type, cellule);
     for (int place = 0; place < N(); ++place) {
       const int autre = Cellule(u, place);
       if (!ouverte_[Rang(autre)]) liste = Sans(liste, bloc_->saisie[Rang(autre + 1)]);
@@ -85,9 +85,9 @@ void TrouveTextes::Retourne() {
 
 // The cell is a place of its candidates and of no other symbols.
 void TrouveTextes::NotePlaces(int cellule) {
-  for (int genre = 0; genre < 3; ++genre) {
-    const int u = parties_.UniteDe(genre, cellule);
-    const M place = Bit<M>(parties_.PlaceDe(genre, cellule));
+  for (int type = 0; type < 3; ++type) {
+    const int u = parties_.UniteDe(type, cellule);
+    const M place = Bit<M>(parties_.PlaceDe(type, cellule));
     Chaque(premieres_, [&](int s) {
       M& places = places_[Rang(u * N() + s)];
       const bool la = !Vide(candidats_[Rang(cellule)] & classe_[Rang(s)]);
@@ -112,9 +112,9 @@ const Octets<Masque<4>>& TrouveTextes::NombresDePlaces(int u) {
   return nombres_;
 }
 
-const Octets<Masque<4>>& TrouveTextes::NombresDuSymbole(int genre, int s) {
+const Octets<Masque<4>>& TrouveTextes::NombresDuSymbole(int type, int s) {
   for (int v = 0; v < N(); ++v) {
-    nombres_.n[v] = static_cast<std::uint8_t>(Nombre(Places(Unite(genre, v), s)));
+    nombres_.n[v] = static_cast<std::uint8_t>(Nombre(Places(Unite(type, v), s)));
   }
   return nombres_;
 }

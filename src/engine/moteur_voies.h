@@ -119,20 +119,20 @@ bool MoteurVoies<S>::Amorce(Bloc& bloc, std::int32_t mode) {
 template <int S>
 void MoteurVoies<S>::AmorceCases(const Code* positions) {
   contenus_ = {};
-  for (int genre = 0; genre < 3; ++genre) {
+  for (int type = 0; type < 3; ++type) {
     for (int mot = 0; mot < kMots; ++mot) {
-      std::fill_n(&contenus_.unites[genre][mot * kVoies + N], kVoies - N, ~Mot{0});
+      std::fill_n(&contenus_.unites[type][mot * kVoies + N], kVoies - N, ~Mot{0});
     }
   }
   for (int i = 0; i < N * N; ++i) {
     const int symbole = positions[i];
-    for (int genre = 0; genre < 3; ++genre) {
-      const int numero = kParties<S>.UniteDe(genre, i) / 3;
+    for (int type = 0; type < 3; ++type) {
+      const int numero = kParties<S>.UniteDe(type, i) / 3;
       if (symbole < 0) {
-        Ajoute<S>(contenus_.ouvertes[genre], numero, kParties<S>.PlaceDe(genre, i));
+        Ajoute<S>(contenus_.ouvertes[type], numero, kParties<S>.PlaceDe(type, i));
       } else {
-        Ajoute<S>(contenus_.symboles[genre], numero, symbole);
-        Ajoute<S>(contenus_.unites[genre], symbole, numero);
+        Ajoute<S>(contenus_.symboles[type], numero, symbole);
+        Ajoute<S>(contenus_.unites[type], symbole, numero);
       }
     }
   }
@@ -176,10 +176,10 @@ void MoteurVoies<S>::AmorceLignes(const Code* positions) {
 // The rest, turned round from that.
 template <int S>
 void MoteurVoies<S>::AmorceUnites() {
-  for (int genre = 0; genre < 3; ++genre) {
+  for (int type = 0; type < 3; ++type) {
     V unites = ~Etale<S>(kLieux<S>.tous);
-    for (int u = 0; u < N; ++u) unites |= Etale<S>(contenus_.symboles[genre][u]) & Partout<S>(Bits{1} << u);
-    Range<S>(contenus_.unites[genre], unites);
+    for (int u = 0; u < N; ++u) unites |= Etale<S>(contenus_.symboles[type][u]) & Partout<S>(Bits{1} << u);
+    Range<S>(contenus_.unites[type], unites);
   }
   for (int c = 0; c < N; ++c) {
     Bits ouvertes = 0;

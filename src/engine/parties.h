@@ -12,15 +12,15 @@ namespace {
 template <class Bits>
 struct FigureDe {
   int symbole;
-  TypeUnite genre;
+  TypeUnite type;
   Bits unites;
-  TypeUnite genre2;
+  TypeUnite type2;
   Bits cle;
 
   // By kind, first unit, symbol, other kind.
   int Ordre() const {
     constexpr int kPlus = kTailleMax + 1;
-    return ((kPlus * genre + Premier(unites)) * kPlus + symbole) * 3 + genre2;
+    return ((kPlus * type + Premier(unites)) * kPlus + symbole) * 3 + type2;
   }
 };
 
@@ -46,15 +46,15 @@ struct Parties {
     return (n / S * S + place / S) * N + n % S * S + place % S;
   }
   // The unit of a kind that has the cell, and the cell's place in it.
-  constexpr int UniteDe(int genre, int cellule) const {
+  constexpr int UniteDe(int type, int cellule) const {
     const int l = cellule / (S * S);
     const int c = cellule % (S * S);
-    return Unite(genre, genre == kLigne ? l : genre == kColonne ? c : l / S * S + c / S);
+    return Unite(type, type == kLigne ? l : type == kColonne ? c : l / S * S + c / S);
   }
-  constexpr int PlaceDe(int genre, int cellule) const {
+  constexpr int PlaceDe(int type, int cellule) const {
     const int l = cellule / (S * S);
     const int c = cellule % (S * S);
-    return genre == kLigne ? c : genre == kColonne ? l : l % S * S + c % S;
+    return type == kLigne ? c : type == kColonne ? l : l % S * S + c % S;
   }
 
   struct Commune {
@@ -81,28 +81,28 @@ struct Parties {
   // The places that the units of a figure have in each of those it is confined to. Where blocks are among
   // them all lie in one band or stack.
   constexpr Bits Dedans(const FigureDe<Bits>& f) const {
-    if (f.genre != kCarre && f.genre2 != kCarre) return f.unites;
+    if (f.type != kCarre && f.type2 != kCarre) return f.unites;
     Bits dedans{};
     Chaque(f.unites, [&](int i) {
-      if (f.genre == kCarre)
-        dedans |= groupe[f.genre2 == kColonne ? i / S : i % S];
+      if (f.type == kCarre)
+        dedans |= groupe[f.type2 == kColonne ? i / S : i % S];
       else
-        dedans |= f.genre == kColonne ? residu[i % S] : groupe[i % S];
+        dedans |= f.type == kColonne ? residu[i % S] : groupe[i % S];
     });
     return dedans;
   }
-  // Numbers - 1 of the units of kind genre2 that have these places of unit u, where one of the two is a
+  // Numbers - 1 of the units of kind type2 that have these places of unit u, where one of the two is a
   // block.
-  constexpr Bits Cle(int u, TypeUnite genre2, const Bits& lieux) const {
+  constexpr Bits Cle(int u, TypeUnite type2, const Bits& lieux) const {
     const int bande = u / 3 / S;
     const int pile = u / 3 % S;
-    const int genre = TypeDe(u);
+    const int type = TypeDe(u);
     Bits cle{};
     for (int k = 0; k < S; ++k) {
-      const bool colonnes = genre == kCarre && genre2 == kColonne;
+      const bool colonnes = type == kCarre && type2 == kColonne;
       if (Vide(lieux & (colonnes ? residu[k] : groupe[k]))) continue;
       const int suite = colonnes ? pile * S + k : bande * S + k;
-      cle |= Bit<Bits>(genre == kColonne ? k * S + bande : suite);
+      cle |= Bit<Bits>(type == kColonne ? k * S + bande : suite);
     }
     return cle;
   }

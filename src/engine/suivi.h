@@ -10,18 +10,18 @@ namespace {
 
 // Where a cell of a board of blocks of side S lies, from tables as far as these are small.
 template <int S>
-SUDOKU_EN_LIGNE int UniteDe(int genre, int cellule) {
+SUDOKU_EN_LIGNE int UniteDe(int type, int cellule) {
   if constexpr (Largeur<S>::kMots == 1)
-    return kLieux<S>.lieux[cellule].unite[genre];
+    return kLieux<S>.lieux[cellule].unite[type];
   else
-    return kParties<S>.UniteDe(genre, cellule);
+    return kParties<S>.UniteDe(type, cellule);
 }
 template <int S>
-SUDOKU_EN_LIGNE int PlaceDe(int genre, int cellule) {
+SUDOKU_EN_LIGNE int PlaceDe(int type, int cellule) {
   if constexpr (Largeur<S>::kMots == 1)
-    return kLieux<S>.lieux[cellule].place[genre];
+    return kLieux<S>.lieux[cellule].place[type];
   else
-    return kParties<S>.PlaceDe(genre, cellule);
+    return kParties<S>.PlaceDe(type, cellule);
 }
 template <int S>
 SUDOKU_EN_LIGNE int CelluleDe(int u, int place) {

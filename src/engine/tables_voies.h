@@ -61,10 +61,10 @@ SUDOKU_EN_LIGNE void ChaquePlaces(const Contenus<S>& contenus, F f) {
   const Voies<S> lignes = Lit<S>(contenus.unites[kLigne]);
   const Voies<S> colonnes = Lit<S>(contenus.unites[kColonne]);
   const Voies<S> carres = Lit<S>(contenus.unites[kCarre]);
-  const auto une = [&](int genre, int numero, const Voies<S>& de, const Voies<S>& prises) {
+  const auto une = [&](int type, int numero, const Voies<S>& de, const Voies<S>& prises) {
     const Voies<S, 1> avec = Avec<S>(de, numero);
-    const BitsDe<S> ouvertes = Lu<S>(contenus.ouvertes[genre], numero);
-    f(Unite(genre, numero), Voies<S>::De([&](int i) {
+    const BitsDe<S> ouvertes = Lu<S>(contenus.ouvertes[type], numero);
+    f(Unite(type, numero), Voies<S>::De([&](int i) {
         return Partout<S>(ouvertes, i) & ~(prises.r[i] | avec.r[i % Voies<S, 1>::kTous]);
       }));
   };

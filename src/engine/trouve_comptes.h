@@ -38,7 +38,7 @@ class TrouveComptes : public Suivi<S>, public TrouveMasques<TrouveComptes<S>, Bi
   static int N() { return kN; }
   static const Parties<Bits>& DesParties() { return kParties<S>; }
   const Octets<Bits>& NombresDePlaces(int u) const { return nombres_[u]; }
-  const Octets<Bits>& NombresDuSymbole(int genre, int s) const { return parSymbole_[genre][s]; }
+  const Octets<Bits>& NombresDuSymbole(int type, int s) const { return parSymbole_[type][s]; }
   bool Nue(int u, int depuis, Trouvaille<Bits>& t);
   Bits Perdants(int u, int s, const Bits& sauf) const { return Places(u, s) & ~sauf; }
   Bits Autres(int u, Bits lieux, const Bits& symboles) const;

@@ -13,7 +13,7 @@ namespace {
 // is compared. The part of a Trouveur that goes with tables of any kind; these are Dos's:
 //   N(), DesParties()             the size of the board, and its Parties
 //   Places(u, s)                  of a symbol in a unit, and NombresDePlaces(u) how many, by symbol
-//   NombresDuSymbole(genre, s)    the same for the units of a kind, by number - 1
+//   NombresDuSymbole(type, s)     the same for the units of a kind, by number - 1
 //   Perdants(u, s, sauf)          places of unit u, but for `sauf`, that can lose the symbol
 //   Autres(u, lieux, symboles)    places among `lieux` whose candidates aren't just these symbols
 //   Fois(reste, s)                how often a symbol of `reste` stands there
@@ -77,9 +77,9 @@ class TrouveMasques {
   Dos& dos() { return static_cast<Dos&>(*this); }
 
   template <class F>
-  void EntreLignes(int s, TypeUnite genre, F f);
+  void EntreLignes(int s, TypeUnite type, F f);
   template <class F>
-  void AvecCarres(int s, TypeUnite genre, TypeUnite genre2, F f);
+  void AvecCarres(int s, TypeUnite type, TypeUnite type2, F f);
 };
 
 template <class Dos, class B>
@@ -175,10 +175,10 @@ template <class Dos, class B>
 template <class F>
 void TrouveMasques<Dos, B>::ChaqueFigure(F f) {
   Chaque(dos().AChercher(), [&](int s) {
-    for (const TypeUnite genre : {kColonne, kLigne}) {
-      EntreLignes(s, genre, f);
-      AvecCarres(s, genre, kCarre, f);
-      AvecCarres(s, kCarre, genre, f);
+    for (const TypeUnite type : {kColonne, kLigne}) {
+      EntreLignes(s, type, f);
+      AvecCarres(s, type, kCarre, f);
+      AvecCarres(s, kCarre, type, f);
     }
   });
 }
@@ -186,16 +186,16 @@ void TrouveMasques<Dos, B>::ChaqueFigure(F f) {
 // Between lines the places themselves say to which units a unit is confined.
 template <class Dos, class B>
 template <class F>
-void TrouveMasques<Dos, B>::EntreLignes(int s, TypeUnite genre, F f) {
-  const Octets<B>& nombres = dos().NombresDuSymbole(genre, s);
+void TrouveMasques<Dos, B>::EntreLignes(int s, TypeUnite type, F f) {
+  const Octets<B>& nombres = dos().NombresDuSymbole(type, s);
   const B assez = Assez(nombres, Entre(nombres, 2, dos().N() - 1));
   if (Vide(assez)) return;
   Chaque(assez, [&](int v) {
-    liste_.elements.push_back({v, nombres.n[v], dos().Places(Unite(genre, v), s)});
+    liste_.elements.push_back({v, nombres.n[v], dos().Places(Unite(type, v), s)});
   });
-  const TypeUnite genre2 = genre == kLigne ? kColonne : kLigne;
+  const TypeUnite type2 = type == kLigne ? kColonne : kLigne;
   liste_.ChaqueEnsemble([&](const Element& e, const B& unites) {
-    f({.symbole = s, .genre = genre, .unites = unites, .genre2 = genre2, .cle = e.masque});
+    f({.symbole = s, .type = type, .unites = unites, .type2 = type2, .cle = e.masque});
   });
 }
 
@@ -203,16 +203,14 @@ void TrouveMasques<Dos, B>::EntreLignes(int s, TypeUnite genre, F f) {
 // band, or the stack, which they cross. Blocks serve so only lines with fewer than S places.
 template <class Dos, class B>
 template <class F>
-void TrouveMasques<Dos, B>::AvecCarres(int s, TypeUnite genre, TypeUnite genre2, F f) {
+void TrouveMasques<Dos, B>::AvecCarres(int s, TypeUnite type, TypeUnite type2, F f) {
   const auto& parties = dos().DesParties();
   const int S = parties.S;
-  const Octets<B>& nombres = dos().NombresDuSymbole(genre, s);
-  const int pas = genre == kCarre && genre2 == kColonne ? S : 1;
-  const int maximum = genre2 == kCarre ? S - 1 : dos().N() - 1;
-  const auto cle = [&](int v) {
-    return parties.Cle(Unite(genre, v), genre2, dos().Places(Unite(genre, v), s));
-  };
-  Chaque(Entre(nombres, 2, genre2 == kCarre ? S - 1 : S), [&](int premiere) {
+  const Octets<B>& nombres = dos().NombresDuSymbole(type, s);
+  const int pas = type == kCarre && type2 == kColonne ? S : 1;
+  const int maximum = type2 == kCarre ? S - 1 : dos().N() - 1;
+  const auto cle = [&](int v) { return parties.Cle(Unite(type, v), type2, dos().Places(Unite(type, v), s)); };
+  Chaque(Entre(nombres, 2, type2 == kCarre ? S - 1 : S), [&](int premiere) {
     const int fin = pas == 1 ? (premiere / S + 1) * S : premiere % S + dos().N();
     const int n = nombres.n[premiere];
     if (n > (fin - premiere) / pas) return;
@@ -224,7 +222,7 @@ void TrouveMasques<Dos, B>::AvecCarres(int s, TypeUnite genre, TypeUnite genre2,
       unites |= Bit<B>(v);
       ++k;
     }
-    if (k == n) f({.symbole = s, .genre = genre, .unites = unites, .genre2 = genre2, .cle = celle});
+    if (k == n) f({.symbole = s, .type = type, .unites = unites, .type2 = type2, .cle = celle});
   });
 }
 

@@ -43,7 +43,7 @@ class TrouveTextes : public TrouveMasques<TrouveTextes, Masque<4>> {
   int N() const { return parties_.S * parties_.S; }
   const Parties<M>& DesParties() const { return parties_; }
   const Octets<M>& NombresDePlaces(int u);
-  const Octets<M>& NombresDuSymbole(int genre, int s);
+  const Octets<M>& NombresDuSymbole(int type, int s);
   bool Nue(int u, int depuis, Trouvaille<M>& t);
   M Perdants(int u, int s, const M& sauf) const;
   M Autres(int u, const M& lieux, const M& symboles) const;

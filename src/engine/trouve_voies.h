@@ -66,11 +66,11 @@ class TrouveVoies : public Suivi<S> {
   template <class F>
   void FiguresDe(int s, F f) const;
   template <class F>
-  static void DeLignes(const Mot* p, TypeUnite genre, F f);
+  static void DeLignes(const Mot* p, TypeUnite type, F f);
   template <class F>
   static void DeCarres(const V& carres, F f);
   template <class F>
-  static void EnCarres(const V& voies, Bits debuts, TypeUnite genre, TypeUnite genre2, F f);
+  static void EnCarres(const V& voies, Bits debuts, TypeUnite type, TypeUnite type2, F f);
   bool EnleveTous(int cellule, Bits symboles);
 
   // Candidates by unit and place, places by unit and symbol; lanes from N on stay 0.
