@@ -1,6 +1,8 @@
 #!/bin/sh
 # joue.sh PROGRAM SESSION.txt: plays a session in a fresh copy of files/, all of one age, and compares what it
-# prints with SESSION.expected. The folder that a file dialog prints is written "." there.
+# prints with SESSION.expected. The folder that a file dialog prints is written "." there. What sessions do again and
+# again over a running game has a word: charge "FILE", nouvelle "SYMBOLS", recommence, and in the library's window prend
+# POSITION, nomme "NAME".
 set -eu
 programme=$1
 session=$2
@@ -14,8 +16,13 @@ chmod -R u+w "$dossier/jeu"
 find "$dossier/jeu" -type f -exec touch -d 2026-01-01 {} +
 cd "$dossier/jeu"
 ici=$(pwd)
+sed -E 's/^charge (".*")$/click MnuLoad\nanswer oui\nanswer \1/
+        s/^nouvelle (".*")$/click MnuInit\nanswer oui\nanswer \1/
+        s/^recommence$/click MnuRestart\nanswer oui/
+        s/^prend (.*)$/select LstLoad \1\nclick BtOK/
+        s/^nomme (".*")$/edit LstSave \1\nclick BtOK/' "$session" > "$dossier/session"
 statut=0
-"$programme" "$session" > "$dossier/brut" || statut=$?
+"$programme" "$dossier/session" > "$dossier/brut" || statut=$?
 sed "s|^\(fichier titre .* dossier \)\"$ici\"|\1\".\"|" "$dossier/brut" > "$dossier/obtenu"
 head -n 1 "$session" # what is broken when this session fails
 diff -u "$attendu" "$dossier/obtenu"
