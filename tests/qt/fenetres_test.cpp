@@ -24,8 +24,12 @@
 namespace sudoku {
 namespace {
 
-QString TexteDe(QWidget& boite) {
-  return boite.findChild<QLabel*>("qt_msgbox_label")->text();
+// "TITLE: TEXT", if the text is taken for no markup.
+QString DitPar(QWidget& boite) {
+  const auto* texte = boite.findChild<QLabel*>("qt_msgbox_label");
+  if (texte == nullptr) texte = boite.findChild<QLabel*>();
+  EXPECT_EQ(texte->textFormat(), Qt::PlainText);
+  return boite.windowTitle() + QStringLiteral(": ") + texte->text();
 }
 
 // Symbols 1234, six givens that leave one solution: 1234 3412 2143 4321.
@@ -44,6 +48,7 @@ TEST(Fenetres, UneGrilleSaisieEtJoueeJusquAuxScores) {
   j.Touche(Qt::Key_Right);
   j.Quand("message", [&](QWidget& boite) {
     EXPECT_GE(boite.width(), 200) << "a short text leaves room for the title";
+    EXPECT_EQ(DitPar(boite), QStringLiteral("Solver de Sudoku: Impossible"));
     j.Touche(Qt::Key_Escape);
   });
   j.Tape(QStringLiteral("1"));
@@ -51,13 +56,13 @@ TEST(Fenetres, UneGrilleSaisieEtJoueeJusquAuxScores) {
   EXPECT_EQ(j.Grille(), "1...............") << "the refused text is gone";
   j.Menu(Qt::Key_J, Qt::Key_D);
   EXPECT_TRUE(j.LePlateau().TxtCase(1).Locked);
-  j.Quand("saisie", [&](QWidget&) {
-    j.Tape(QStringLiteral("Élise"));
+  j.Quand("saisie", [&](QWidget& boite) {
+    EXPECT_EQ(DitPar(boite), QStringLiteral("Meilleur score !: Veuillez saisir votre nom"));
+    j.Tape(QStringLiteral("Élise <b>"));
     j.Touche(Qt::Key_Return);
   });
   j.Quand("message", [&](QWidget& boite) {
-    EXPECT_TRUE(TexteDe(boite).startsWith(QStringLiteral("1 - Élise - 00:00:0")))
-        << TexteDe(boite).toStdString();
+    EXPECT_TRUE(DitPar(boite).startsWith(QStringLiteral("Meilleurs scores: 1 - Élise <b> - 00:00:0")));
     j.Touche(Qt::Key_Return);
   });
   const QString solution = QStringLiteral("1234341221434321");
@@ -280,6 +285,19 @@ TEST(Fenetres, LaBoiteAProposSeFermeParEchappement) {
   j.Quand("message", [&](QWidget&) { j.Touche(Qt::Key_Return); });
   j.Menu(Qt::Key_Question, Qt::Key_P);
   EXPECT_TRUE(j.ToutEstVenu());
+}
+
+TEST(Fenetres, CeQuiChangeSeMontreAvantUneBoite) {
+  JoueurQt j;
+  j.Demarre();
+  j.Quand("message", [&](QWidget&) {
+    EXPECT_EQ(j.Fenetre().windowTitle(), QStringLiteral("vue"));
+    j.Touche(Qt::Key_Return);
+  });
+  j.LeSysteme().Execute([&] {
+    j.Principale().Caption = U"vue";
+    j.Jeu().Message(U"boîte");
+  });
 }
 
 // Comes back only if the program doesn't end.
