@@ -208,34 +208,14 @@ TEST_F(UnPlateau, UnCollageImpossibleDitPourquoi) {
   j.CliqueCase(1);
   j.Colle(QStringLiteral("2"));
   EXPECT_EQ(QToolTip::text(), QStringLiteral("La case 1 est donnée et ne change plus"));
-  j.CliqueCase(2);
-  j.Colle(QStringLiteral("1..43.1.2..3.3.."));
-  EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("Une grille ne se colle que")));
-  EXPECT_EQ(j.Grille(), "1..43.1.2..3.3..");
 }
 
-TEST_F(UnPlateau, AnnuleEtRetablitCommeOnSaisit) {
+TEST_F(UnPlateau, LaCopieEcritUnCaractereParCase) {
   Ouvre();
-  j.CliqueCase(1);
-  j.Tape(QStringLiteral("1"));
-  j.CliqueCase(6);
-  j.Tape(QStringLiteral("2"));
-  j.Quand("message", [&](QWidget&) { j.Touche(Qt::Key_Return); });
-  j.CliqueCase(2);
-  j.Tape(QStringLiteral("1"));  // refused: it never enters the list
-  changements.clear();
-  j.Touche(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(j.LePlateau().Focus(), 6);
-  j.Touche(Qt::Key_Z, Qt::ControlModifier);
-  j.Touche(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(changements, (Liste{{6, U""}, {1, U""}}));
-  j.Touche(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(j.Grille(), "1...............");
-  j.Menu(Qt::Key_J, Qt::Key_D);
-  changements.clear();
-  j.Touche(Qt::Key_Z, Qt::ControlModifier);
-  j.Touche(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_TRUE(changements.empty()) << "the start of play empties the list";
+  j.CliqueCase(3);
+  j.Colle(QStringLiteral("23"));
+  j.Touche(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("..2............."));
 }
 
 TEST_F(UnPlateau, LAnneauResteEntierQuandUneAutreCaseEstRepeinte) {
@@ -279,35 +259,6 @@ TEST_F(UnPlateau, LaPaletteDonneTousLesSymboles) {
   ASSERT_NE(QApplication::activePopupWidget(), nullptr);
   QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
   EXPECT_EQ(changements.size(), 1U);
-}
-
-TEST_F(UnPlateau, UneGrilleColleeEstTapeeCaseParCase) {
-  Ouvre();
-  j.CliqueCase(1);
-  j.Tape(QStringLiteral("2"));
-  QApplication::clipboard()->setText(QStringLiteral("1 . | . 4\n3 . | 1 .\n----+----\n2 . | . 3\n. 3 | . ."));
-  j.Touche(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(j.Grille(), "1..43.1.2..3.3..");
-  j.Touche(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(j.Grille(), "2...............") << "one step, and what stood in the way is back";
-  j.Touche(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(j.Grille(), "1..43.1.2..3.3..");
-  changements.clear();
-  QApplication::clipboard()->setText(QStringLiteral("no grid"));
-  j.Touche(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_TRUE(changements.empty());
-  QApplication::clipboard()->setText(QStringLiteral("11.............."));
-  j.Quand("message", [&](QWidget& boite) {
-    EXPECT_EQ(boite.findChild<QLabel*>("qt_msgbox_label")->text(), QStringLiteral("Impossible"));
-    j.Touche(Qt::Key_Return);
-  });
-  j.Touche(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_TRUE(j.ToutEstVenu());
-  j.CliqueCase(3);
-  j.Colle(QStringLiteral("23"));
-  EXPECT_EQ(j.Grille(), "1.23.............");
-  j.Touche(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("1.2.............")) << "one character a cell";
 }
 
 TEST_F(UnPlateau, UnFichierDeposeSeChargeApresLaQuestion) {
