@@ -131,6 +131,7 @@ TEST(Sauvegarde, CopieSurLeDisqueAvantDeViderNouveauSurLeDisqueAvantDOter) {
 void VerifieEchec(const Depart& depart, Plan plan) {
   SCOPED_TRACE(plan.code);
   Scene scene(depart);
+  const auto noms = scene.Noms();
   const auto faits = scene.Sauve(plan);
   Joueur& joueur = scene.joueur;
   EXPECT_TRUE(scene.RienDePerdu());
@@ -140,6 +141,7 @@ void VerifieEchec(const Depart& depart, Plan plan) {
   const auto echec = faits.begin() + plan.rang - 1;
   EXPECT_TRUE(signale || echec < vide || !echec->ends_with(" jeu.sud"));
   EXPECT_TRUE(signale || LitOctets(scene.Fichier()) == kNouveau);
+  EXPECT_TRUE(!signale || !depart.fichier || echec >= vide || scene.Noms() == noms) << "a copy that isn't whole goes";
   const bool nommee = joueur.reponses.empty();
   EXPECT_EQ(joueur.Jeu().VgParties.size(), nommee ? 3U : 2U);
   EXPECT_EQ(joueur.Jeu().VmPartie, nommee ? 2 : 0);
