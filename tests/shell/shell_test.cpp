@@ -5,23 +5,17 @@
 #include "headless/systeme_sans_ecran.h"
 #include "platform/fichiers_disque.h"
 #include "shell/about.h"
-#include "shell/com_dlg.h"
 
 namespace sudoku {
 namespace {
 
-// Cancels every box, keeps what a file dialog was asked, and has one value in its registry.
+// Has one value in its registry.
 class SystemeMuet : public SystemeSansEcran {
  public:
   SystemeMuet() : SystemeSansEcran(sortie, disque_, [] { return false; }) {}
 
-  void Fichier(DemandeFichier& demande) override {
-    posee = demande;
-    SystemeSansEcran::Fichier(demande);
-  }
   std::optional<ValeurRegistre> Registre(std::uint32_t, TexteVue, TexteVue) override { return registre; }
 
-  DemandeFichier posee;
   std::optional<ValeurRegistre> registre;
   std::ostringstream sortie;
 
@@ -33,32 +27,6 @@ Texte AvecNul(TexteVue texte) {
   Texte resultat(texte);
   for (char32_t& c : resultat) c = c == U'|' ? U'\0' : c;
   return resultat;
-}
-
-TEST(ComDlg, Demande) {
-  SystemeMuet systeme;
-  EXPECT_EQ(ComDlg(systeme).GetOpenFile(U"/dossier", U"Titre", U"SUD"), U"") << "cancelled";
-  EXPECT_EQ(systeme.posee.lpstrFilter, AvecNul(U"Sudoku Files (*.sud)|*.sud|"));
-  EXPECT_EQ(systeme.posee.lpstrInitialDir, U"/dossier");
-  EXPECT_EQ(systeme.posee.lpstrDefExt, U"") << "the dialog must add no extension";
-  EXPECT_EQ(systeme.posee.Flags, 20);
-  EXPECT_EQ(systeme.posee.lStructSize, 76);
-  EXPECT_EQ(systeme.posee.nMaxFile, 511);
-  EXPECT_EQ(systeme.posee.lpstrFile, Texte(512, U'\0'));
-  ComDlg(systeme).GetOpenFile({}, {}, U"sud");
-  EXPECT_EQ(systeme.posee.lpstrInitialDir, FichiersDisque().DossierCourant());
-}
-
-TEST(ComDlg, CheminRendu) {
-  TypFileDlg record;
-  DemandeFichier demande;
-  ConvertStruct2Win(record, demande);
-  Repond(demande, U"/dossier/jeu.sud");
-  ConvertWin2Struct(demande, record);
-  EXPECT_EQ(record.FileName, U"/dossier/jeu.sud");
-  EXPECT_EQ(record.FileTitle, U"jeu.sud");
-  EXPECT_EQ(record.FileOffset, 9);
-  EXPECT_EQ(record.FileExtension, 13);
 }
 
 TEST(GetKeyValue, ParType) {
