@@ -10,7 +10,6 @@
 namespace sudoku::fuzz {
 namespace {
 
-using plain::Action;
 using plain::Contenu;
 using plain::Plateau;
 
@@ -43,53 +42,50 @@ Plateau TirePlateau(Octets& octets) {
   return plateau;
 }
 
-Action TireSaisie(Octets& octets, const plain::Jeu& jeu) {
+std::string Saisit(Octets& octets, plain::Paire& paire) {
+  const plain::Jeu& jeu = paire.Simple();
   const int cellule = 1 + octets.Tire(jeu.VmTaille * jeu.VmTaille);
   const Texte& possible = jeu.VmGrille[static_cast<std::size_t>(cellule - 1)]->Possible;
   const bool permise = !possible.empty() && octets.Tire(3) != 0;
-  return {.genre = Action::Genre::kSaisit,
-          .nombre = cellule,
-          .texte = Contenance(octets, permise ? TexteVue(possible) : TexteVue(jeu.VmValeurs))};
+  return paire.Saisit(cellule, Contenance(octets, permise ? TexteVue(possible) : TexteVue(jeu.VmValeurs)));
 }
 
 // Suppositions where there are few levels of them.
-Action TireSolveur(Octets& octets, const plain::Jeu& jeu) {
+std::string Resout(Octets& octets, plain::Paire& paire) {
   const auto vides =
-      std::ranges::count_if(jeu.VmGrille, [](const auto& c) { return c->ValeurSaisie.empty(); });
+      std::ranges::count_if(paire.Simple().VmGrille, [](const auto& c) { return c->ValeurSaisie.empty(); });
   const int choix = octets.Tire(16);
-  return {.genre = Action::Genre::kJoue,
-          .reset = choix % 2 == 0,
-          .guess = choix / 2 % 2 == 0 && vides <= 16,
-          .silence = choix / 4 % 2 == 1,
-          .contenus = choix / 8 == 1};
+  return paire.Joue({.reset = choix % 2 == 0,
+                     .guess = choix / 2 % 2 == 0 && vides <= 16,
+                     .silence = choix / 4 % 2 == 1,
+                     .contenus = choix / 8 == 1});
 }
 
-Action Tire(Octets& octets, const plain::Jeu& jeu) {
+std::string Avance(Octets& octets, plain::Paire& paire) {
+  const int etat = paire.Simple().VgEtat;
   const int choix = octets.Tire(8);
   if (choix == 0) {
     // With one pass an evaluation takes the mode as it is; only the entry of a grid and the game ask for
     // that.
-    const bool une = jeu.VgEtat == plain::kEntree || (jeu.VgEtat == plain::kJeu && octets.Tire(8) == 7);
-    return {.genre = Action::Genre::kEvalue, .nombre = une ? 1 : 2};
+    const bool une = etat == plain::kEntree || (etat == plain::kJeu && octets.Tire(8) == 7);
+    return paire.Evalue(une ? 1 : 2);
   }
-  if (choix == 1) return {.genre = Action::Genre::kRecopie};
-  if (choix <= 3 && jeu.VgEtat != plain::kEntree) return {.genre = Action::Genre::kRemplit};
-  if (choix == 4) return TireSolveur(octets, jeu);
-  return TireSaisie(octets, jeu);
+  if (choix == 1) return paire.Recopie();
+  if (choix <= 3 && etat != plain::kEntree) return paire.Remplit();
+  return choix == 4 ? Resout(octets, paire) : Saisit(octets, paire);
 }
 
 }  // namespace
 
 void Joue(std::string_view octets) {
-  constexpr std::size_t kPasMax = 12;
+  constexpr int kPasMax = 12;
   Octets choix(octets);
   plain::Paire paire;
-  plain::Partie partie{{.genre = Action::Genre::kCharge, .plateau = TirePlateau(choix)}};
-  for (std::string ecarts = paire.Fait(partie.back());; ecarts = paire.Fait(partie.back())) {
-    if (!ecarts.empty()) Echoue(ecarts + "\n" + plain::Decrit(partie));
-    if (choix.Epuise() || paire.Abandonnee() || partie.size() > kPasMax) return;
-    partie.push_back(Tire(choix, paire.Simple()));
+  std::string ecarts = paire.Charge(TirePlateau(choix));
+  for (int pas = 0; pas < kPasMax && ecarts.empty() && !choix.Epuise() && !paire.Abandonnee(); ++pas) {
+    ecarts = Avance(choix, paire);
   }
+  if (!ecarts.empty()) Echoue(ecarts);
 }
 
 }  // namespace sudoku::fuzz

@@ -55,7 +55,6 @@ TEST(Comparaison, Solveur) {
 
 // Short games that once told the two apart.
 TEST(Comparaison, PartiesConnues) {
-  using Genre = Action::Genre;
   // A character that the grid doesn't have, in a naked set.
   Plateau etranger = Lit(U"1234", U"................");
   etranger.cases[0].valeur = etranger.cases[1].valeur = U"1?";
@@ -76,18 +75,17 @@ TEST(Comparaison, PartiesConnues) {
                               U"...................G........GfG...............GfffGffffGffGGfGff"
                               U".......................................................f..G....."
                               U"....G.....................................f.....GGf..GG...Gf...G");
-  const Partie parties[] = {
-      {{.genre = Genre::kCharge, .plateau = etranger}, {.genre = Genre::kEvalue, .nombre = 2}},
-      {{.genre = Genre::kCharge, .plateau = Lit(U"aAbB", U"................")},
-       {.genre = Genre::kSaisit, .nombre = 1, .texte = U"Ab"}},
-      {{.genre = Genre::kCharge, .plateau = texte}, {.genre = Genre::kJoue, .reset = true, .guess = true}},
-      {{.genre = Genre::kCharge, .plateau = deuxFois},
-       {.genre = Genre::kJoue, .reset = true, .silence = true}},
-      {{.genre = Genre::kCharge, .plateau = echec},
-       {.genre = Genre::kJoue, .guess = true, .silence = true, .contenus = true}},
-      {{.genre = Genre::kCharge, .plateau = lettres},
-       {.genre = Genre::kSaisit, .nombre = 110, .texte = U"EB"}}};
-  for (const Partie& partie : parties) EXPECT_EQ(Rejoue(partie), "") << Decrit(partie);
+  const auto joue = [](const Plateau& plateau, auto pas) {
+    Paire paire;
+    EXPECT_EQ(paire.Charge(plateau), "");
+    EXPECT_EQ(pas(paire), "");
+  };
+  joue(etranger, [](Paire& p) { return p.Evalue(2); });
+  joue(Lit(U"aAbB", U"................"), [](Paire& p) { return p.Saisit(1, U"Ab"); });
+  joue(texte, [](Paire& p) { return p.Joue({.reset = true, .guess = true}); });
+  joue(deuxFois, [](Paire& p) { return p.Joue({.reset = true, .silence = true}); });
+  joue(echec, [](Paire& p) { return p.Joue({.guess = true, .silence = true, .contenus = true}); });
+  joue(lettres, [](Paire& p) { return p.Saisit(110, U"EB"); });
 }
 
 }  // namespace

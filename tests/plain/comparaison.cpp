@@ -99,88 +99,94 @@ void Paire::Ouvre(std::vector<Texte>& boites, TexteVue texte, const Texte& grill
   if (boites.size() > kBoitesMax) throw TropLong{};
 }
 
-std::string Paire::Fait(const Action& action) {
+void Paire::Commence(const std::string& recit) {
   boitesSimple_.clear();
   boitesRapide_.clear();
-  std::string ecarts;
-  switch (action.genre) {
-    case Action::Genre::kCharge:
-      Charge(action.plateau);
-      break;
-    case Action::Genre::kEvalue:
-      Evalue(action.nombre);
-      break;
-    case Action::Genre::kSaisit:
-      Saisit(action.nombre, action.texte);
-      break;
-    case Action::Genre::kRemplit:
-      Remplit();
-      break;
-    case Action::Genre::kRecopie:
-      ecarts = Recopie();
-      break;
-    case Action::Genre::kJoue:
-      ecarts = Joue(action);
-      break;
-  }
-  return ecarts.empty() ? Compare() : ecarts;
+  recit_ += "  " + recit + "\n";
 }
 
-void Paire::Charge(const Plateau& plateau) {
+std::string Paire::Finit(std::string ecarts) {
+  if (ecarts.empty()) ecarts = Compare();
+  return ecarts.empty() ? ecarts : ecarts + "\n" + recit_;
+}
+
+std::string Paire::Charge(const Plateau& plateau) {
+  recit_.clear();
+  Commence(VersUtf8(plateau.symboles) + ", mode " + std::to_string(plateau.mode) + ":");
   abandonnee_ = false;
   simple_.JeuVierge(plateau.symboles);
   for (std::size_t i = 0; i < plateau.cases.size(); ++i) {
-    simple_.VmGrille[i]->Load(plateau.cases[i].valeur, plateau.cases[i].etat);
+    const Contenu& c = plateau.cases[i];
+    simple_.VmGrille[i]->Load(c.valeur, c.etat);
+    if (c == Contenu{}) continue;
+    recit_ += " " + std::to_string(i + 1) + "=\"" + VersUtf8(c.valeur) + "\"/" + std::to_string(c.etat);
   }
+  recit_ += "\n";
   simple_.VgEtat = plateau.mode;
   Pose(plateau, rapide_, evaluateur_);
+  return Finit();
 }
 
-void Paire::Evalue(int passes) {
+void Paire::EvalueLesDeux(int passes) {
   verdictSimple_ = simple_.Evaluation(simple_.VmGrille, passes);
   verdictRapide_ = evaluateur_.Evaluation(rapide_.VmGrille, passes);
 }
 
-// As the board does it: in other modes than grid entry and play nothing is evaluated, a complete grid ends
-// it.
-void Paire::Saisit(int index, TexteVue texte) {
-  simple_.DonneValeur(*simple_.VmGrille[static_cast<std::size_t>(index - 1)], texte);
-  rapide_.VmGrille(index).Valeur(texte);
-  if (simple_.VgEtat != kEntree && simple_.VgEtat != kJeu) return;
-  Evalue(simple_.VgEtat == kEntree ? 1 : 2);
-  if (simple_.VgEtat == kJeu && verdictSimple_ == 0) simple_.VgEtat = rapide_.VgEtat = kFini;
+std::string Paire::Evalue(int passes) {
+  Commence("evaluation " + std::to_string(passes));
+  EvalueLesDeux(passes);
+  return Finit();
 }
 
-void Paire::Remplit() {
+// As the board does it: in other modes than grid entry and play nothing is evaluated, a complete grid ends
+// it.
+std::string Paire::Saisit(int index, TexteVue texte) {
+  Commence("type " + std::to_string(index) + " " + VersUtf8(texte));
+  simple_.DonneValeur(*simple_.VmGrille[static_cast<std::size_t>(index - 1)], texte);
+  rapide_.VmGrille(index).Valeur(texte);
+  if (simple_.VgEtat == kEntree || simple_.VgEtat == kJeu) {
+    EvalueLesDeux(simple_.VgEtat == kEntree ? 1 : 2);
+    if (simple_.VgEtat == kJeu && verdictSimple_ == 0) simple_.VgEtat = rapide_.VgEtat = kFini;
+  }
+  return Finit();
+}
+
+std::string Paire::Remplit() {
+  Commence("fill in");
   for (const Case& c : simple_.VmGrille) {
     const Texte solution = c->SolutionSure.empty() ? c->SolutionPoss : c->SolutionSure;
     if (solution.empty() || (c->SolutionSure.empty() && !c->ValeurSaisie.empty())) continue;
     simple_.DonneValeur(*c, solution);
     rapide_.VmGrille(c->Index).Valeur(solution);
   }
-  Evalue(2);
+  EvalueLesDeux(2);
+  return Finit();
 }
 
 std::string Paire::Recopie() {
+  Commence("copy");
   Grille simple = simple_.GrilleCopy(simple_.VmGrille);
   sudoku::Grille rapide;
   sudoku::GrilleCopy(rapide_.VmGrille, rapide);
   const std::string ecarts = Compare(simple, rapide);
   verdictSimple_ = simple_.Evaluation(simple, 2);
   verdictRapide_ = evaluateur_.Evaluation(rapide, 2);
-  return ecarts.empty() ? Compare(simple, rapide) : ecarts;
+  return Finit(ecarts.empty() ? Compare(simple, rapide) : ecarts);
 }
 
-std::string Paire::Joue(const Action& action) {
-  simple_.VgSilence = rapide_.VgSilence = action.silence;
-  avecGrille_ = !action.contenus;
-  AutoDriver& pilote = action.contenus ? autoContenus_ : auto_;
-  const bool rapide = Abandonne([&] { pilote.JeuAuto(action.reset, action.guess); });
-  const bool simple = Abandonne([&] { simple_.JeuAuto(action.reset, action.guess); });
+std::string Paire::Joue(const Auto& comment) {
+  const auto si = [](bool oui, const char* mot) { return oui ? mot : ""; };
+  Commence(std::string("automatic play") + si(comment.reset, " reset") + si(comment.guess, " guess") +
+           si(comment.silence, " silent") + si(comment.contenus, " contents"));
+  simple_.VgSilence = rapide_.VgSilence = comment.silence;
+  avecGrille_ = !comment.contenus;
+  AutoDriver& pilote = comment.contenus ? autoContenus_ : auto_;
+  const bool rapide = Abandonne([&] { pilote.JeuAuto(comment.reset, comment.guess); });
+  const bool simple = Abandonne([&] { simple_.JeuAuto(comment.reset, comment.guess); });
   simple_.VgSilence = rapide_.VgSilence = false;
   avecGrille_ = true;
   abandonnee_ = rapide && simple;
-  return action.contenus && !rapide && !simple ? CompareContenus() : std::string();
+  return Finit(comment.contenus && !rapide && !simple ? CompareContenus() : std::string());
 }
 
 // After a run that owes no more; then the other fields are made good.
@@ -194,7 +200,7 @@ std::string Paire::CompareContenus() {
     simple_.Evaluation(simple_.VmGrilleEtat, 2);
     evaluateur_.Evaluation(rapide_.VmGrilleEtat, 2);
   }
-  Evalue(2);
+  EvalueLesDeux(2);
   return ecarts;
 }
 

@@ -10,36 +10,37 @@
 
 namespace sudoku::plain {
 
-// One step of a game that is played on the engine and on the plain rules at once.
-struct Action {
-  enum class Genre {
-    kCharge,   // a new grid for the board's symbols, evaluated; its cells loaded; its mode
-    kEvalue,   // an evaluation with `nombre` passes
-    kSaisit,   // `texte` typed into cell `nombre`, and the evaluation that the mode asks for
-    kRemplit,  // what the last evaluation found written into the cells, and an evaluation with two passes
-    kRecopie,  // a copy of the grid evaluated with two passes, the grid itself left alone
-    kJoue      // automatic play, given up where it opens more than a few boxes
-  };
-  Genre genre;
-  int nombre = 0;
-  Texte texte = {};
-  bool reset = false, guess = false, silence = false;  // kJoue
-  bool contenus = false;                               // kJoue, by a driver that owes contents and Etat alone
-  Plateau plateau = {};                                // kCharge
+// How the automatic play of a step goes.
+struct Auto {
+  bool reset = false, guess = false, silence = false;
+  bool contenus = false;  // by a driver that owes contents and Etat alone
 };
 
 // Puts a board into a game of the engine: a new grid for its symbols, evaluated; its cells loaded; its mode.
 void Pose(const Plateau& plateau, GameState& jeu, Evaluateur& evaluateur);
 
-// The two sides. They live on from one grid to the next, as in the program.
+// A game that is played on the engine and on the plain rules at once. The two sides live on from one grid to
+// the next, as in the program.
 class Paire : private PlateauAuto {
  public:
   Paire();
-  // Carries the step out on both. What differs then, in words; nothing if nothing.
-  std::string Fait(const Action& action);
+
+  // The steps. Each gives what differs after it, in words, behind it the steps since the grid; nothing if
+  // nothing does.
+  // A new grid for the board's symbols, evaluated; its cells loaded; its mode.
+  std::string Charge(const Plateau& plateau);
+  std::string Evalue(int passes);
+  // `texte` typed into the cell, and the evaluation that the mode asks for.
+  std::string Saisit(int index, TexteVue texte);
+  // What the last evaluation found written into the cells, and an evaluation with two passes.
+  std::string Remplit();
+  // A copy of the grid evaluated with two passes, the grid itself left alone.
+  std::string Recopie();
+  // Automatic play, given up where it opens more than a few boxes.
+  std::string Joue(const Auto& comment);
 
   const Jeu& Simple() const { return simple_; }
-  // The last step was a run that both sides gave up: nothing but kCharge can follow.
+  // The last step was a run that both sides gave up: nothing but Charge can follow.
   bool Abandonnee() const { return abandonnee_; }
   // How many sentences of each kind were compared, and how many boxes of each text.
   const std::map<std::string, int>& Bilan() const { return bilan_; }
@@ -49,12 +50,9 @@ class Paire : private PlateauAuto {
   void Message(TexteVue texte) override { rapide_.Message(texte); }
 
   void Ouvre(std::vector<Texte>& boites, TexteVue texte, const Texte& grille) const;
-  void Charge(const Plateau& plateau);
-  void Saisit(int index, TexteVue texte);
-  void Remplit();
-  std::string Recopie();
-  std::string Joue(const Action& action);
-  void Evalue(int passes);
+  void Commence(const std::string& recit);
+  std::string Finit(std::string ecarts = {});
+  void EvalueLesDeux(int passes);
   std::string Compare();
   std::string Compare(const Grille& simple, const sudoku::Grille& rapide);
   std::string CompareContenus();
@@ -70,6 +68,7 @@ class Paire : private PlateauAuto {
   bool avecGrille_ = true;
   int verdictSimple_ = 0, verdictRapide_ = 0;
   bool abandonnee_ = false;
+  std::string recit_;  // the steps since the grid
   std::map<std::string, int> bilan_;
 };
 

@@ -1,6 +1,5 @@
 // compare_fuzz FIRST COUNT [SIDE…]: plays random games number FIRST to FIRST + COUNT - 1 on the engine and on
-// the plain rules and stops at the first difference with the shortest game that shows it. Without sides: 4, 9
-// and 16.
+// the plain rules and stops at the first difference, with the steps of its game. Without sides: 4, 9 and 16.
 #include <iostream>
 
 #include "plain/parties.h"
