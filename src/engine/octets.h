@@ -22,6 +22,13 @@ inline std::uint64_t Entre64(const std::uint8_t* n, std::uint8_t premier, std::u
 #if defined(SUDOKU_VOIES_512)
   const __m512i v = _mm512_sub_epi8(_mm512_loadu_si512(n), _mm512_set1_epi8(static_cast<char>(premier)));
   bits = _mm512_cmple_epu8_mask(v, _mm512_set1_epi8(static_cast<char>(plus)));
+#elif defined(__AVX2__)
+  for (int i = 0; i < 64; i += 32) {
+    const __m256i octets = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(n + i));
+    const __m256i v = _mm256_sub_epi8(octets, _mm256_set1_epi8(static_cast<char>(premier)));
+    const __m256i la = _mm256_cmpeq_epi8(_mm256_min_epu8(v, _mm256_set1_epi8(static_cast<char>(plus))), v);
+    bits |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm256_movemask_epi8(la))) << i;
+  }
 #elif defined(__SSE2__)
   for (int i = 0; i < 64; i += 16) {
     const __m128i octets = _mm_loadu_si128(reinterpret_cast<const __m128i*>(n + i));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <vector>
 
 #include "engine/deductions.h"
@@ -122,16 +123,25 @@ void TrouveMasques<Dos, B>::Liste::EnleveRares() {
 
 template <class Dos, class B>
 B TrouveMasques<Dos, B>::Assez(const Octets<B>& nombres, const B& parmi) {
-  std::uint8_t combien[256] = {};
-  bool quelques = false;
-  Chaque(parmi, [&](int i) { quelques |= ++combien[nombres.n[i]] == nombres.n[i]; });
   B assez{};
-  if (!quelques) return assez;
-  // A set of all masks that aren't empty takes nothing.
-  const int tous = Dos::kDifferents ? Nombre(Entre(nombres, 1, 255)) : 0;
-  Chaque(parmi, [&](int i) {
-    if (combien[nombres.n[i]] >= nombres.n[i] && nombres.n[i] != tous) assez |= Bit<B>(i);
-  });
+  // Neighbouring counts are looked at together first: a set needs as many masks as the least of them says.
+  for (B reste = parmi; !Vide(reste);) {
+    const int n = nombres.n[Premier(reste)];
+    const int large = static_cast<int>(std::bit_floor(static_cast<unsigned>(std::max(n / 8, 1))));
+    const int bas = n & -large;
+    B voisins = reste & Entre(nombres, bas, bas + large - 1);
+    reste &= ~voisins;
+    if (Nombre(voisins) < bas) continue;
+    while (!Vide(voisins)) {
+      const int voulu = nombres.n[Premier(voisins)];
+      const B autant = voisins & Entre(nombres, voulu, voulu);
+      voisins &= ~autant;
+      if (Nombre(autant) < voulu) continue;
+      // A set of all masks that aren't empty takes nothing.
+      if (Dos::kDifferents && voulu == Nombre(Entre(nombres, 1, 255))) continue;
+      assez |= autant;
+    }
+  }
   return assez;
 }
 
