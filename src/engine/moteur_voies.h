@@ -7,20 +7,10 @@
 #include "engine/amorce.h"
 #include "engine/moteur.h"
 #include "engine/releve.h"
-#include "engine/trouve_comptes.h"
-#include "engine/trouve_voies.h"
+#include "engine/trouve.h"
 
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
-
-// Lanes of 64 bits pay only where a few of them are compared at once.
-#if defined(__AVX2__)
-constexpr int kCoteDeVoies = 8;
-#else
-constexpr int kCoteDeVoies = 5;
-#endif
-template <int S>
-using Trouve = std::conditional_t<S <= kCoteDeVoies, TrouveVoies<S>, TrouveComptes<S>>;
 
 // The engine for blocks of side S, on lanes. Where some content that counts is no single symbol of the grid,
 // or where symbols are equal, it hands the grid to the plain one.
@@ -47,7 +37,6 @@ class MoteurVoies : public Moteur {
   using V = Voies<S>;
   using Mot = MotDe<S>;
   using Bits = BitsDe<S>;
-  using Deductions = DeductionsSur<Trouve<S>, Releve>;
   static constexpr int kVoies = Largeur<S>::kVoies;
   static constexpr int kMots = Largeur<S>::kMots;
   static constexpr int kDernierBit = 8 * sizeof(Bits) - 1;
@@ -70,7 +59,7 @@ class MoteurVoies : public Moteur {
   std::vector<Code> positions_;               // of what counts, where `autres_`
   Contenus<S> contenus_{};
   Releve releve_;
-  Deductions deductions_{contenus_, releve_};
+  Deductions<S, Releve> deductions_{contenus_, releve_};
 };
 
 template <int S>
@@ -212,10 +201,11 @@ template <int S>
 bool MoteurVoies<S>::Deduit(Bloc& bloc, std::int32_t mode) {
   releve_.Commence(bloc);
   const Appui appui = VersSure(mode) ? Appui::kSur : Appui::kPossible;
-  bool aRemplir = deductions_.Candidats(appui) == Deductions::kSolutions;
+  using D = Deductions<S, Releve>;
+  bool aRemplir = deductions_.Candidats(appui) == D::kSolutions;
   if (!aRemplir) {
     if (mode == kSecondePasse) Prouve(bloc);
-    aRemplir = deductions_.Deduit() == Deductions::kSolutions;
+    aRemplir = deductions_.Deduit() == D::kSolutions;
   }
   std::vector<Code>& solutions = VersSure(mode) ? bloc.sure : bloc.poss;
   deductions_.ChaqueSolution(
@@ -226,7 +216,7 @@ bool MoteurVoies<S>::Deduit(Bloc& bloc, std::int32_t mode) {
 
 template <int S>
 void MoteurVoies<S>::EcritCandidats(Bloc& bloc) const {
-  if constexpr (S <= kCoteDeVoies) {
+  if constexpr (kMots == 1) {
     for (int l = 0; l < N; ++l) {
       std::copy_n(deductions_.CandidatsDeLigne(l), N, &bloc.candidats[static_cast<std::size_t>(N * l + 1)]);
     }

@@ -9,9 +9,8 @@
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
-// Finds deductions on a board like that of TrouveVoies, of a side whose sets take several words. The tables
-// are made with lanes; what lies in them is counted once and searched by these counts, as few of the many
-// masks can belong to anything.
+// Finds deductions on a board like that of TrouveVoies, of any side. The tables are made with lanes; what
+// lies in them is counted once and searched by these counts, as few of the many masks can belong to anything.
 template <int S>
 class TrouveComptes : public Suivi<S>, public TrouveMasques<TrouveComptes<S>, BitsDe<S>> {
  public:
@@ -19,6 +18,8 @@ class TrouveComptes : public Suivi<S>, public TrouveMasques<TrouveComptes<S>, Bi
   using Suivi<S>::Suivi;
 
   Bits CandidatsDe(int cellule) const { return Lu<S>(candidats_[cellule / kN], cellule % kN); }
+  // The candidates of the cells of a row, word by word.
+  const MotDe<S>* CandidatsDeLigne(int ligne) const { return candidats_[ligne]; }
 
   bool Amorce(Appui appui);
   void Retourne();
@@ -64,9 +65,9 @@ class TrouveComptes : public Suivi<S>, public TrouveMasques<TrouveComptes<S>, Bi
 
   alignas(64) Mot candidats_[Taille(kN)][Taille(kMots * kVoies)];    // by row and column
   alignas(64) Mot places_[Taille(kUnites)][Taille(kMots * kVoies)];  // by unit and symbol
-  Octets<Bits> comptes_[Taille(kUnites)];                            // of candidates, by unit and place
-  Octets<Bits> nombres_[Taille(kUnites)];                            // of places, by unit and symbol
-  Octets<Bits> parSymbole_[3][Taille(kN)];  // the same by kind, symbol and number of the unit
+  Octets<Bits> comptes_[Taille(kUnites)]{};                          // of candidates, by unit and place
+  Octets<Bits> nombres_[Taille(kUnites)]{};                          // of places, by unit and symbol
+  Octets<Bits> parSymbole_[3][Taille(kN)]{};  // the same by kind, symbol and number of the unit
 };
 
 template <int S>

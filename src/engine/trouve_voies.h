@@ -10,7 +10,7 @@
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
-// Finds deductions on a board of blocks of side S, up to 8, whose cells hold single symbols, all different:
+// Finds deductions on a board of blocks of side S, up to 5, whose cells hold single symbols, all different:
 // vectors with a lane for each symbol or place of a unit, so that all of them are looked at together. A
 // Trouveur; what each member means stands there.
 template <int S>
@@ -229,9 +229,6 @@ void TrouveVoies<S>::ChaqueSeul(F f) {
     if (std::popcount(reste) == 1) f(cellule, std::countr_zero(reste));
   });
 }
-
-template <int S, class U>
-using Deductions = DeductionsSur<TrouveVoies<S>, U>;
 
 }  // namespace
 }  // namespace sudoku::SUDOKU_MOTEUR

@@ -1,7 +1,7 @@
 // One version of the kernel, which the build compiles as engine/moteur_version.cpp.
 #include <cstring>
 
-#include "engine/trouve_voies.h"
+#include "engine/trouve.h"
 #include "solver/noyau.h"
 
 namespace sudoku::SUDOKU_MOTEUR {
