@@ -132,22 +132,25 @@ template <int S>
 void MoteurVoies<S>::AmorceLignes(const Code* positions) {
   V colonnes{};
   V vides{};
-  alignas(64) Mot bits[Taille(kVoies)] = {};
+  alignas(64) Mot bits[Taille(S)][Taille(kVoies)] = {};
   alignas(64) Mot bande[Taille(kVoies)];
   for (int b = 0; b < S; ++b) {
-    V carres{};
-    for (int l = S * b; l < S * (b + 1); ++l, positions += N) {
+    // All rows of the band before the first is looked at as a whole: a load waits for smaller stores.
+    for (int k = 0; k < S; ++k, positions += N) {
       Mot ligne = 0;
       for (int c = 0; c < N; ++c) {
-        bits[c] = static_cast<Mot>(positions[c] < 0 ? 0 : Bits{1} << (positions[c] & kDernierBit));
-        ligne |= bits[c];
+        bits[k][c] = static_cast<Mot>(positions[c] < 0 ? 0 : Bits{1} << (positions[c] & kDernierBit));
+        ligne |= bits[k][c];
       }
-      const V symboles = Lit<S>(bits);
+      contenus_.symboles[kLigne][S * b + k] = ligne;
+    }
+    V carres{};
+    for (int k = 0; k < S; ++k) {
+      const V symboles = Lit<S>(bits[k]);
       const V ouvertes = Nulles(symboles);
       carres |= symboles;
-      vides |= ouvertes & Partout<S>(Bits{1} << l);
-      contenus_.symboles[kLigne][l] = ligne;
-      contenus_.ouvertes[kLigne][l] = static_cast<Mot>(EnBits(ouvertes) & kLieux<S>.tous);
+      vides |= ouvertes & Partout<S>(Bits{1} << (S * b + k));
+      contenus_.ouvertes[kLigne][S * b + k] = static_cast<Mot>(EnBits(ouvertes) & kLieux<S>.tous);
     }
     colonnes |= carres;
     Range<S>(bande, carres);
@@ -158,8 +161,8 @@ void MoteurVoies<S>::AmorceLignes(const Code* positions) {
     }
   }
   Range<S>(contenus_.symboles[kColonne], colonnes);
-  Range<S>(bits, vides);
-  std::copy_n(bits, N, contenus_.ouvertes[kColonne]);
+  Range<S>(bande, vides);
+  std::copy_n(bande, N, contenus_.ouvertes[kColonne]);
 }
 
 // The rest, turned round from that.
