@@ -23,6 +23,32 @@ SUDOKU_EN_LIGNE BitsDe<S> EnsemblesVoisins(const Voies<S>& cles, const Voies<S>&
   return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
 }
 
+// All ones, and as many zeros: from number d on, a vector of ones without its last d lanes.
+template <int S>
+struct UnsPuisZeros {
+  alignas(64) MotDe<S> mots[Taille(2 * Largeur<S>::kVoies)] = {};
+  constexpr UnsPuisZeros() {
+    for (int i = 0; i < Largeur<S>::kVoies; ++i) mots[i] = static_cast<MotDe<S>>(~MotDe<S>{0});
+  }
+};
+template <int S>
+inline constexpr UnsPuisZeros<S> kUnsPuisZeros;
+
+// The same with all later lanes, as they lie at p; behind them, as many may be read that don't count.
+template <int S, int... avant>
+SUDOKU_EN_LIGNE BitsDe<S> EnsemblesSuivants(const MotDe<S>* p, const Voies<S>& comptes,
+                                            std::integer_sequence<int, avant...>) {
+  const Voies<S> cles = Lit<S>(p);
+  Voies<S> egales = Partout<S>(1);
+  const auto compare = [&](auto d) SUDOKU_LAMBDA_EN_LIGNE {
+    Voies<S> memes = Egales(cles, Lit<S>(p + d));
+    if constexpr (S * S - 1 + d >= Largeur<S>::kVoies) memes = memes & Lit<S>(kUnsPuisZeros<S>.mots + d);
+    egales = egales - memes;
+  };
+  (compare(std::integral_constant<int, avant + 1>()), ...);
+  return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
+}
+
 // Where the lanes are few, each is soonest compared with all later ones, if a set is to be expected.
 template <int S>
 constexpr bool kToutCompare = S == 4;
@@ -31,26 +57,17 @@ template <>
 constexpr bool kToutCompare<5> = true;
 #endif
 
+// The same; equal lanes have equal `comptes`.
 template <int S>
-SUDOKU_EN_LIGNE BitsDe<S> EnsemblesComparees(const Voies<S>& cles, const Voies<S>& comptes) {
-  alignas(64) MotDe<S> suite[Taille(2 * Largeur<S>::kVoies)];
-  Range<S>(suite, cles);
-  Range<S>(suite + Largeur<S>::kVoies, Voies<S>{});
-  Voies<S> egales = Partout<S>(1);
-  for (int d = 1; d < S * S; ++d) egales = egales - Egales(cles, Lit<S>(suite + d));
-  return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
-}
-
-// The same with all later lanes; equal lanes have equal `comptes`.
-template <int S>
-SUDOKU_EN_LIGNE BitsDe<S> Ensembles(const Voies<S>& cles, const Voies<S>& comptes) {
+SUDOKU_EN_LIGNE BitsDe<S> Ensembles(const MotDe<S>* p, const Voies<S>& cles, const Voies<S>& comptes) {
+  constexpr std::make_integer_sequence<int, S * S - 1> avant;
   if constexpr (S == 3) {
-    const Voies<S> egales = CompteEgales<S, 1>(cles, std::make_integer_sequence<int, 8>());
-    return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
+    return EnsemblesSuivants<S>(p, comptes, avant);
   } else {
     // Sets of two are the likely ones, and a board without them has few others.
     if constexpr (kToutCompare<S>) {
-      if (std::popcount(BitsEgales(comptes, Partout<S>(2))) > 1) return EnsemblesComparees<S>(cles, comptes);
+      if (std::popcount(BitsEgales(comptes, Partout<S>(2))) > 1)
+        return EnsemblesSuivants<S>(p, comptes, avant);
     }
     // Lanes with the same count together: most are seen to be too few before any two are compared.
     alignas(64) MotDe<S> c[Taille(Largeur<S>::kVoies)];

@@ -8,7 +8,19 @@ namespace {
 template <int S>
 template <class F>
 void TrouveVoies<S>::ChaqueFigure(F f) {
+  if (!tournees_) Tourne();
   Chaque(Base::SymbolesSales(), [&](int s) { FiguresDe(s, f); });
+}
+
+template <int S>
+void TrouveVoies<S>::Tourne() {
+  for (int g = 0; g < 3; ++g) {
+    for (int s = 0; s < N; ++s) {
+      for (int i = 0; i < N; ++i) parSymbole_[g][s][i] = places_[Unite(g, i)][s];
+      for (int i = N; i < kVoies; ++i) parSymbole_[g][s][i] = 0;
+    }
+  }
+  tournees_ = true;
 }
 
 // Behind the S bits of a key, by unit number: the band, the stack in which a unit lies, from 1 on; and
@@ -44,29 +56,34 @@ SUDOKU_EN_LIGNE Voies<S> Cles(const Voies<S>& places, const BitsDe<S>* parties, 
 template <int S>
 template <class F>
 SUDOKU_EN_LIGNE void TrouveVoies<S>::FiguresDe(int s, F f) const {
-  alignas(64) Mot p[3][Taille(kVoies)];
-  for (auto& deUnGenre : p) Range<S>(deUnGenre, V{});
-  for (int i = 0; i < N; ++i) {
-    for (int g = 0; g < 3; ++g) p[g][i] = places_[Unite(g, i)][s];
-  }
   const auto figure = [&](TypeUnite type, Bits unites, TypeUnite type2, Bits cle) {
     f({.symbole = s, .type = type, .unites = unites, .type2 = type2, .cle = cle});
   };
-  DeLignes(p[kColonne], kColonne, figure);
-  DeLignes(p[kLigne], kLigne, figure);
-  DeCarres(Lit<S>(p[kCarre]), figure);
+  // All as the places are now: a figure that is acted on changes the tables.
+  const V colonnes = Lit<S>(parSymbole_[kColonne][s]);
+  const V lignes = Lit<S>(parSymbole_[kLigne][s]);
+  const V carres = Lit<S>(parSymbole_[kCarre][s]);
+  const Bits deColonnes = Ensembles<S>(parSymbole_[kColonne][s], colonnes, Comptes(colonnes));
+  const Bits deLignes = Ensembles<S>(parSymbole_[kLigne][s], lignes, Comptes(lignes));
+  DeLignes(colonnes, deColonnes, kColonne, figure);
+  DeLignes(lignes, deLignes, kLigne, figure);
+  DeCarres(carres, figure);
 }
 
-// The figures whose units are lines of this kind. Confined to crossing lines, then to blocks.
+// The figures whose units are lines of this kind. Confined to crossing lines (`debuts`: where such sets
+// begin), then to blocks.
 template <int S>
 template <class F>
-SUDOKU_EN_LIGNE void TrouveVoies<S>::DeLignes(const MotDe<S>* p, TypeUnite type, F f) {
-  const V lignes = Lit<S>(p);
+SUDOKU_EN_LIGNE void TrouveVoies<S>::DeLignes(const V& lignes, Bits debuts, TypeUnite type, F f) {
   const V comptes = Comptes(lignes);
-  Chaque(Ensembles(lignes, comptes), [&](int premiere) {
-    const Bits unites = Depuis(BitsEgales(Lit<S>(p), Partout<S>(p[premiere])), premiere);
-    f(type, unites, type == kLigne ? kColonne : kLigne, p[premiere]);
-  });
+  if (debuts != 0) {
+    alignas(64) Mot p[Taille(kVoies)];
+    Range<S>(p, lignes);
+    Chaque(debuts, [&](int premiere) {
+      const Bits unites = Depuis(BitsEgales(lignes, Partout<S>(p[premiere])), premiere);
+      f(type, unites, type == kLigne ? kColonne : kLigne, p[premiere]);
+    });
+  }
   // Blocks serve only lines with fewer than S places.
   const V longues = PlusDe(S - 1, comptes);
   if (S > 3 && Aucune(PlusDe(1, comptes) & ~longues)) return;

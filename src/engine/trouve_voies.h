@@ -29,6 +29,8 @@ class TrouveVoies : public Suivi<S> {
     V places;
     V comptes;
     V seules;  // lanes with one
+    bool copiees;
+    alignas(64) MotDe<S> copie[Taille(2 * Largeur<S>::kVoies)];
   };
 
   bool Amorce(Appui appui);
@@ -63,10 +65,11 @@ class TrouveVoies : public Suivi<S> {
 
   static Bits UnBit(int n) { return Bit<Bits>(n); }
 
+  void Tourne();
   template <class F>
   void FiguresDe(int s, F f) const;
   template <class F>
-  static void DeLignes(const Mot* p, TypeUnite type, F f);
+  static void DeLignes(const V& lignes, Bits debuts, TypeUnite type, F f);
   template <class F>
   static void DeCarres(const V& carres, F f);
   template <class F>
@@ -74,8 +77,11 @@ class TrouveVoies : public Suivi<S> {
   bool EnleveTous(int cellule, Bits symboles);
 
   // Candidates by unit and place, places by unit and symbol; lanes from N on stay 0.
-  alignas(64) Mot candidats_[Taille(kUnites)][Taille(kVoies)];
-  alignas(64) Mot places_[Taille(kUnites)][Taille(kVoies)];
+  alignas(64) Mot candidats_[Taille(kUnites + 1)][Taille(kVoies)];
+  alignas(64) Mot places_[Taille(kUnites + 1)][Taille(kVoies)];
+  // Places again, by kind, symbol and number of the unit.
+  alignas(64) Mot parSymbole_[3][Taille(N + 1)][Taille(kVoies)];
+  bool tournees_;
 };
 
 template <int S>
@@ -105,29 +111,32 @@ void TrouveVoies<S>::Retourne() {
   }
   ChaquePlaces<S>(contenus_,
                   [&](int u, const V& places) SUDOKU_LAMBDA_EN_LIGNE { Range<S>(places_[u], places); });
+  tournees_ = false;
   Base::ToutSale();
 }
 
 template <int S>
 SUDOKU_EN_LIGNE typename TrouveVoies<S>::EtatUnite TrouveVoies<S>::Reste(int u) const {
-  V places = Lit<S>(places_[u]);
-  if (prouves_[u] != 0) {
-    alignas(64) Mot copie[Taille(kVoies)];
-    Range<S>(copie, places);
-    Chaque(prouves_[u], [&](int s) { copie[s] = 0; });
-    places = Lit<S>(copie);
+  EtatUnite e;
+  e.places = Lit<S>(places_[u]);
+  e.copiees = prouves_[u] != 0;
+  if (e.copiees) {
+    Range<S>(e.copie, e.places);
+    Range<S>(e.copie + kVoies, V{});
+    Chaque(prouves_[u], [&](int s) { e.copie[s] = 0; });
+    e.places = Lit<S>(e.copie);
   }
-  const V comptes = Comptes(places);
-  return {places, comptes, Egales(comptes, Partout<S>(1))};
+  e.comptes = Comptes(e.places);
+  e.seules = Egales(e.comptes, Partout<S>(1));
+  return e;
 }
 
 template <int S>
 template <class F>
-SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueSeule(int, const EtatUnite& e, F f) const {
+SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueSeule(int u, const EtatUnite& e, F f) const {
   const Bits symboles = EnBits(e.seules);
   if (symboles == 0) return;
-  alignas(64) Mot p[Taille(kVoies)];
-  Range<S>(p, e.places);
+  const Mot* const p = e.copiees ? e.copie : places_[u];
   Chaque(symboles, [&](int s) { f(s, std::countr_zero(Bits{p[s]})); });
 }
 
@@ -162,7 +171,7 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueConfinee(int u, const EtatUnite& e, F
 template <int S>
 template <class F>
 SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueCachee(int u, const EtatUnite& e, F f) {
-  const Bits debuts = Ensembles(e.places, e.comptes);
+  const Bits debuts = Ensembles<S>(e.copiees ? e.copie : places_[u], e.places, e.comptes);
   if (debuts == 0) return;
   alignas(64) Mot places[Taille(kVoies)];
   Range<S>(places, e.places);
@@ -178,7 +187,7 @@ template <int S>
 template <class F>
 SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueNue(int u, F f) const {
   V candidats = Lit<S>(candidats_[u]);
-  Bits debuts = Ensembles(candidats, Comptes(candidats));
+  Bits debuts = Ensembles<S>(candidats_[u], candidats, Comptes(candidats));
   while (debuts != 0) {
     const int premier = std::countr_zero(debuts);
     debuts &= debuts - 1;
@@ -188,7 +197,7 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueNue(int u, F f) const {
     if (perdants == 0) continue;
     f({.symboles = sequence, .lieux = Depuis(egales, premier), .perdants = perdants});
     candidats = Lit<S>(candidats_[u]);
-    debuts = Ensembles(candidats, Comptes(candidats)) & ~((Bits{2} << premier) - 1);
+    debuts = Ensembles<S>(candidats_[u], candidats, Comptes(candidats)) & ~((Bits{2} << premier) - 1);
   }
 }
 
@@ -198,7 +207,9 @@ bool TrouveVoies<S>::EnleveTous(int cellule, Bits symboles) {
   for (int g = 0; g < 3; ++g) {
     const int u = lieu.unite[g];
     candidats_[u][lieu.place[g]] &= static_cast<Mot>(~symboles);
-    Chaque(symboles, [&](int s) { places_[u][s] &= static_cast<Mot>(~UnBit(lieu.place[g])); });
+    Chaque(symboles, [&](int s) {
+      parSymbole_[g][s][u / 3] = places_[u][s] &= static_cast<Mot>(~UnBit(lieu.place[g]));
+    });
   }
   Base::Salit(cellule, symboles);
   const Bits reste = CandidatsDe(cellule);
@@ -215,7 +226,9 @@ void TrouveVoies<S>::Remplace(int cellule, Bits sequence) {
   for (int g = 0; g < 3; ++g) {
     const int u = lieu.unite[g];
     candidats_[u][lieu.place[g]] = static_cast<Mot>(sequence);
-    Chaque(avant ^ sequence, [&](int s) { places_[u][s] ^= static_cast<Mot>(UnBit(lieu.place[g])); });
+    Chaque(avant ^ sequence, [&](int s) {
+      parSymbole_[g][s][u / 3] = places_[u][s] ^= static_cast<Mot>(UnBit(lieu.place[g]));
+    });
   }
   Base::Salit(cellule, avant & ~sequence);
   if ((sequence & ~avant) != 0) Base::ToutSale();
