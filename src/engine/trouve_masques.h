@@ -71,6 +71,8 @@ class TrouveMasques {
   };
   // Without those of which there are too few, of whatever masks, to make a set.
   static B Assez(const Octets<B>& nombres, const B& parmi);
+  template <class F>
+  static void ChaqueVoisinage(const Octets<B>& nombres, const B& parmi, F f);
 
   Liste liste_;
 
@@ -124,14 +126,7 @@ void TrouveMasques<Dos, B>::Liste::EnleveRares() {
 template <class Dos, class B>
 B TrouveMasques<Dos, B>::Assez(const Octets<B>& nombres, const B& parmi) {
   B assez{};
-  // Neighbouring counts are looked at together first: a set needs as many masks as the least of them says.
-  for (B reste = parmi; !Vide(reste);) {
-    const int n = nombres.n[Premier(reste)];
-    const int large = static_cast<int>(std::bit_floor(static_cast<unsigned>(std::max(n / 8, 1))));
-    const int bas = n & -large;
-    B voisins = reste & Entre(nombres, bas, bas + large - 1);
-    reste &= ~voisins;
-    if (Nombre(voisins) < bas) continue;
+  ChaqueVoisinage(nombres, parmi, [&](B voisins) {
     while (!Vide(voisins)) {
       const int voulu = nombres.n[Premier(voisins)];
       const B autant = voisins & Entre(nombres, voulu, voulu);
@@ -141,8 +136,36 @@ B TrouveMasques<Dos, B>::Assez(const Octets<B>& nombres, const B& parmi) {
       if (Dos::kDifferents && voulu == Nombre(Entre(nombres, 1, 255))) continue;
       assez |= autant;
     }
-  }
+  });
   return assez;
+}
+
+// Calls f(masks whose counts lie near each other) where they are as many as the least count there says.
+template <class Dos, class B>
+template <class F>
+void TrouveMasques<Dos, B>::ChaqueVoisinage(const Octets<B>& nombres, const B& parmi, F f) {
+  const auto pas = [](int n) {
+    return static_cast<int>(std::bit_floor(static_cast<unsigned>(std::max(n / 8, 1))));
+  };
+  const auto voisins = [&](const B& masques, int bas, int haut) {
+    const B la = masques & Entre(nombres, bas, haut);
+    if (Nombre(la) >= bas) f(la);
+    return la;
+  };
+  if constexpr (kMotsDe<B> <= 2) {
+    for (B reste = parmi; !Vide(reste);) {
+      const int n = nombres.n[Premier(reste)];
+      const int bas = n & -pas(n);
+      reste &= ~voisins(reste, bas, bas + pas(n) - 1);
+    }
+  } else {
+    // Many words take long to compare; ranges that are known beforehand don't wait for each other.
+    for (int octave = 2; octave <= Nombre(parmi); octave *= 2) {
+      const B la = parmi & Entre(nombres, octave, 2 * octave - 1);
+      if (Nombre(la) < octave) continue;
+      for (int bas = octave; bas < 2 * octave; bas += pas(octave)) voisins(la, bas, bas + pas(octave) - 1);
+    }
+  }
 }
 
 template <class Dos, class B>
@@ -217,22 +240,20 @@ void TrouveMasques<Dos, B>::AvecCarres(int s, TypeUnite type, TypeUnite type2, F
   const auto& parties = dos().DesParties();
   const int S = parties.S;
   const Octets<B>& nombres = dos().NombresDuSymbole(type, s);
-  const int pas = type == kCarre && type2 == kColonne ? S : 1;
+  const bool piles = type == kCarre && type2 == kColonne;
   const int maximum = type2 == kCarre ? S - 1 : dos().N() - 1;
   const auto cle = [&](int v) { return parties.Cle(Unite(type, v), type2, dos().Places(Unite(type, v), s)); };
   Chaque(Entre(nombres, 2, type2 == kCarre ? S - 1 : S), [&](int premiere) {
-    const int fin = pas == 1 ? (premiere / S + 1) * S : premiere % S + dos().N();
+    const B& voisines = piles ? parties.residu[premiere % S] : parties.groupe[premiere / S];
+    const B possibles = Depuis(voisines & Entre(nombres, 1, maximum), premiere);
     const int n = nombres.n[premiere];
-    if (n > (fin - premiere) / pas) return;
+    if (Nombre(possibles) < n) return;
     const B celle = cle(premiere);
     B unites{};
-    int k = 0;
-    for (int v = premiere; v < fin; v += pas) {
-      if (nombres.n[v] == 0 || nombres.n[v] > maximum || !(cle(v) == celle)) continue;
-      unites |= Bit<B>(v);
-      ++k;
-    }
-    if (k == n) f({.symbole = s, .type = type, .unites = unites, .type2 = type2, .cle = celle});
+    Chaque(possibles, [&](int v) {
+      if (cle(v) == celle) unites |= Bit<B>(v);
+    });
+    if (Nombre(unites) == n) f({.symbole = s, .type = type, .unites = unites, .type2 = type2, .cle = celle});
   });
 }
 
