@@ -47,6 +47,10 @@ class MoteurVoies : public Moteur {
   void AmorceLignes(const Code* positions);
   void AmorceUnites();
   void AmorceCases(const Code* positions);
+  void Compte(TypeUnite type, int numero, int symbole) {
+    Ajoute<S>(contenus_.symboles[type], numero, symbole);
+    Ajoute<S>(contenus_.unites[type], symbole, numero);
+  }
   void Prouve(const Bloc& bloc);
   // All the rest of the pass. True if some empty cell has a solution.
   bool Deduit(Bloc& bloc, std::int32_t mode);
@@ -113,15 +117,20 @@ void MoteurVoies<S>::AmorceCases(const Code* positions) {
       std::fill_n(&contenus_.unites[type][mot * kVoies + N], kVoies - N, ~Mot{0});
     }
   }
-  for (int i = 0; i < N * N; ++i) {
-    const int symbole = positions[i];
-    for (int type = 0; type < 3; ++type) {
-      const int numero = kParties<S>.UniteDe(type, i) / 3;
-      if (symbole < 0) {
-        Ajoute<S>(contenus_.ouvertes[type], numero, kParties<S>.PlaceDe(type, i));
-      } else {
-        Ajoute<S>(contenus_.symboles[type], numero, symbole);
-        Ajoute<S>(contenus_.unites[type], symbole, numero);
+  for (int l = 0; l < N; ++l, positions += N) {
+    for (int pile = 0; pile < S; ++pile) {
+      for (int k = 0; k < S; ++k) {
+        const int c = pile * S + k;
+        const int carre = l / S * S + pile;
+        if (const int symbole = positions[c]; symbole < 0) {
+          Ajoute<S>(contenus_.ouvertes[kLigne], l, c);
+          Ajoute<S>(contenus_.ouvertes[kColonne], c, l);
+          Ajoute<S>(contenus_.ouvertes[kCarre], carre, l % S * S + k);
+        } else {
+          Compte(kLigne, l, symbole);
+          Compte(kColonne, c, symbole);
+          Compte(kCarre, carre, symbole);
+        }
       }
     }
   }
