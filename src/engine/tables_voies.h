@@ -6,16 +6,18 @@
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
-// What is left of all symbols in each lane without `prises` and those of unit number n of `symboles`.
+// What is left of all symbols in each lane without `prises` and those of unit number n of `symboles`,
+// register by register.
 template <int S>
-SUDOKU_EN_LIGNE Voies<S> Laisse(const Voies<S>& prises, const MotDe<S>* symboles, int n,
-                                const Voies<S, 1>& ouvertes) {
-  const BitsDe<S> laissent = kTousDe<S> & ~Lu<S>(symboles, n);
-  return Voies<S>::De(
-      [&](int i) { return ~prises.r[i] & Partout<S>(laissent, i) & ouvertes.r[i % Voies<S, 1>::kTous]; });
+SUDOKU_EN_LIGNE auto Laisse(const Voies<S>& prises, const MotDe<S>* symboles, int n,
+                            const Voies<S, 1>& ouvertes) {
+  return [&prises, &ouvertes, laissent = kTousDe<S> & ~Lu<S>(symboles, n)](int i) SUDOKU_LAMBDA_EN_LIGNE {
+    return ~prises.r[i] & Partout<S>(laissent, i) & ouvertes.r[i % Voies<S, 1>::kTous];
+  };
 }
 
-// Calls f(row, candidates by column, lanes of its open cells) for each row.
+// Calls f(row, candidates by column, lanes of its open cells) for each row; candidates(i) is their register
+// i.
 template <int S, class F>
 SUDOKU_EN_LIGNE void ChaqueLigne(const Contenus<S>& contenus, F f) {
   const Voies<S> colonnes = Lit<S>(contenus.symboles[kColonne]);
@@ -53,8 +55,8 @@ SUDOKU_EN_LIGNE Voies<S> Etend(const BitsDe<S>* parties, const Voies<S>& de, int
   return etendues;
 }
 
-// Calls f(unit, places by symbol) for each unit. The places of a symbol in a unit are its open cells but for
-// those in units that have the symbol.
+// Calls f(unit, places by symbol) for each unit; places(i) is their register i. The places of a symbol in a
+// unit are its open cells but for those in units that have the symbol.
 template <int S, class F>
 SUDOKU_EN_LIGNE void ChaquePlaces(const Contenus<S>& contenus, F f) {
   const auto& parties = kParties<S>;
@@ -64,9 +66,9 @@ SUDOKU_EN_LIGNE void ChaquePlaces(const Contenus<S>& contenus, F f) {
   const auto une = [&](int type, int numero, const Voies<S>& de, const Voies<S>& prises) {
     const Voies<S, 1> avec = Avec<S>(de, numero);
     const BitsDe<S> ouvertes = Lu<S>(contenus.ouvertes[type], numero);
-    f(Unite(type, numero), Voies<S>::De([&](int i) {
-        return Partout<S>(ouvertes, i) & ~(prises.r[i] | avec.r[i % Voies<S, 1>::kTous]);
-      }));
+    f(Unite(type, numero), [&](int i) SUDOKU_LAMBDA_EN_LIGNE {
+      return Partout<S>(ouvertes, i) & ~(prises.r[i] | avec.r[i % Voies<S, 1>::kTous]);
+    });
   };
   Voies<S> colonnesDuCarre[Taille(S)];
   for (int g = 0; g < S; ++g) colonnesDuCarre[g] = Etend<S>(parties.residu, colonnes, S * g, 1);

@@ -74,8 +74,8 @@ template <int S>
 bool TrouveComptes<S>::Amorce(Appui appui) {
   this->Commence(appui);
   bool complets = true;
-  ChaqueLigne<S>(this->contenus_, [&](int l, const V& c, const Voies<S, 1>&) SUDOKU_LAMBDA_EN_LIGNE {
-    Range<S>(candidats_[l], c);
+  ChaqueLigne<S>(this->contenus_, [&](int l, const auto& candidats, const auto&) SUDOKU_LAMBDA_EN_LIGNE {
+    RangeChaque<S>(candidats_[l], candidats);
     Octets<Bits>& comptes = comptes_[Unite(kLigne, l)];
     Compte(candidats_[l], comptes);
     this->NoteSeuls(l, Entre(comptes, 1, 1));

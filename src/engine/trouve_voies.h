@@ -88,7 +88,8 @@ template <int S>
 bool TrouveVoies<S>::Amorce(Appui appui) {
   Base::Commence(appui);
   V nuls{};
-  ChaqueLigne<S>(contenus_, [&](int l, const V& c, const V& ouvertes) SUDOKU_LAMBDA_EN_LIGNE {
+  ChaqueLigne<S>(contenus_, [&](int l, const auto& candidats, const V& ouvertes) SUDOKU_LAMBDA_EN_LIGNE {
+    const V c = V::De(candidats);
     Range<S>(candidats_[Unite(kLigne, l)], c);
     nuls |= Nulles(c) & ouvertes;
     Base::NoteSeuls(l, EnBits(Seules(c)));
@@ -99,8 +100,8 @@ bool TrouveVoies<S>::Amorce(Appui appui) {
 // The rest of the tables, from the contents and the candidates by row.
 template <int S>
 void TrouveVoies<S>::Retourne() {
-  ChaqueColonne<S>(contenus_, [&](int c, const V& colonne) SUDOKU_LAMBDA_EN_LIGNE {
-    Range<S>(candidats_[Unite(kColonne, c)], colonne);
+  ChaqueColonne<S>(contenus_, [&](int c, const auto& colonne) SUDOKU_LAMBDA_EN_LIGNE {
+    RangeChaque<S>(candidats_[Unite(kColonne, c)], colonne);
   });
   for (int b = 0; b < N; ++b) {
     Mot* const carre = candidats_[Unite(kCarre, b)];
@@ -109,8 +110,8 @@ void TrouveVoies<S>::Retourne() {
       std::memcpy(carre + S * l, candidats_[Unite(kLigne, b / S * S + l)] + b % S * S, S * sizeof(Mot));
     }
   }
-  ChaquePlaces<S>(contenus_,
-                  [&](int u, const V& places) SUDOKU_LAMBDA_EN_LIGNE { Range<S>(places_[u], places); });
+  ChaquePlaces<S>(contenus_, [&](int u, const auto& places)
+                                 SUDOKU_LAMBDA_EN_LIGNE { RangeChaque<S>(places_[u], places); });
   tournees_ = false;
   Base::ToutSale();
 }

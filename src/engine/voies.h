@@ -124,12 +124,17 @@ SUDOKU_EN_LIGNE Voies<S, P> Lit(const MotDe<S>* p) {
     return registre;
   });
 }
-template <int S>
-SUDOKU_EN_LIGNE void Range(MotDe<S>* p, const Voies<S>& v) {
+// The registers that f(number of the register) gives.
+template <int S, class F>
+SUDOKU_EN_LIGNE void RangeChaque(MotDe<S>* p, F f) {
   Voies<S>::Chaque([&](int i) {
-    const typename Voies<S>::Registre registre = v.r[i];
+    const typename Voies<S>::Registre registre = f(i);
     std::memcpy(p + i * Voies<S>::kParRegistre, &registre, sizeof registre);
   });
+}
+template <int S>
+SUDOKU_EN_LIGNE void Range(MotDe<S>* p, const Voies<S>& v) {
+  RangeChaque<S>(p, [&](int i) { return v.r[i]; });
 }
 // The register i of lanes that all hold n.
 template <int S>
