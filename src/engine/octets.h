@@ -60,5 +60,33 @@ B Entre(const Octets<B>& nombres, int premier, int dernier) {
   return bits;
 }
 
+// Turns n rows of bytes round: byte j of de(i) becomes byte i of a(j). Rows of both have room for a multiple
+// of 16; what stands there from n on isn't kept.
+template <class De, class A>
+void TourneOctets(int n, De de, A a) {
+  using Seize [[gnu::vector_size(16)]] = std::uint8_t;
+  for (int i = 0; i < n; i += 16) {
+    for (int j = 0; j < n; j += 16) {
+      Seize r[16];
+      for (int k = 0; k < 16; ++k) {
+        r[k] = Seize{};
+        if (i + k < n) std::memcpy(&r[k], de(i + k) + j, sizeof r[k]);
+      }
+      // Rows 8 apart go into each other, four times over.
+      for (int fois = 0; fois < 4; ++fois) {
+        Seize melees[16];
+        for (int k = 0; k < 8; ++k) {
+          melees[2 * k] =
+              __builtin_shufflevector(r[k], r[k + 8], 0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23);
+          melees[2 * k + 1] = __builtin_shufflevector(r[k], r[k + 8], 8, 24, 9, 25, 10, 26, 11, 27, 12, 28,
+                                                      13, 29, 14, 30, 15, 31);
+        }
+        std::memcpy(r, melees, sizeof r);
+      }
+      for (int k = 0; k < 16 && j + k < n; ++k) std::memcpy(a(j + k) + i, &r[k], sizeof r[k]);
+    }
+  }
+}
+
 }  // namespace
 }  // namespace sudoku::SUDOKU_MOTEUR

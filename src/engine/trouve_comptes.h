@@ -57,7 +57,6 @@ class TrouveComptes : public Suivi<S>, public TrouveMasques<TrouveComptes<S>, Bi
 
   // How many numbers each of the masks has.
   static void Compte(const Mot* masques, Octets<Bits>& comptes);
-  void ComptePlaces(int u);
   // The cell is a place of the symbol no more, or is one again.
   void ChangePlace(int cellule, int symbole, bool la);
   bool EnleveTous(int cellule, const Bits& symboles);
@@ -97,23 +96,22 @@ void TrouveComptes<S>::Compte(const Mot* masques, Octets<Bits>& comptes) {
 template <int S>
 void TrouveComptes<S>::Retourne() {
   for (int l = 0; l < kN; ++l) {
-    const std::uint8_t* const ligne = comptes_[Unite(kLigne, l)].n;
-    for (int c = 0; c < kN; ++c) {
-      comptes_[Unite(kColonne, c)].n[l] = ligne[c];
-      comptes_[Unite(kCarre, l / S * S + c / S)].n[l % S * S + c % S] = ligne[c];
-    }
+    for (int pile = 0; pile < S; ++pile)
+      std::copy_n(comptes_[Unite(kLigne, l)].n + S * pile, S,
+                  comptes_[Unite(kCarre, l / S * S + pile)].n + l % S * S);
   }
-  ChaquePlaces<S>(this->contenus_, [&](int u, const V& places) SUDOKU_LAMBDA_EN_LIGNE {
-    Range<S>(places_[u], places);
-    ComptePlaces(u);
+  TourneOctets(
+      kN, [&](int l) { return comptes_[Unite(kLigne, l)].n; },
+      [&](int c) { return comptes_[Unite(kColonne, c)].n; });
+  ChaquePlaces<S>(this->contenus_, [&](int u, const auto& places) SUDOKU_LAMBDA_EN_LIGNE {
+    RangeChaque<S>(places_[u], places);
+    Compte(places_[u], nombres_[u]);
   });
+  for (const TypeUnite type : {kCarre, kLigne, kColonne}) {
+    TourneOctets(
+        kN, [&](int i) { return nombres_[Unite(type, i)].n; }, [&](int s) { return parSymbole_[type][s].n; });
+  }
   this->ToutSale();
-}
-
-template <int S>
-void TrouveComptes<S>::ComptePlaces(int u) {
-  Compte(places_[u], nombres_[u]);
-  for (int s = 0; s < kN; ++s) parSymbole_[TypeDe(u)][s].n[u / 3] = nombres_[u].n[s];
 }
 
 template <int S>
