@@ -49,26 +49,12 @@ SUDOKU_EN_LIGNE BitsDe<S> EnsemblesSuivants(const MotDe<S>* p, const Voies<S>& c
   return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
 }
 
-// Where the lanes are few, each is soonest compared with all later ones, if a set is to be expected.
-template <int S>
-constexpr bool kToutCompare = S == 4;
-#if defined(__AVX2__) && !defined(SUDOKU_VOIES_512)
-template <>
-constexpr bool kToutCompare<5> = true;
-#endif
-
-// The same; equal lanes have equal `comptes`.
+// The same; equal lanes have equal `comptes`. A few lanes are soonest all compared: it takes no branch.
 template <int S>
 SUDOKU_EN_LIGNE BitsDe<S> Ensembles(const MotDe<S>* p, const Voies<S>& cles, const Voies<S>& comptes) {
-  constexpr std::make_integer_sequence<int, S * S - 1> avant;
-  if constexpr (S == 3) {
-    return EnsemblesSuivants<S>(p, comptes, avant);
+  if constexpr (S <= 4) {
+    return EnsemblesSuivants<S>(p, comptes, std::make_integer_sequence<int, S * S - 1>());
   } else {
-    // Sets of two are the likely ones, and a board without them has few others.
-    if constexpr (kToutCompare<S>) {
-      if (std::popcount(BitsEgales(comptes, Partout<S>(2))) > 1)
-        return EnsemblesSuivants<S>(p, comptes, avant);
-    }
     // Lanes with the same count together: most are seen to be too few before any two are compared.
     alignas(64) MotDe<S> c[Taille(Largeur<S>::kVoies)];
     alignas(64) MotDe<S> n[Taille(Largeur<S>::kVoies)];
