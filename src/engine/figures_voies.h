@@ -12,6 +12,7 @@ void TrouveVoies<S>::ChaqueFigure(F f) {
   Chaque(Base::SymbolesSales(), [&](int s) { FiguresDe(s, f); });
 }
 
+// The places by symbol, from those by unit.
 template <int S>
 void TrouveVoies<S>::Tourne() {
   for (int g = 0; g < 3; ++g) {

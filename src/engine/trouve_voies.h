@@ -29,6 +29,8 @@ class TrouveVoies : public Suivi<S> {
     V places;
     V comptes;
     V seules;  // lanes with one
+    // The places lie in `copie`, and zeros behind them, where they are not all that the table of the unit
+    // has.
     bool copiees;
     alignas(64) MotDe<S> copie[Taille(2 * Largeur<S>::kVoies)];
   };
@@ -76,10 +78,11 @@ class TrouveVoies : public Suivi<S> {
   static void EnCarres(const V& voies, Bits debuts, TypeUnite type, TypeUnite type2, F f);
   bool EnleveTous(int cellule, Bits symboles);
 
-  // Candidates by unit and place, places by unit and symbol; lanes from N on stay 0.
+  // Candidates by unit and place, places by unit and symbol; lanes from N on stay 0. A search for sets reads
+  // on into the row behind (see ensembles.h), so that there is one more.
   alignas(64) Mot candidats_[Taille(kUnites + 1)][Taille(kVoies)];
   alignas(64) Mot places_[Taille(kUnites + 1)][Taille(kVoies)];
-  // Places again, by kind, symbol and number of the unit.
+  // Places again, by kind, symbol and number of the unit, once `tournees_`.
   alignas(64) Mot parSymbole_[3][Taille(N + 1)][Taille(kVoies)];
   bool tournees_;
 };
