@@ -84,7 +84,7 @@ class TrouveVoies : public Suivi<S> {
   alignas(64) Mot places_[Taille(kUnites + 1)][Taille(kVoies)];
   // Places again, by kind, symbol and number of the unit, once `tournees_`.
   alignas(64) Mot parSymbole_[3][Taille(N + 1)][Taille(kVoies)];
-  bool tournees_;
+  bool tournees_ = false;
 };
 
 template <int S>
