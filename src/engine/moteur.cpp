@@ -18,8 +18,8 @@ std::unique_ptr<Moteur> Fabrique(int N);
 }
 #endif
 
-std::vector<FaitMoteur> VersionsMoteur() {
-  std::vector<FaitMoteur> versions;
+std::vector<FabriqueMoteur> VersionsMoteur() {
+  std::vector<FabriqueMoteur> versions;
 #if defined(SUDOKU_VERSION_AVX512)
   if (MeilleuresInstructions() >= Instructions::kAvx512) versions.push_back(version_avx512::Fabrique);
 #endif

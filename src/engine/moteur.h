@@ -19,8 +19,8 @@ class Moteur {
 };
 
 // The versions of a Moteur for grids of side N that this machine runs, the fastest first; all give the same.
-using FaitMoteur = std::unique_ptr<Moteur> (*)(int N);
-std::vector<FaitMoteur> VersionsMoteur();
+using FabriqueMoteur = std::unique_ptr<Moteur> (*)(int N);
+std::vector<FabriqueMoteur> VersionsMoteur();
 
 // The plain and slow one, for grids of any kind: it alone does those with contents that are no single symbol
 // of the grid, or with equal symbols. The others hand these to it.

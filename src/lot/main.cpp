@@ -32,14 +32,14 @@ void SansMemoire() {
   std::_Exit(Renonce("sudoku-lot : mémoire insuffisante\n"));
 }
 
-int Fabrique(const Appel& appel) {
+int Execute(const Appel& appel) {
   if (appel.commande == "importer") return Importe(appel);
   if (appel.commande == "exporter") return Exporte(appel);
   if (appel.commande == "demontrer") return Demontre(appel);
-  const auto fais = appel.commande == "resoudre"    ? FabriqueResoudre
-                    : appel.commande == "expliquer" ? FabriqueExpliquer
-                                                    : FabriqueVerifier;
-  return Deroule(appel, [&] { return fais(appel); });
+  const auto fabrique = appel.commande == "resoudre"    ? FabriqueResoudre
+                        : appel.commande == "expliquer" ? FabriqueExpliquer
+                                                        : FabriqueVerifier;
+  return Deroule(appel, [&] { return fabrique(appel); });
 }
 
 }  // namespace
@@ -53,7 +53,7 @@ int main(int argc, char** argv) {
   const std::optional<Appel> appel = LitAppel(argc, argv, statut);
   if (!appel) return statut;
   try {
-    return Fabrique(*appel);
+    return Execute(*appel);
   } catch (const std::system_error&) {
     return Renonce("sudoku-lot : le système ne donne pas de fil d'exécution\n");
   }

@@ -74,7 +74,7 @@ TEST(Noyau, ToutesLesVersionsDonnentLeMeme) {
 }
 
 TEST(Moteur, ToutesLesVersionsDonnentLeMeme) {
-  std::vector<FaitMoteur> versions = VersionsMoteur();
+  std::vector<FabriqueMoteur> versions = VersionsMoteur();
   versions.push_back(FabriqueTextes);
   std::mt19937 suite(4);
   std::size_t faits = 0;
@@ -93,7 +93,7 @@ TEST(Moteur, ToutesLesVersionsDonnentLeMeme) {
       depart(i + 1).Load(TexteVue(symboles).substr(static_cast<std::size_t>(s), 1), suite() % 8 == 0 ? 2 : 0);
     }
     Grille attendue;
-    for (const FaitMoteur version : versions) {
+    for (const FabriqueMoteur version : versions) {
       if (version == FabriqueTextes && S > 9) continue;
       Grille grille;
       GrilleCopy(depart, grille);
