@@ -66,10 +66,9 @@ concept Trouveur = requires(T t, typename T::Bits bits, Appui appui, Trouvaille<
 };
 
 // What the deductions are wanted for.
-//   kFaits            each is written down (Note gives the fact's number, Fait adds a cell to it), and all
-//   are
-//                     made, also on a board that has lost all candidates of a cell already. Without it such a
-//                     board is given up: that cell stays so.
+//   kFaits            each is written down (NoteArgument gives its number, NoteFait a cell that it changed),
+//                     and all are made, also on a board that has lost all candidates of a cell already.
+//                     Without it such a board is given up: that cell stays so.
 //   Vide(cell)        the open cell holds nothing at all: a solution for it is one to fill in.
 template <class U>
 concept Usage = requires(U u) {
@@ -77,9 +76,9 @@ concept Usage = requires(U u) {
   { u.Vide(0) } -> std::same_as<bool>;
 }
 &&(!U::kFaits || requires(U u, Argument argument) {
-  { u.Note(argument, std::uint32_t{}, std::uint32_t{}) } -> std::same_as<std::uint32_t>;
-  u.Fait(0, std::uint32_t{});
-  u.Fait(0, std::uint32_t{}, std::uint32_t{});
+  { u.NoteArgument(argument, std::uint32_t{}, std::uint32_t{}) } -> std::same_as<std::uint32_t>;
+  u.NoteFait(0, std::uint32_t{});
+  u.NoteFait(0, std::uint32_t{}, std::uint32_t{});
 });
 
 template <Trouveur T, Usage U>
@@ -131,13 +130,13 @@ class DeductionsSur : public T {
     return {.genre = genre, .type = TypeDe(u), .unite = static_cast<std::int16_t>(u / 3 + 1)};
   }
   template <class... B>
-  std::uint32_t Note(const Argument& argument, const B&... masques) {
-    if constexpr (U::kFaits) return usage_.Note(argument, masques...);
+  std::uint32_t NoteArgument(const Argument& argument, const B&... masques) {
+    if constexpr (U::kFaits) return usage_.NoteArgument(argument, masques...);
     return 0;
   }
   template <class... B>
-  void Fait(int cellule, std::uint32_t argument, const B&... exclus) {
-    if constexpr (U::kFaits) usage_.Fait(cellule, argument, exclus...);
+  void NoteFait(int cellule, std::uint32_t argument, const B&... exclus) {
+    if constexpr (U::kFaits) usage_.NoteFait(cellule, argument, exclus...);
   }
   // Something went from a cell, and this says whether anything is left.
   void Change(bool reste) { contradiction_ |= !U::kFaits && !reste; }
@@ -216,7 +215,7 @@ bool DeductionsSur<T, U>::TestSerie(int u) {
 template <Trouveur T, Usage U>
 void DeductionsSur<T, U>::Seule(int u, int symbole, int cellule) {
   PoseSolution(cellule, symbole);
-  Fait(cellule, Note({.genre = Genre::kSeule, .type = TypeDe(u)}));
+  NoteFait(cellule, NoteArgument({.genre = Genre::kSeule, .type = TypeDe(u)}));
 }
 
 // The symbol goes from the rest of the other unit.
@@ -225,11 +224,11 @@ void DeductionsSur<T, U>::Confinee(int u, const Trouvaille<Bits>& t) {
   const int symbole = Premier(t.symboles);
   Argument argument = De(Genre::kInference, u);
   argument.symbole = symbole;
-  const std::uint32_t note = Note(argument, t.lieux);
+  const std::uint32_t note = NoteArgument(argument, t.lieux);
   Chaque(t.perdants, [&](int place) {
     const int cellule = T::Cellule(t.unite, place);
     Change(T::Enleve(cellule, symbole));
-    Fait(cellule, note);
+    NoteFait(cellule, note);
   });
 }
 
@@ -238,12 +237,12 @@ template <Trouveur T, Usage U>
 void DeductionsSur<T, U>::Cachee(int u, const Trouvaille<Bits>& t) {
   Argument argument = De(Genre::kCachee, u);
   argument.fois = static_cast<std::int16_t>(t.fois);
-  const std::uint32_t note = Note(argument, t.symboles, t.lieux);
+  const std::uint32_t note = NoteArgument(argument, t.symboles, t.lieux);
   Chaque(t.perdants, [&](int place) {
     const int cellule = T::Cellule(u, place);
     const Bits exclus = T::HorsDe(cellule, t.symboles);
     T::Remplace(cellule, t.symboles);
-    Fait(cellule, note, exclus);
+    NoteFait(cellule, note, exclus);
   });
 }
 
@@ -252,11 +251,11 @@ template <Trouveur T, Usage U>
 void DeductionsSur<T, U>::Nue(int u, const Trouvaille<Bits>& t) {
   Argument argument = De(Genre::kNue, u);
   argument.symbole = t.texte;
-  const std::uint32_t note = Note(argument, t.symboles, t.lieux);
+  const std::uint32_t note = NoteArgument(argument, t.symboles, t.lieux);
   Chaque(t.perdants, [&](int place) {
     const int cellule = T::Cellule(u, place);
     Change(T::EnleveNue(cellule, t));
-    Fait(cellule, note);
+    NoteFait(cellule, note);
   });
 }
 
@@ -291,7 +290,7 @@ bool DeductionsSur<T, U>::Agit(const Figure& figure) {
   std::uint32_t note = 0;
   ChaquePerte(figure, [&](int u, const Bits& perdants) {
     if (!change) {
-      note = Note(
+      note = NoteArgument(
           {.genre = Genre::kFigure, .type = figure.type, .type2 = figure.type2, .symbole = figure.symbole},
           figure.unites, figure.cle);
     }
@@ -299,7 +298,7 @@ bool DeductionsSur<T, U>::Agit(const Figure& figure) {
     Chaque(perdants, [&](int place) {
       const int cellule = T::Cellule(u, place);
       Change(T::Enleve(cellule, figure.symbole));
-      Fait(cellule, note);
+      NoteFait(cellule, note);
     });
   });
   return change;

@@ -20,15 +20,17 @@ class Releve {
 
   bool Vide(int cellule) const { return bloc_->saisie[static_cast<std::size_t>(cellule + 1)] == kVide; }
   template <class... B>
-  std::uint32_t Note(Argument argument, const B&... masques) {
+  std::uint32_t NoteArgument(Argument argument, const B&... masques) {
     argument.masques = static_cast<std::uint32_t>(bloc_->journal.mots.size());
     (Mots(masques), ...);
     bloc_->journal.arguments.push_back(argument);
     return static_cast<std::uint32_t>(bloc_->journal.arguments.size() - 1);
   }
-  void Fait(int cellule, std::uint32_t argument) { bloc_->journal.faits.push_back({cellule + 1, argument}); }
+  void NoteFait(int cellule, std::uint32_t argument) {
+    bloc_->journal.faits.push_back({cellule + 1, argument});
+  }
   template <class B>
-  void Fait(int cellule, std::uint32_t argument, const B& exclus) {
+  void NoteFait(int cellule, std::uint32_t argument, const B& exclus) {
     const auto debut = static_cast<std::int32_t>(bloc_->journal.mots.size());
     Mots(exclus);
     bloc_->journal.faits.push_back({cellule + 1, argument, debut});
