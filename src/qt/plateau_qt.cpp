@@ -180,7 +180,7 @@ void PlateauQt::contextMenuEvent(QContextMenuEvent*) {
 
 // ---- comforts
 
-void PlateauQt::Fait(const std::function<Texte()>& acte) {
+void PlateauQt::Execute(const std::function<Texte()>& acte) {
   Texte raison;
   if (acte) pilote_.Execute([&] { raison = acte(); });
   if (!raison.empty()) Dit(VersQt(raison));
@@ -220,7 +220,7 @@ void PlateauQt::OuvrePalette() {
 }
 
 void PlateauQt::DeposeTexte(const QString& texte) {
-  Fait([&] { return fenetre_.conforts.Colle(DepuisQt(texte)); });
+  Execute([&] { return fenetre_.conforts.Colle(DepuisQt(texte)); });
 }
 
 // A grid goes to the board, any other text into the box with the focus, in place of all that it holds or of

@@ -66,7 +66,7 @@ class PlateauQt : public QAbstractScrollArea {
   void Colle(bool remplace);
   void Tape(const Texte& texte);
   // An act of the user; where nothing was done, a tool tip that goes away says why.
-  void Fait(const std::function<Texte()>& acte);
+  void Execute(const std::function<Texte()>& acte);
   void Dit(const QString& raison);
 
   void SuitFocus();

@@ -39,10 +39,10 @@ bool PlateauQt::ToucheDeConfort(const QKeyEvent& evenement) {
   const bool maj = evenement.modifiers() & Qt::ShiftModifier;
   switch (evenement.key()) {
     case Qt::Key_Y:
-      Fait(fenetre_.conforts.Retablit);
+      Execute(fenetre_.conforts.Retablit);
       return true;
     case Qt::Key_Z:
-      Fait(maj ? fenetre_.conforts.Retablit : fenetre_.conforts.Annule);
+      Execute(maj ? fenetre_.conforts.Retablit : fenetre_.conforts.Annule);
       return true;
     case Qt::Key_V:
       if (maj) DeposeTexte(QApplication::clipboard()->text());
