@@ -122,7 +122,7 @@ class DeductionsSur : public T {
   bool Agit(const Figure& figure);
   template <class F>
   void ChaquePerte(const Figure& figure, F f) const;
-  void Releve();
+  void PoseSeuls();
   void PoseSolution(int cellule, int symbole);
 
   // What a fact of unit u begins with.
@@ -152,7 +152,7 @@ typename DeductionsSur<T, U>::Suite DeductionsSur<T, U>::Candidats(Appui appui) 
   aRemplir_ = false;
   const bool complets = T::Amorce(appui);
   if (!U::kFaits && !complets) return kContradiction;
-  Releve();
+  PoseSeuls();
   return aRemplir_ ? kSolutions : kRien;
 }
 
@@ -164,7 +164,7 @@ typename DeductionsSur<T, U>::Suite DeductionsSur<T, U>::Deduit() {
     ++tours;
     const bool change = Balaye() || (!contradiction_ && !aRemplir_ && NxN());
     if (contradiction_) return kContradiction;
-    if (change) Releve();
+    if (change) PoseSeuls();
     if (aRemplir_) return kSolutions;
     if (!change) return kRien;
   }
@@ -172,7 +172,7 @@ typename DeductionsSur<T, U>::Suite DeductionsSur<T, U>::Deduit() {
 
 // Cells with one candidate have it as their solution, whatever a unit wrote before.
 template <Trouveur T, Usage U>
-void DeductionsSur<T, U>::Releve() {
+void DeductionsSur<T, U>::PoseSeuls() {
   T::ChaqueSeul([this](int cellule, int symbole) { PoseSolution(cellule, symbole); });
 }
 

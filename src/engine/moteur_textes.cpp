@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "engine/amorce.h"
+#include "engine/greffier.h"
 #include "engine/moteur.h"
-#include "engine/releve.h"
 #include "engine/trouve_textes.h"
 
 namespace sudoku {
@@ -231,7 +231,7 @@ void TrouveTextes::Ecrit() const {
 
 class MoteurTextes : public Moteur {
  public:
-  explicit MoteurTextes(int N) : S_(Geometrie(N).S()), deductions_(S_, releve_) {}
+  explicit MoteurTextes(int N) : S_(Geometrie(N).S()), deductions_(S_, greffier_) {}
 
   std::uint64_t Passes(GameState& jeu, Grille& grille, int VpPasses, bool seconde) override {
     Bloc& bloc = grille.Donnees();
@@ -244,11 +244,11 @@ class MoteurTextes : public Moteur {
   }
 
  private:
-  using Deductions = DeductionsSur<TrouveTextes, Releve>;
+  using Deductions = DeductionsSur<TrouveTextes, Greffier>;
 
   // All of a pass behind PoseContenus. True if some empty cell has a solution.
   bool Deduit(Bloc& bloc, std::int32_t mode) {
-    releve_.Commence(bloc);
+    greffier_.Commence(bloc);
     bool longs = false;
     for (std::size_t i = 1; i < bloc.possibleTexte.size(); ++i) {
       if (!bloc.alphabet->Long(bloc.possibleTexte[i])) continue;
@@ -265,7 +265,7 @@ class MoteurTextes : public Moteur {
   }
 
   int S_;
-  Releve releve_;
+  Greffier greffier_;
   Deductions deductions_;
 };
 

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "engine/amorce.h"
+#include "engine/greffier.h"
 #include "engine/moteur.h"
-#include "engine/releve.h"
 #include "engine/trouve.h"
 
 namespace sudoku::SUDOKU_MOTEUR {
@@ -62,8 +62,8 @@ class MoteurVoies : public Moteur {
   bool autres_ = false;                       // some cell holds a symbol in another case
   std::vector<Code> positions_;               // of what counts, where `autres_`
   Contenus<S> contenus_{};
-  Releve releve_;
-  Deductions<S, Releve> deductions_{contenus_, releve_};
+  Greffier greffier_;
+  Deductions<S, Greffier> deductions_{contenus_, greffier_};
 };
 
 template <int S>
@@ -211,9 +211,9 @@ void MoteurVoies<S>::Prouve(const Bloc& bloc) {
 
 template <int S>
 bool MoteurVoies<S>::Deduit(Bloc& bloc, std::int32_t mode) {
-  releve_.Commence(bloc);
+  greffier_.Commence(bloc);
   const Appui appui = VersSure(mode) ? Appui::kSur : Appui::kPossible;
-  using D = Deductions<S, Releve>;
+  using D = Deductions<S, Greffier>;
   bool aRemplir = deductions_.Candidats(appui) == D::kSolutions;
   if (!aRemplir) {
     if (mode == kSecondePasse) Prouve(bloc);

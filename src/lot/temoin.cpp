@@ -21,7 +21,7 @@ void Temoin::Examine(const Grille& VpGrille, int verdict) {
   for (int i = 1; i <= VpGrille.Borne(); ++i) ExamineSolution(i, bloc_->sure[At(i)], "SolutionSure");
   if (SecondePasse() && !saisiesJustes_) return;
   if (verdict < 0) Contredit(0, "contradiction dans une grille qui a une solution");
-  ReleveValeurs();
+  NoteValeurs();
   for (int i = 1; i <= VpGrille.Borne(); ++i) {
     ExamineSolution(i, bloc_->poss[At(i)], "SolutionPoss");
     ExamineCandidats(i);
@@ -37,7 +37,7 @@ bool Temoin::SecondePasse() const {
   return false;
 }
 
-void Temoin::ReleveValeurs() {
+void Temoin::NoteValeurs() {
   const Geometrie& geo = *bloc_->geometrie;
   for (auto& vus : vus_) vus.assign(At(geo.Cases()), 0);
   for (int i = 1; i <= geo.Cases(); ++i) {

@@ -28,7 +28,7 @@ class Temoin {
 
  private:
   bool SecondePasse() const;
-  void ReleveValeurs();
+  void NoteValeurs();
   void ExamineSolution(int cellule, Code code, const char* champ);
   void ExamineCandidats(int cellule);
   void ExamineFait(const Fait& fait);

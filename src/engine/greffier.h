@@ -9,7 +9,7 @@ namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
 // Writes the deductions of one pass into the grid's journal. See the concept Usage.
-class Releve {
+class Greffier {
  public:
   static constexpr bool kFaits = true;
 
