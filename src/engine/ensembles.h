@@ -58,8 +58,8 @@ SUDOKU_EN_LIGNE BitsDe<S> Ensembles(const MotDe<S>* p, const Voies<S>& cles, con
     // Lanes with the same count together: most are seen to be too few before any two are compared.
     alignas(64) MotDe<S> c[Taille(Largeur<S>::kVoies)];
     alignas(64) MotDe<S> n[Taille(Largeur<S>::kVoies)];
-    Range<S>(c, cles);
-    Range<S>(n, comptes);
+    Ecrit<S>(c, cles);
+    Ecrit<S>(n, comptes);
     BitsDe<S> debuts = 0;
     BitsDe<S> reste = BitsNonNulles(comptes & ~Partout<S>(1));
     while (reste != 0) {

@@ -79,7 +79,7 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::DeLignes(const V& lignes, Bits debuts, Type
   const V comptes = Comptes(lignes);
   if (debuts != 0) {
     alignas(64) Mot p[Taille(kVoies)];
-    Range<S>(p, lignes);
+    Ecrit<S>(p, lignes);
     Chaque(debuts, [&](int premiere) {
       const Bits unites = Depuis(BitsEgales(lignes, Partout<S>(p[premiere])), premiere);
       f(type, unites, type == kLigne ? kColonne : kLigne, p[premiere]);
@@ -112,7 +112,7 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::EnCarres(const V& voies, Bits debuts, TypeU
                                               F f) {
   if (debuts == 0) return;
   alignas(64) Mot cles[Taille(kVoies)];
-  Range<S>(cles, voies);
+  Ecrit<S>(cles, voies);
   Chaque(debuts, [&](int premiere) {
     const Bits unites = Depuis(BitsEgales(voies, Partout<S>(cles[premiere])), premiere);
     const int bande = static_cast<int>(cles[premiere] >> S) - 1;  // or the stack, in which the figure lies

@@ -162,15 +162,15 @@ void MoteurVoies<S>::AmorceLignes(const Code* positions) {
       contenus_.ouvertes[kLigne][S * b + k] = static_cast<Mot>(EnBits(ouvertes) & kLieux<S>.tous);
     }
     colonnes |= carres;
-    Range<S>(bande, carres);
+    Ecrit<S>(bande, carres);
     for (int pile = 0; pile < S; ++pile) {
       Mot carre = 0;
       for (int k = 0; k < S; ++k) carre |= bande[S * pile + k];
       contenus_.symboles[kCarre][S * b + pile] = carre;
     }
   }
-  Range<S>(contenus_.symboles[kColonne], colonnes);
-  Range<S>(bande, vides);
+  Ecrit<S>(contenus_.symboles[kColonne], colonnes);
+  Ecrit<S>(bande, vides);
   std::copy_n(bande, N, contenus_.ouvertes[kColonne]);
 }
 
@@ -180,7 +180,7 @@ void MoteurVoies<S>::AmorceUnites() {
   for (int type = 0; type < 3; ++type) {
     V unites = ~Etale<S>(kLieux<S>.tous);
     for (int u = 0; u < N; ++u) unites |= Etale<S>(contenus_.symboles[type][u]) & Partout<S>(Bits{1} << u);
-    Range<S>(contenus_.unites[type], unites);
+    Ecrit<S>(contenus_.unites[type], unites);
   }
   for (int c = 0; c < N; ++c) {
     Bits ouvertes = 0;

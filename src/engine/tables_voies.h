@@ -11,7 +11,7 @@ namespace {
 template <int S>
 SUDOKU_EN_LIGNE auto Laisse(const Voies<S>& prises, const MotDe<S>* symboles, int n,
                             const Voies<S, 1>& ouvertes) {
-  return [&prises, &ouvertes, laissent = kTousDe<S> & ~Lu<S>(symboles, n)](int i) SUDOKU_LAMBDA_EN_LIGNE {
+  return [&prises, &ouvertes, laissent = kTousDe<S> & ~Voie<S>(symboles, n)](int i) SUDOKU_LAMBDA_EN_LIGNE {
     return ~prises.r[i] & Partout<S>(laissent, i) & ouvertes.r[i % Voies<S, 1>::kTous];
   };
 }
@@ -24,7 +24,7 @@ SUDOKU_EN_LIGNE void ChaqueLigne(const Contenus<S>& contenus, F f) {
   ChaqueConstante<S>([&](auto bande) {
     const Voies<S> prises = Etire<S, S, 1>(contenus.symboles[kCarre], bande) | colonnes;
     for (int l = bande * S; l < (bande + 1) * S; ++l) {
-      const Voies<S, 1> ouvertes = Etale<S>(Lu<S>(contenus.ouvertes[kLigne], l));
+      const Voies<S, 1> ouvertes = Etale<S>(Voie<S>(contenus.ouvertes[kLigne], l));
       f(l, Laisse<S>(prises, contenus.symboles[kLigne], l, ouvertes), ouvertes);
     }
   });
@@ -37,7 +37,7 @@ SUDOKU_EN_LIGNE void ChaqueColonne(const Contenus<S>& contenus, F f) {
   ChaqueConstante<S>([&](auto pile) {
     const Voies<S> prises = Etire<S, 1, S>(contenus.symboles[kCarre], pile) | lignes;
     for (int c = pile * S; c < (pile + 1) * S; ++c) {
-      const Voies<S, 1> ouvertes = Etale<S>(Lu<S>(contenus.ouvertes[kColonne], c));
+      const Voies<S, 1> ouvertes = Etale<S>(Voie<S>(contenus.ouvertes[kColonne], c));
       f(c, Laisse<S>(prises, contenus.symboles[kColonne], c, ouvertes));
     }
   });
@@ -65,7 +65,7 @@ SUDOKU_EN_LIGNE void ChaquePlaces(const Contenus<S>& contenus, F f) {
   const Voies<S> carres = Lit<S>(contenus.unites[kCarre]);
   const auto une = [&](int type, int numero, const Voies<S>& de, const Voies<S>& prises) {
     const Voies<S, 1> avec = Avec<S>(de, numero);
-    const BitsDe<S> ouvertes = Lu<S>(contenus.ouvertes[type], numero);
+    const BitsDe<S> ouvertes = Voie<S>(contenus.ouvertes[type], numero);
     f(Unite(type, numero), [&](int i) SUDOKU_LAMBDA_EN_LIGNE {
       return Partout<S>(ouvertes, i) & ~(prises.r[i] | avec.r[i % Voies<S, 1>::kTous]);
     });

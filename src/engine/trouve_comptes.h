@@ -17,7 +17,7 @@ class TrouveComptes : public Suivi<S>, public TrouveMasques<TrouveComptes<S>, Bi
   using Bits = BitsDe<S>;
   using Suivi<S>::Suivi;
 
-  Bits CandidatsDe(int cellule) const { return Lu<S>(candidats_[cellule / kN], cellule % kN); }
+  Bits CandidatsDe(int cellule) const { return Voie<S>(candidats_[cellule / kN], cellule % kN); }
   // The candidates of the cells of a row, word by word.
   const MotDe<S>* CandidatsDeLigne(int ligne) const { return candidats_[ligne]; }
 
@@ -27,7 +27,7 @@ class TrouveComptes : public Suivi<S>, public TrouveMasques<TrouveComptes<S>, Bi
   template <class F>
   void ChaqueSeul(F f);
 
-  Bits Places(int u, int symbole) const { return Lu<S>(places_[u], symbole); }
+  Bits Places(int u, int symbole) const { return Voie<S>(places_[u], symbole); }
   Bits HorsDe(int cellule, const Bits& symboles) const { return CandidatsDe(cellule) & ~symboles; }
   bool Enleve(int cellule, int symbole) { return EnleveTous(cellule, Bit<Bits>(symbole)); }
   bool EnleveNue(int cellule, const Trouvaille<Bits>& t) {
@@ -78,7 +78,7 @@ bool TrouveComptes<S>::Amorce(Appui appui) {
     Octets<Bits>& comptes = comptes_[Unite(kLigne, l)];
     Compte(candidats_[l], comptes);
     this->NoteSeuls(l, Entre(comptes, 1, 1));
-    complets &= Nombre(Entre(comptes, 1, kN)) == Nombre(Lu<S>(this->contenus_.ouvertes[kLigne], l));
+    complets &= Nombre(Entre(comptes, 1, kN)) == Nombre(Voie<S>(this->contenus_.ouvertes[kLigne], l));
   });
   return complets;
 }

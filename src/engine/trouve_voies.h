@@ -93,7 +93,7 @@ bool TrouveVoies<S>::Amorce(Appui appui) {
   V nuls{};
   ChaqueLigne<S>(contenus_, [&](int l, const auto& candidats, const V& ouvertes) SUDOKU_LAMBDA_EN_LIGNE {
     const V c = V::De(candidats);
-    Range<S>(candidats_[Unite(kLigne, l)], c);
+    Ecrit<S>(candidats_[Unite(kLigne, l)], c);
     nuls |= Nulles(c) & ouvertes;
     Base::NoteSeuls(l, EnBits(Seules(c)));
   });
@@ -108,7 +108,7 @@ void TrouveVoies<S>::Retourne() {
   });
   for (int b = 0; b < N; ++b) {
     Mot* const carre = candidats_[Unite(kCarre, b)];
-    Range<S>(carre, V{});
+    Ecrit<S>(carre, V{});
     for (int l = 0; l < S; ++l) {
       std::memcpy(carre + S * l, candidats_[Unite(kLigne, b / S * S + l)] + b % S * S, S * sizeof(Mot));
     }
@@ -125,8 +125,8 @@ SUDOKU_EN_LIGNE typename TrouveVoies<S>::EtatUnite TrouveVoies<S>::Reste(int u) 
   e.places = Lit<S>(places_[u]);
   e.copiees = prouves_[u] != 0;
   if (e.copiees) {
-    Range<S>(e.copie, e.places);
-    Range<S>(e.copie + kVoies, V{});
+    Ecrit<S>(e.copie, e.places);
+    Ecrit<S>(e.copie + kVoies, V{});
     Chaque(prouves_[u], [&](int s) { e.copie[s] = 0; });
     e.places = Lit<S>(e.copie);
   }
@@ -165,7 +165,7 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueConfinee(int u, const EtatUnite& e, F
     const Bits symboles = BitsNonNulles(perdants[k]);
     if (symboles == 0) continue;
     alignas(64) Mot p[Taille(kVoies)];
-    Range<S>(p, perdants[k]);
+    Ecrit<S>(p, perdants[k]);
     Chaque(symboles, [&](int s) {
       f({.symboles = UnBit(s), .lieux = places_[u][s], .perdants = p[s], .unite = croisements.un[k].unite});
     });
@@ -178,7 +178,7 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueCachee(int u, const EtatUnite& e, F f
   const Bits debuts = Ensembles<S>(e.copiees ? e.copie : places_[u], e.places, e.comptes);
   if (debuts == 0) return;
   alignas(64) Mot places[Taille(kVoies)];
-  Range<S>(places, e.places);
+  Ecrit<S>(places, e.places);
   Chaque(debuts, [&](int premier) {
     const Bits lieux = places[premier];
     const Bits sequence = Depuis(BitsEgales(Lit<S>(places), Partout<S>(lieux)), premier);

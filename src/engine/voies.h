@@ -133,7 +133,7 @@ SUDOKU_EN_LIGNE void RangeChaque(MotDe<S>* p, F f) {
   });
 }
 template <int S>
-SUDOKU_EN_LIGNE void Range(MotDe<S>* p, const Voies<S>& v) {
+SUDOKU_EN_LIGNE void Ecrit(MotDe<S>* p, const Voies<S>& v) {
   RangeChaque<S>(p, [&](int i) { return v.r[i]; });
 }
 // The register i of lanes that all hold n.
@@ -321,7 +321,7 @@ operator&(const Voies<S>& v, const Voies<S, 1>& masque) {
 
 // Lane number i of those that begin here.
 template <int S>
-SUDOKU_EN_LIGNE BitsDe<S> Lu(const MotDe<S>* p, int i) {
+SUDOKU_EN_LIGNE BitsDe<S> Voie(const MotDe<S>* p, int i) {
   if constexpr (Largeur<S>::kMots == 1) {
     return p[i];
   } else {
@@ -403,7 +403,7 @@ SUDOKU_EN_LIGNE Voies<S> Descend(const Voies<S>& v) {
         v, [](int i) { return i + d < 9 ? i + d : 15; }, std::make_integer_sequence<int, 16>());
   } else {
     alignas(64) MotDe<S> suite[Taille(Largeur<S>::kVoies + d)] = {};
-    Range<S>(suite, v);
+    Ecrit<S>(suite, v);
     return Lit<S>(suite + d);
   }
 }
