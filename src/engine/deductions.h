@@ -35,7 +35,7 @@ concept Trouveur = requires(T t, typename T::Bits bits, Appui appui, Trouvaille<
   // The candidates that the contents leave; false where a cell has none. Then Deduit's tables, with all units
   // and symbols to be looked at.
   { t.Amorce(appui) } -> std::same_as<bool>;
-  t.Retourne();
+  t.Transpose();
   // The next unit from number n on that has changed since it was looked at, and takes it as looked at; -1.
   { t.UniteSale(0) } -> std::same_as<int>;
   // What is left to place in a unit. Symbols that have one place there: f(symbol, place).
@@ -158,7 +158,7 @@ typename DeductionsSur<T, U>::Suite DeductionsSur<T, U>::Candidats(Appui appui) 
 
 template <Trouveur T, Usage U>
 typename DeductionsSur<T, U>::Suite DeductionsSur<T, U>::Deduit() {
-  T::Retourne();
+  T::Transpose();
   contradiction_ = false;
   for (;;) {
     ++tours;

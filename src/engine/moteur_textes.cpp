@@ -78,7 +78,7 @@ Texte TrouveTextes::Possible(int cellule) const {
   return bloc_->alphabet->TexteDe(bloc_->possibleTexte[Rang(cellule + 1)]);
 }
 
-void TrouveTextes::Retourne() {
+void TrouveTextes::Transpose() {
   places_.assign(Rang(3 * N() * N()), M{});
   for (int i = 0; i < N() * N(); ++i) NotePlaces(i);
 }

@@ -22,7 +22,7 @@ class TrouveComptes : public Suivi<S>, public TrouveMasques<TrouveComptes<S>, Bi
   const MotDe<S>* CandidatsDeLigne(int ligne) const { return candidats_[ligne]; }
 
   bool Amorce(Appui appui);
-  void Retourne();
+  void Transpose();
   Bits Reste(int u) const { return kTousDe<S> & ~this->prouves_[u]; }
   template <class F>
   void ChaqueSeul(F f);
@@ -94,7 +94,7 @@ void TrouveComptes<S>::Compte(const Mot* masques, Octets<Bits>& comptes) {
 }
 
 template <int S>
-void TrouveComptes<S>::Retourne() {
+void TrouveComptes<S>::Transpose() {
   for (int l = 0; l < kN; ++l) {
     for (int pile = 0; pile < S; ++pile)
       std::copy_n(comptes_[Unite(kLigne, l)].n + S * pile, S,

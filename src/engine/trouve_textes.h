@@ -24,7 +24,7 @@ class TrouveTextes : public TrouveMasques<TrouveTextes, Masque<4>> {
   void Ecrit() const;
 
   bool Amorce(Appui appui);
-  void Retourne();
+  void Transpose();
   int UniteSale(int depuis) const { return depuis < 3 * N() ? depuis : -1; }
   M Reste(int u) const;
   template <class F>

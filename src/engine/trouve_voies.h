@@ -36,7 +36,7 @@ class TrouveVoies : public Suivi<S> {
   };
 
   bool Amorce(Appui appui);
-  void Retourne();
+  void Transpose();
   EtatUnite Reste(int u) const;
   template <class F>
   void ChaqueSeule(int u, const EtatUnite& e, F f) const;
@@ -102,7 +102,7 @@ bool TrouveVoies<S>::Amorce(Appui appui) {
 
 // The rest of the tables, from the contents and the candidates by row.
 template <int S>
-void TrouveVoies<S>::Retourne() {
+void TrouveVoies<S>::Transpose() {
   ChaqueColonne<S>(contenus_, [&](int c, const auto& colonne) SUDOKU_LAMBDA_EN_LIGNE {
     RangeChaque<S>(candidats_[Unite(kColonne, c)], colonne);
   });
