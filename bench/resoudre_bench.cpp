@@ -73,7 +73,7 @@ void Resoudre(benchmark::State& state, const Texte& symboles, const std::vector<
   lot::Reponse reponse;
   for (auto _ : state) {
     for (const std::string& grille : grilles) {
-      reponse.Vide();
+      reponse.Efface();
       ouvrier->Traite(grille, reponse);
       benchmark::DoNotOptimize(reponse.sortie.data());
     }

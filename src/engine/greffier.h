@@ -15,7 +15,7 @@ class Greffier {
 
   void Commence(Bloc& bloc) {
     bloc_ = &bloc;
-    bloc.journal.Vide();
+    bloc.journal.Efface();
   }
 
   bool Vide(int cellule) const { return bloc_->saisie[static_cast<std::size_t>(cellule + 1)] == kVide; }

@@ -42,7 +42,7 @@ struct Journal {
   std::vector<Fait> faits;
   std::vector<std::uint64_t> mots;
 
-  void Vide() {
+  void Efface() {
     arguments.clear();
     faits.clear();
     mots.clear();

@@ -23,7 +23,7 @@ struct Reponse {
   // Comes in: gives out what `sortie` holds and empties it, once all lines before this one are out.
   std::function<void(Reponse&)> coule;
 
-  void Vide() {
+  void Efface() {
     sortie.clear();
     erreur.clear();
     alerte.clear();
@@ -52,7 +52,7 @@ struct Poste {
   std::atomic<bool> fini{false};
 
   void Occupe(Ouvrier& ouvrier) {
-    reponse.Vide();
+    reponse.Efface();
     if (faute.empty()) ouvrier.Traite(champ, reponse);
   }
 };

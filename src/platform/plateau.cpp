@@ -2,7 +2,7 @@
 
 namespace sudoku {
 
-void Plateau::Vide() {
+void Plateau::Efface() {
   TxtCase_.resize(1);
   Box_.resize(1);
   OublieChangees();

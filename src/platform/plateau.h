@@ -64,7 +64,7 @@ class Plateau {
   const CadreCarre& Box(int b) const { return Box_[static_cast<std::size_t>(b)]; }
 
   // Takes all boxes and frames above 0 away; the focus is nowhere.
-  void Vide();
+  void Efface();
   // Makes the next box from the template, there and visible.
   void AjouteCase(Twips Left, Twips Top);
   // Makes the next frame, visible.

@@ -106,7 +106,7 @@ Twips BoardDisplay::GetPos(int VpPos, int VpAxe) const {
 
 void BoardDisplay::MetEnPlace() {
   const Geometrie& geometrie = *jeu_.VmGrille.Donnees().geometrie;
-  plateau_.Vide();
+  plateau_.Efface();
   for (int i = 1; i <= geometrie.Cases(); ++i) plateau_.AjouteCase(GetPos(i, 0), GetPos(i, 1));
   for (int b = 1; b <= geometrie.N(); ++b) {
     const auto serie = geometrie.Serie(kCarre, b);

@@ -64,7 +64,7 @@ Travail& AutoDriver::TravailPour(const Grille& grille) {
 // N*N * (1 + C). What the levels have refuted, the outer ones counting before the inner ones, only ever
 // grows.
 std::int16_t AutoDriver::Cherche(Travail& travail, bool VpGuess) {
-  VlSupp_.Vide();
+  VlSupp_.Efface();
   rejouee_ = true;
   tours_ = 0;
   for (bool base = false;; base = true) {

@@ -7,7 +7,7 @@
 namespace sudoku {
 
 template <int S>
-void Cases<S>::Vide() {
+void Cases<S>::Efface() {
   *this = Cases{};
   for (int g = 0; g < 3; ++g) {
     std::fill_n(this->unites[g] + N, Contenus<S>::kVoies - N, static_cast<Mot>(~Mot{0}));

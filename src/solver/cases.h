@@ -16,7 +16,7 @@ struct Cases : Contenus<S> {
   std::uint16_t remplies;              // cells that aren't open
 
   // All cells are open.
-  void Vide();
+  void Efface();
   // The cell, an open one, holds the symbol.
   void Pose(int cellule, int symbole);
 };

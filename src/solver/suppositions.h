@@ -25,7 +25,7 @@ struct TSupposition {
 // The open levels of one run, their Index ascending, and the count of what closed levels refuted.
 class Suppositions {
  public:
-  void Vide() {
+  void Efface() {
     ouverts_ = 0;
     refuteesFermees_ = 0;
   }

@@ -65,7 +65,7 @@ template <int S>
 void TravailVoies<S>::Commence(const Grille& grille) {
   grille_ = grille;
   auGeneral_ = detachee_ = montree_ = base_ = false;
-  cases_.Vide();
+  cases_.Efface();
   const Bloc& bloc = grille.Donnees();
   for (int i = 1; i <= kCases; ++i) {
     if (bloc.saisie[At(i)] != kVide) cases_.Pose(i - 1, bloc.alphabet->Position(bloc.saisie[At(i)]));

@@ -56,7 +56,7 @@ TEST_F(PlateauTest, UnPlateauRefaitNeGardeNiFocusNiListe) {
   plateau_.SetFocus(4);
   plateau_.Text(4, U"1");
   const std::uint32_t avant = plateau_.Constructions();
-  plateau_.Vide();
+  plateau_.Efface();
   plateau_.AjouteCase(240, 600);
   EXPECT_GT(plateau_.Constructions(), avant);
   EXPECT_EQ(plateau_.Cases(), 1);

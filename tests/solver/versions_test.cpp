@@ -23,7 +23,7 @@ template <int S>
 Cases<S> Alea(std::mt19937& suite, std::uint_fast32_t remplissage, std::uint_fast32_t erreurs) {
   constexpr int N = S * S;
   Cases<S> cases;
-  cases.Vide();
+  cases.Efface();
   for (int i = 0; i < N * N; ++i) {
     if (suite() % 100 >= remplissage) continue;
     const bool fausse = suite() % 1000 < erreurs;
