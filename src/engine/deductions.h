@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "engine/parties.h"
+#include "engine/parts.h"
 #include "grid/faits.h"
 
 // The deductions: their order, what each does to cells, and the fact that it records. What there is to deduce
@@ -54,7 +54,7 @@ concept Trouveur = requires(T t, typename T::Bits bits, Appui appui, Trouvaille<
   { t.Places(0, 0) } -> std::convertible_to<typename T::Bits>;     // of a symbol in a unit
   { t.Cellule(0, 0) } -> std::same_as<int>;                        // at a place of a unit
   { t.HorsDe(0, bits) } -> std::convertible_to<typename T::Bits>;  // candidates of a cell outside a set
-  { t.Dedans(figure) } -> std::convertible_to<typename T::Bits>;   // see Parties
+  { t.Dedans(figure) } -> std::convertible_to<typename T::Bits>;   // see Parts
 
   // Takes a symbol, or what a cell has of a naked set, from a cell; false where nothing is left to it.
   { t.Enleve(0, 0) } -> std::same_as<bool>;

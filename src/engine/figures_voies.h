@@ -46,10 +46,10 @@ constexpr FinsDeCles<S> kFinsDeCles;
 // The keys of units seen through blocks, or of blocks seen through lines: which of S units side by side, and
 // behind these bits which S.
 template <int S>
-SUDOKU_EN_LIGNE Voies<S> Cles(const Voies<S>& places, const BitsDe<S>* parties, const MotDe<S>* fins) {
+SUDOKU_EN_LIGNE Voies<S> Cles(const Voies<S>& places, const BitsDe<S>* parts, const MotDe<S>* fins) {
   Voies<S> cle = Lit<S>(fins);
   for (int k = 0; k < S; ++k) {
-    cle |= NonNulles(places & Partout<S>(parties[k])) & Partout<S>(BitsDe<S>{1} << k);
+    cle |= NonNulles(places & Partout<S>(parts[k])) & Partout<S>(BitsDe<S>{1} << k);
   }
   return cle;
 }

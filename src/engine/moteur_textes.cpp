@@ -40,7 +40,7 @@ bool TrouveTextes::Amorce(Appui appui) {
 Masque<4> TrouveTextes::ListePossibles(int cellule) const {
   M liste = Premiers<M>(N());
   for (const int type : {kCarre, kLigne, kColonne}) {
-    const int u = parties_.UniteDe(type, cellule);
+    const int u = parts_.UniteDe(type, cellule);
     for (int place = 0; place < N(); ++place) {
       const int autre = Cellule(u, place);
       if (!ouverte_[Rang(autre)]) liste = Sans(liste, bloc_->saisie[Rang(autre + 1)]);
@@ -86,8 +86,8 @@ void TrouveTextes::Transpose() {
 // The cell is a place of its candidates and of no other symbols.
 void TrouveTextes::NotePlaces(int cellule) {
   for (int type = 0; type < 3; ++type) {
-    const int u = parties_.UniteDe(type, cellule);
-    const M place = Bit<M>(parties_.PlaceDe(type, cellule));
+    const int u = parts_.UniteDe(type, cellule);
+    const M place = Bit<M>(parts_.PlaceDe(type, cellule));
     Chaque(premieres_, [&](int s) {
       M& places = places_[Rang(u * N() + s)];
       const bool la = !Vide(candidats_[Rang(cellule)] & classe_[Rang(s)]);

@@ -14,21 +14,21 @@ SUDOKU_EN_LIGNE int UniteDe(int type, int cellule) {
   if constexpr (Largeur<S>::kMots == 1)
     return kLieux<S>.lieux[cellule].unite[type];
   else
-    return kParties<S>.UniteDe(type, cellule);
+    return kParts<S>.UniteDe(type, cellule);
 }
 template <int S>
 SUDOKU_EN_LIGNE int PlaceDe(int type, int cellule) {
   if constexpr (Largeur<S>::kMots == 1)
     return kLieux<S>.lieux[cellule].place[type];
   else
-    return kParties<S>.PlaceDe(type, cellule);
+    return kParts<S>.PlaceDe(type, cellule);
 }
 template <int S>
 SUDOKU_EN_LIGNE int CelluleDe(int u, int place) {
   if constexpr (Largeur<S>::kMots == 1)
     return kLieux<S>.cellules[u][place];
   else
-    return kParties<S>.Cellule(u, place);
+    return kParts<S>.Cellule(u, place);
 }
 
 // What is known of cells and units beside the tables in which deductions are found: solutions, and what has
@@ -61,7 +61,7 @@ class Suivi {
   }
   void PoseSolution(int cellule, int symbole);
   static int Cellule(int u, int place) { return CelluleDe<S>(u, place); }
-  static Bits Dedans(const FigureDe<Bits>& figure) { return kParties<S>.Dedans(figure); }
+  static Bits Dedans(const FigureDe<Bits>& figure) { return kParts<S>.Dedans(figure); }
 
  protected:
   static constexpr int N = S * S;

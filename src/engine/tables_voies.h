@@ -45,12 +45,11 @@ SUDOKU_EN_LIGNE void ChaqueColonne(const Contenus<S>& contenus, F f) {
 
 // The parts k of a unit for which the units `de` hold number premiere + k * pas, a lane a symbol.
 template <int S>
-SUDOKU_EN_LIGNE Voies<S> Etend(const BitsDe<S>* parties, const Voies<S>& de, int premiere, int pas) {
+SUDOKU_EN_LIGNE Voies<S> Etend(const BitsDe<S>* parts, const Voies<S>& de, int premiere, int pas) {
   Voies<S> etendues{};
   for (int k = 0; k < S; ++k) {
     const Voies<S, 1> la = Avec<S>(de, premiere + k * pas);
-    Voies<S>::Chaque(
-        [&](int i) { etendues.r[i] |= la.r[i % Voies<S, 1>::kTous] & Partout<S>(parties[k], i); });
+    Voies<S>::Chaque([&](int i) { etendues.r[i] |= la.r[i % Voies<S, 1>::kTous] & Partout<S>(parts[k], i); });
   }
   return etendues;
 }
@@ -59,7 +58,7 @@ SUDOKU_EN_LIGNE Voies<S> Etend(const BitsDe<S>* parties, const Voies<S>& de, int
 // unit are its open cells but for those in units that have the symbol.
 template <int S, class F>
 SUDOKU_EN_LIGNE void ChaquePlaces(const Contenus<S>& contenus, F f) {
-  const auto& parties = kParties<S>;
+  const auto& parts = kParts<S>;
   const Voies<S> lignes = Lit<S>(contenus.unites[kLigne]);
   const Voies<S> colonnes = Lit<S>(contenus.unites[kColonne]);
   const Voies<S> carres = Lit<S>(contenus.unites[kCarre]);
@@ -71,11 +70,11 @@ SUDOKU_EN_LIGNE void ChaquePlaces(const Contenus<S>& contenus, F f) {
     });
   };
   Voies<S> colonnesDuCarre[Taille(S)];
-  for (int g = 0; g < S; ++g) colonnesDuCarre[g] = Etend<S>(parties.residu, colonnes, S * g, 1);
+  for (int g = 0; g < S; ++g) colonnesDuCarre[g] = Etend<S>(parts.residu, colonnes, S * g, 1);
   for (int g = 0; g < S; ++g) {
-    const Voies<S> prisesLigne = Etend<S>(parties.groupe, carres, S * g, 1) | colonnes;
-    const Voies<S> prisesColonne = Etend<S>(parties.groupe, carres, g, S) | lignes;
-    const Voies<S> prisesCarre = Etend<S>(parties.groupe, lignes, S * g, 1);
+    const Voies<S> prisesLigne = Etend<S>(parts.groupe, carres, S * g, 1) | colonnes;
+    const Voies<S> prisesColonne = Etend<S>(parts.groupe, carres, g, S) | lignes;
+    const Voies<S> prisesCarre = Etend<S>(parts.groupe, lignes, S * g, 1);
     for (int k = 0; k < S; ++k) {
       une(kLigne, S * g + k, lignes, prisesLigne);
       une(kColonne, S * g + k, colonnes, prisesColonne);

@@ -37,7 +37,7 @@ class TrouveComptes : public Suivi<S>, public TrouveMasques<TrouveComptes<S>, Bi
 
   static constexpr bool kDifferents = true;
   static int N() { return kN; }
-  static const Parties<Bits>& DesParties() { return kParties<S>; }
+  static const Parts<Bits>& DesParts() { return kParts<S>; }
   const Octets<Bits>& NombresDePlaces(int u) const { return nombres_[u]; }
   const Octets<Bits>& NombresDuSymbole(int type, int s) const { return parSymbole_[type][s]; }
   bool Nue(int u, int depuis, Trouvaille<Bits>& t);

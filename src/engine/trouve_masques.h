@@ -12,7 +12,7 @@ namespace {
 
 // Finds deductions one mask after the other, by how many numbers the masks have: what counts can't tell apart
 // is compared. The part of a Trouveur that goes with tables of any kind; these are Dos's:
-//   N(), DesParties()             the size of the board, and its Parties
+//   N(), DesParts()             the size of the board, and its Parts
 //   Places(u, s)                  of a symbol in a unit, and NombresDePlaces(u) how many, by symbol
 //   NombresDuSymbole(type, s)     the same for the units of a kind, by number - 1
 //   Perdants(u, s, sauf)          places of unit u, but for `sauf`, that can lose the symbol
@@ -171,10 +171,10 @@ void TrouveMasques<Dos, B>::ChaqueVoisinage(const Octets<B>& nombres, const B& p
 template <class Dos, class B>
 template <class F>
 void TrouveMasques<Dos, B>::ChaqueConfinee(int u, const B& reste, F f) {
-  const auto& parties = dos().DesParties();
-  Chaque(Entre(dos().NombresDePlaces(u), 2, parties.S) & reste, [&](int s) {
+  const auto& parts = dos().DesParts();
+  Chaque(Entre(dos().NombresDePlaces(u), 2, parts.S) & reste, [&](int s) {
     const B lieux = dos().Places(u, s);
-    const auto commune = parties.UniteCommune(u, lieux);
+    const auto commune = parts.UniteCommune(u, lieux);
     if (commune.unite < 0) return;
     const B perdants = dos().Perdants(commune.unite, s, commune.places);
     if (Vide(perdants)) return;
@@ -237,14 +237,14 @@ void TrouveMasques<Dos, B>::EntreLignes(int s, TypeUnite type, F f) {
 template <class Dos, class B>
 template <class F>
 void TrouveMasques<Dos, B>::AvecCarres(int s, TypeUnite type, TypeUnite type2, F f) {
-  const auto& parties = dos().DesParties();
-  const int S = parties.S;
+  const auto& parts = dos().DesParts();
+  const int S = parts.S;
   const Octets<B>& nombres = dos().NombresDuSymbole(type, s);
   const bool piles = type == kCarre && type2 == kColonne;
   const int maximum = type2 == kCarre ? S - 1 : dos().N() - 1;
-  const auto cle = [&](int v) { return parties.Cle(Unite(type, v), type2, dos().Places(Unite(type, v), s)); };
+  const auto cle = [&](int v) { return parts.Cle(Unite(type, v), type2, dos().Places(Unite(type, v), s)); };
   Chaque(Entre(nombres, 2, type2 == kCarre ? S - 1 : S), [&](int premiere) {
-    const B& voisines = piles ? parties.residu[premiere % S] : parties.groupe[premiere / S];
+    const B& voisines = piles ? parts.residu[premiere % S] : parts.groupe[premiere / S];
     const B possibles = Depuis(voisines & Entre(nombres, 1, maximum), premiere);
     const int n = nombres.n[premiere];
     if (Nombre(possibles) < n) return;

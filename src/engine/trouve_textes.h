@@ -15,7 +15,7 @@ class TrouveTextes : public TrouveMasques<TrouveTextes, Masque<4>> {
  public:
   using M = Masque<4>;
 
-  explicit TrouveTextes(int S) : parties_(S) {}
+  explicit TrouveTextes(int S) : parts_(S) {}
 
   // The grid that follows.
   void Adopte(Bloc& bloc, bool longs);
@@ -31,17 +31,17 @@ class TrouveTextes : public TrouveMasques<TrouveTextes, Masque<4>> {
   void ChaqueSeul(F f);
 
   M Places(int u, int symbole) const { return places_[Rang(u * N() + Premiere(symbole))]; }
-  int Cellule(int u, int place) const { return parties_.Cellule(u, place); }
+  int Cellule(int u, int place) const { return parts_.Cellule(u, place); }
   M HorsDe(int cellule, const M& symboles) const;
-  M Dedans(const FigureDe<M>& figure) const { return parties_.Dedans(figure); }
+  M Dedans(const FigureDe<M>& figure) const { return parts_.Dedans(figure); }
   bool Enleve(int cellule, int symbole);
   bool EnleveNue(int cellule, const Trouvaille<M>& t);
   void Remplace(int cellule, const M& sequence);
   void PoseSolution(int cellule, int symbole) { Solutions()[Rang(cellule + 1)] = symbole; }
 
   static constexpr bool kDifferents = false;
-  int N() const { return parties_.S * parties_.S; }
-  const Parties<M>& DesParties() const { return parties_; }
+  int N() const { return parts_.S * parts_.S; }
+  const Parts<M>& DesParts() const { return parts_; }
   const Octets<M>& NombresDePlaces(int u);
   const Octets<M>& NombresDuSymbole(int type, int s);
   bool Nue(int u, int depuis, Trouvaille<M>& t);
@@ -62,7 +62,7 @@ class TrouveTextes : public TrouveMasques<TrouveTextes, Masque<4>> {
   bool EnleveTexte(int cellule, TexteVue symboles);
   void NotePlaces(int cellule);
 
-  Parties<M> parties_;
+  Parts<M> parts_;
   Bloc* bloc_ = nullptr;
   bool longs_ = false;  // some content that counts has several characters
   Appui appui_ = Appui::kSur;

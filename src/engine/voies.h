@@ -8,7 +8,7 @@
 
 #include "engine/bits.h"
 #include "engine/contenus.h"
-#include "engine/parties.h"
+#include "engine/parts.h"
 
 #if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512BITALG__) && \
     defined(__AVX512VPOPCNTDQ__)
@@ -37,7 +37,7 @@ template <int S>
 using BitsDe =
     std::conditional_t<Largeur<S>::kMots == 1, typename Largeur<S>::Bits, Masque<Largeur<S>::kMots>>;
 template <int S>
-inline constexpr Parties<BitsDe<S>> kParties{S};
+inline constexpr Parts<BitsDe<S>> kParts{S};
 // All symbols, places, units of a kind.
 template <int S>
 inline constexpr BitsDe<S> kTousDe = Premiers<BitsDe<S>>(S* S);

@@ -25,12 +25,12 @@ struct FigureDe {
 };
 
 template <class Bits>
-struct Parties {
+struct Parts {
   int S;
   Bits groupe[13] = {};  // places in a row of a block, of a line
   Bits residu[13] = {};  // places in a column of a block
 
-  constexpr explicit Parties(int s) : S(s) {
+  constexpr explicit Parts(int s) : S(s) {
     for (int i = 0; i < S * S; ++i) {
       groupe[i / S] |= Bit<Bits>(i);
       residu[i % S] |= Bit<Bits>(i);
