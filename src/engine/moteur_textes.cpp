@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "engine/amorce.h"
 #include "engine/greffier.h"
 #include "engine/moteur.h"
+#include "engine/passes.h"
 #include "engine/trouve_textes.h"
 
 namespace sudoku {

@@ -4,9 +4,9 @@
 #include <memory>
 #include <vector>
 
-#include "engine/amorce.h"
 #include "engine/greffier.h"
 #include "engine/moteur.h"
+#include "engine/passes.h"
 #include "engine/trouve.h"
 
 namespace sudoku::SUDOKU_MOTEUR {
