@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/voies.h"
+#include "engine/bits_voies.h"
 
 // The search for sets: as many equal lanes as each of them holds numbers.
 namespace sudoku::SUDOKU_MOTEUR {

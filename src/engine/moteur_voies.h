@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "engine/bits_voies.h"
 #include "engine/greffier.h"
 #include "engine/moteur.h"
 #include "engine/passes.h"

@@ -12,7 +12,7 @@ namespace {
 
 // Finds deductions one mask after the other, by how many numbers the masks have: what counts can't tell apart
 // is compared. The part of a Trouveur that goes with tables of any kind; these are Dos's:
-//   N(), DesParts()             the size of the board, and its Parts
+//   N(), DesParts()               the size of the board, and its Parts
 //   Places(u, s)                  of a symbol in a unit, and NombresDePlaces(u) how many, by symbol
 //   NombresDuSymbole(type, s)     the same for the units of a kind, by number - 1
 //   Perdants(u, s, sauf)          places of unit u, but for `sauf`, that can lose the symbol

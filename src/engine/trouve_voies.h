@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "engine/bits_voies.h"
 #include "engine/deductions.h"
 #include "engine/ensembles.h"
 #include "engine/suivi.h"
