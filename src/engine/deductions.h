@@ -114,12 +114,12 @@ class DeductionsSur : public T {
   bool TestSerie(int u);
   bool NxN();
   // What is done with a find. Finds are rare: the search for them keeps its registers without these in it.
-  [[gnu::noinline]] void Seule(int u, int symbole, int cellule);
-  [[gnu::noinline]] void Confinee(int u, const Trouvaille<Bits>& t);
-  [[gnu::noinline]] void Cachee(int u, const Trouvaille<Bits>& t);
-  [[gnu::noinline]] void Nue(int u, const Trouvaille<Bits>& t);
-  [[gnu::noinline]] bool Trouve(const Figure& figure);
-  bool Agit(const Figure& figure);
+  [[gnu::noinline]] void PoseSeule(int u, int symbole, int cellule);
+  [[gnu::noinline]] void RetireConfinee(int u, const Trouvaille<Bits>& t);
+  [[gnu::noinline]] void GardeCachee(int u, const Trouvaille<Bits>& t);
+  [[gnu::noinline]] void RetireNue(int u, const Trouvaille<Bits>& t);
+  [[gnu::noinline]] bool Retient(const Figure& figure);
+  bool RetireFigure(const Figure& figure);
   template <class F>
   void ChaquePerte(const Figure& figure, F f) const;
   void PoseSeuls();
@@ -196,31 +196,31 @@ template <Trouveur T, Usage U>
 bool DeductionsSur<T, U>::TestSerie(int u) {
   bool change = false;
   const auto reste = T::Reste(u);
-  T::ChaqueSeule(u, reste, [&](int symbole, int place) { Seule(u, symbole, T::Cellule(u, place)); });
+  T::ChaqueSeule(u, reste, [&](int symbole, int place) { PoseSeule(u, symbole, T::Cellule(u, place)); });
   T::ChaqueConfinee(u, reste, [&](const Trouvaille<Bits>& t) {
     change = true;
-    Confinee(u, t);
+    RetireConfinee(u, t);
   });
   T::ChaqueCachee(u, reste, [&](const Trouvaille<Bits>& t) {
     change = true;
-    Cachee(u, t);
+    GardeCachee(u, t);
   });
   T::ChaqueNue(u, [&](const Trouvaille<Bits>& t) {
     change = true;
-    Nue(u, t);
+    RetireNue(u, t);
   });
   return change;
 }
 
 template <Trouveur T, Usage U>
-void DeductionsSur<T, U>::Seule(int u, int symbole, int cellule) {
+void DeductionsSur<T, U>::PoseSeule(int u, int symbole, int cellule) {
   PoseSolution(cellule, symbole);
   NoteFait(cellule, NoteArgument({.genre = Genre::kSeule, .type = TypeDe(u)}));
 }
 
 // The symbol goes from the rest of the other unit.
 template <Trouveur T, Usage U>
-void DeductionsSur<T, U>::Confinee(int u, const Trouvaille<Bits>& t) {
+void DeductionsSur<T, U>::RetireConfinee(int u, const Trouvaille<Bits>& t) {
   const int symbole = Premier(t.symboles);
   Argument argument = De(Genre::kInference, u);
   argument.symbole = symbole;
@@ -234,7 +234,7 @@ void DeductionsSur<T, U>::Confinee(int u, const Trouvaille<Bits>& t) {
 
 // The cells keep nothing but the set.
 template <Trouveur T, Usage U>
-void DeductionsSur<T, U>::Cachee(int u, const Trouvaille<Bits>& t) {
+void DeductionsSur<T, U>::GardeCachee(int u, const Trouvaille<Bits>& t) {
   Argument argument = De(Genre::kCachee, u);
   argument.fois = static_cast<std::int16_t>(t.fois);
   const std::uint32_t note = NoteArgument(argument, t.symboles, t.lieux);
@@ -248,7 +248,7 @@ void DeductionsSur<T, U>::Cachee(int u, const Trouvaille<Bits>& t) {
 
 // The set goes from the other cells of the unit.
 template <Trouveur T, Usage U>
-void DeductionsSur<T, U>::Nue(int u, const Trouvaille<Bits>& t) {
+void DeductionsSur<T, U>::RetireNue(int u, const Trouvaille<Bits>& t) {
   Argument argument = De(Genre::kNue, u);
   argument.symbole = t.texte;
   const std::uint32_t note = NoteArgument(argument, t.symboles, t.lieux);
@@ -266,18 +266,18 @@ void DeductionsSur<T, U>::Nue(int u, const Trouvaille<Bits>& t) {
 template <Trouveur T, Usage U>
 bool DeductionsSur<T, U>::NxN() {
   bool change = false;
-  T::ChaqueFigure([&](const Figure& figure) { change |= Trouve(figure); });
+  T::ChaqueFigure([&](const Figure& figure) { change |= Retient(figure); });
   if constexpr (U::kFaits) {
     std::ranges::sort(figures_, {}, &Figure::Ordre);
-    for (const Figure& figure : figures_) change |= Agit(figure);
+    for (const Figure& figure : figures_) change |= RetireFigure(figure);
     figures_.clear();
   }
   return change;
 }
 
 template <Trouveur T, Usage U>
-bool DeductionsSur<T, U>::Trouve(const Figure& figure) {
-  if constexpr (!U::kFaits) return Agit(figure);
+bool DeductionsSur<T, U>::Retient(const Figure& figure) {
+  if constexpr (!U::kFaits) return RetireFigure(figure);
   bool retire = false;
   ChaquePerte(figure, [&](int, const Bits&) { retire = true; });
   if (retire) figures_.push_back(figure);
@@ -285,7 +285,7 @@ bool DeductionsSur<T, U>::Trouve(const Figure& figure) {
 }
 
 template <Trouveur T, Usage U>
-bool DeductionsSur<T, U>::Agit(const Figure& figure) {
+bool DeductionsSur<T, U>::RetireFigure(const Figure& figure) {
   bool change = false;
   std::uint32_t note = 0;
   ChaquePerte(figure, [&](int u, const Bits& perdants) {
