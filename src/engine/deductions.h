@@ -49,7 +49,7 @@ concept Trouveur = requires(T t, typename T::Bits bits, Appui appui, Trouvaille<
   // Figures of the symbols whose places have changed since the last search.
   t.ChaqueFigure(fFigure);
   // Cells that came down to one candidate since the last call: f(cell, symbol).
-  t.ChaqueSeul(deuxEntiers);
+  t.ChaqueReduite(deuxEntiers);
 
   { t.Places(0, 0) } -> std::convertible_to<typename T::Bits>;     // of a symbol in a unit
   { t.Cellule(0, 0) } -> std::same_as<int>;                        // at a place of a unit
@@ -122,7 +122,7 @@ class DeductionsSur : public T {
   bool RetireFigure(const Figure& figure);
   template <class F>
   void ChaquePerte(const Figure& figure, F f) const;
-  void PoseSeuls();
+  void PoseReduites();
   void PoseSolution(int cellule, int symbole);
 
   // What a fact of unit u begins with.
@@ -152,7 +152,7 @@ typename DeductionsSur<T, U>::Suite DeductionsSur<T, U>::Candidats(Appui appui) 
   aRemplir_ = false;
   const bool complets = T::Amorce(appui);
   if (!U::kFaits && !complets) return kContradiction;
-  PoseSeuls();
+  PoseReduites();
   return aRemplir_ ? kSolutions : kRien;
 }
 
@@ -164,7 +164,7 @@ typename DeductionsSur<T, U>::Suite DeductionsSur<T, U>::Deduit() {
     ++tours;
     const bool change = Balaye() || (!contradiction_ && !aRemplir_ && NxN());
     if (contradiction_) return kContradiction;
-    if (change) PoseSeuls();
+    if (change) PoseReduites();
     if (aRemplir_) return kSolutions;
     if (!change) return kRien;
   }
@@ -172,8 +172,8 @@ typename DeductionsSur<T, U>::Suite DeductionsSur<T, U>::Deduit() {
 
 // Cells with one candidate have it as their solution, whatever a unit wrote before.
 template <Trouveur T, Usage U>
-void DeductionsSur<T, U>::PoseSeuls() {
-  T::ChaqueSeul([this](int cellule, int symbole) { PoseSolution(cellule, symbole); });
+void DeductionsSur<T, U>::PoseReduites() {
+  T::ChaqueReduite([this](int cellule, int symbole) { PoseSolution(cellule, symbole); });
 }
 
 template <Trouveur T, Usage U>

@@ -212,7 +212,7 @@ void TrouveTextes::Remplace(int cellule, const M& sequence) {
 }
 
 template <class F>
-void TrouveTextes::ChaqueSeul(F f) {
+void TrouveTextes::ChaqueReduite(F f) {
   for (int i = 0; i < N() * N(); ++i) {
     const Code possible = bloc_->possibleTexte[Rang(i + 1)];
     if (Nombre(candidats_[Rang(i)]) == 1) f(i, Premier(candidats_[Rang(i)]));

@@ -25,7 +25,7 @@ class TrouveComptes : public Suivi<S>, public TrouveMasques<TrouveComptes<S>, Bi
   void Transpose();
   Bits Reste(int u) const { return kTousDe<S> & ~this->prouves_[u]; }
   template <class F>
-  void ChaqueSeul(F f);
+  void ChaqueReduite(F f);
 
   Bits Places(int u, int symbole) const { return Voie<S>(places_[u], symbole); }
   Bits HorsDe(int cellule, const Bits& symboles) const { return CandidatsDe(cellule) & ~symboles; }
@@ -137,7 +137,7 @@ bool TrouveComptes<S>::Nue(int u, int depuis, Trouvaille<Bits>& t) {
 
 template <int S>
 template <class F>
-void TrouveComptes<S>::ChaqueSeul(F f) {
+void TrouveComptes<S>::ChaqueReduite(F f) {
   this->ChaqueNote([&](int cellule) {
     const Bits reste = CandidatsDe(cellule);
     if (Nombre(reste) == 1) f(cellule, Premier(reste));

@@ -28,7 +28,7 @@ class TrouveTextes : public TrouveMasques<TrouveTextes, Masque<4>> {
   int UniteSale(int depuis) const { return depuis < 3 * N() ? depuis : -1; }
   M Reste(int u) const;
   template <class F>
-  void ChaqueSeul(F f);
+  void ChaqueReduite(F f);
 
   M Places(int u, int symbole) const { return places_[Rang(u * N() + Premiere(symbole))]; }
   int Cellule(int u, int place) const { return parts_.Cellule(u, place); }

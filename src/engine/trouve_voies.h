@@ -50,7 +50,7 @@ class TrouveVoies : public Suivi<S> {
   template <class F>
   void ChaqueFigure(F f);
   template <class F>
-  void ChaqueSeul(F f);
+  void ChaqueReduite(F f);
 
   Bits Places(int u, int symbole) const { return places_[u][symbole]; }
   Bits HorsDe(int cellule, Bits symboles) const { return CandidatsDe(cellule) & ~symboles; }
@@ -241,7 +241,7 @@ void TrouveVoies<S>::Remplace(int cellule, Bits sequence) {
 
 template <int S>
 template <class F>
-void TrouveVoies<S>::ChaqueSeul(F f) {
+void TrouveVoies<S>::ChaqueReduite(F f) {
   Base::ChaqueNote([&](int cellule) {
     const Bits reste = CandidatsDe(cellule);
     if (std::popcount(reste) == 1) f(cellule, std::countr_zero(reste));
