@@ -9,10 +9,6 @@ namespace {
 
 using Genre = Argument::Genre;
 
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
 constexpr TexteVue kDe[] = {U" de la colonne ", U" de la ligne ", U" du carré "};
 constexpr TexteVue kDes[] = {U" des colonnes ", U" des lignes ", U" des carrés "};
 constexpr TexteVue kUnites[] = {U"colonnes ", U"lignes ", U"carrés "};
@@ -65,12 +61,12 @@ class Redacteur {
   template <class F>
   void Chaque(std::uint32_t debut, F f) const {
     for (int n = 0; n < 64 * bloc_.mots; ++n) {
-      if (((bloc_.journal.mots[debut + At(n / 64)] >> (n % 64)) & 1U) != 0) f(n);
+      if (((bloc_.journal.mots[debut + Rang(n / 64)] >> (n % 64)) & 1U) != 0) f(n);
     }
   }
   Texte Symboles(std::uint32_t debut) const {
     Texte texte;
-    Chaque(debut, [&](int p) { texte += bloc_.alphabet->Symboles()[At(p)]; });
+    Chaque(debut, [&](int p) { texte += bloc_.alphabet->Symboles()[Rang(p)]; });
     return texte;
   }
   Texte Numeros(std::uint32_t debut) const {
@@ -81,7 +77,7 @@ class Redacteur {
   Texte Cases(const Argument& a, std::uint32_t debut, int fois) const {
     Texte texte;
     for (int i = 0; i < fois; ++i) {
-      Chaque(debut, [&](int place) { Joint(texte, bloc_.geometrie->Serie(a.type, a.unite)[At(place)]); });
+      Chaque(debut, [&](int place) { Joint(texte, bloc_.geometrie->Serie(a.type, a.unite)[Rang(place)]); });
     }
     return texte;
   }
@@ -115,19 +111,19 @@ std::vector<Texte> Phrases(const Grille& VpGrille, int cellule) {
 }
 
 Explicateur::Explicateur(const Grille& VpGrille)
-    : bloc_(VpGrille.Donnees()), debuts_(At(VpGrille.Borne() + 2)), faits_(bloc_.journal.faits.size()) {
-  for (const Fait& fait : bloc_.journal.faits) ++debuts_[At(fait.cellule)];
+    : bloc_(VpGrille.Donnees()), debuts_(Rang(VpGrille.Borne() + 2)), faits_(bloc_.journal.faits.size()) {
+  for (const Fait& fait : bloc_.journal.faits) ++debuts_[Rang(fait.cellule)];
   // The ends of all; filling in from behind makes them the beginnings.
   std::partial_sum(debuts_.begin(), debuts_.end(), debuts_.begin());
   for (auto fait = bloc_.journal.faits.rbegin(); fait != bloc_.journal.faits.rend(); ++fait) {
-    faits_[--debuts_[At(fait->cellule)]] = *fait;
+    faits_[--debuts_[Rang(fait->cellule)]] = *fait;
   }
 }
 
 std::vector<Texte> Explicateur::Phrases(int cellule) const {
   const Redacteur redacteur(bloc_);
   std::vector<Texte> phrases;
-  for (std::uint32_t i = debuts_[At(cellule)]; i < debuts_[At(cellule + 1)]; ++i) {
+  for (std::uint32_t i = debuts_[Rang(cellule)]; i < debuts_[Rang(cellule + 1)]; ++i) {
     if (!AjoutePhrase(redacteur, bloc_, faits_[i], phrases)) break;
   }
   return phrases;
@@ -137,7 +133,7 @@ void Nomme(const Grille& VpGrille, int cellule, std::vector<UniteNommee>& unites
   const Bloc& bloc = VpGrille.Donnees();
   const auto chaque = [&bloc](std::uint32_t debut, auto f) {
     for (int n = 0; n < 64 * bloc.mots; ++n) {
-      if (((bloc.journal.mots[debut + At(n / 64)] >> (n % 64)) & 1U) != 0) f(n);
+      if (((bloc.journal.mots[debut + Rang(n / 64)] >> (n % 64)) & 1U) != 0) f(n);
     }
   };
   for (const Fait& fait : bloc.journal.faits) {
@@ -155,7 +151,7 @@ void Nomme(const Grille& VpGrille, int cellule, std::vector<UniteNommee>& unites
     }
     unites.push_back({a.type, a.unite});
     chaque(a.genre == Genre::kInference ? a.masques : masqueB,
-           [&](int place) { cases.push_back(bloc.geometrie->Serie(a.type, a.unite)[At(place)]); });
+           [&](int place) { cases.push_back(bloc.geometrie->Serie(a.type, a.unite)[Rang(place)]); });
   }
 }
 

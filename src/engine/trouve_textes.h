@@ -52,7 +52,6 @@ class TrouveTextes : public TrouveMasques<TrouveTextes, Masque<4>> {
   M AChercher() const { return premieres_; }
 
  private:
-  static std::size_t Rang(int i) { return static_cast<std::size_t>(i); }
   std::vector<Code>& Solutions() { return appui_ == Appui::kSur ? bloc_->sure : bloc_->poss; }
   M ListePossibles(int cellule) const;
   M Sans(const M& positions, Code code) const;

@@ -4,6 +4,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "grid/geometrie.h"
 #include "text/texte.h"
 
 namespace sudoku {
@@ -39,13 +40,11 @@ class Alphabet {
   bool Egaux(Code a, Code b) const;
 
   // Positions equal to position p, in ascending order, p among them.
-  const std::vector<std::int16_t>& Egales(int p) const { return egales_[static_cast<std::size_t>(p)]; }
+  const std::vector<std::int16_t>& Egales(int p) const { return egales_[Rang(p)]; }
   // The first of them.
-  int Premiere(int p) const { return egales_[static_cast<std::size_t>(p)].front(); }
+  int Premiere(int p) const { return egales_[Rang(p)].front(); }
 
  private:
-  static std::size_t Rang(Code code) { return static_cast<std::size_t>(code); }
-
   int taille_;
   Texte symboles_;
   Texte vide_;

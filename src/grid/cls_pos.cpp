@@ -3,14 +3,6 @@
 #include "grid/game_state.h"
 
 namespace sudoku {
-namespace {
-
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
-}  // namespace
-
 std::int16_t ClsPos::Ligne() const {
   return bloc_->geometrie->Unite(kLigne, index_);
 }
@@ -23,34 +15,35 @@ std::int16_t ClsPos::Carre() const {
 
 Texte ClsPos::Possible() const {
   const Bloc& bloc = *bloc_;
-  if (bloc.possibleTexte[At(index_)] != kVide) return bloc.alphabet->TexteDe(bloc.possibleTexte[At(index_)]);
+  if (bloc.possibleTexte[Rang(index_)] != kVide)
+    return bloc.alphabet->TexteDe(bloc.possibleTexte[Rang(index_)]);
   Texte possible;
   for (int p = 0; p < bloc.alphabet->Taille(); ++p) {
-    if (bloc.Candidat(index_, p)) possible += bloc.alphabet->Symboles()[At(p)];
+    if (bloc.Candidat(index_, p)) possible += bloc.alphabet->Symboles()[Rang(p)];
   }
   return possible;
 }
 
 const Texte& ClsPos::SolutionSure() const {
-  return bloc_->alphabet->TexteDe(bloc_->sure[At(index_)]);
+  return bloc_->alphabet->TexteDe(bloc_->sure[Rang(index_)]);
 }
 const Texte& ClsPos::SolutionPoss() const {
-  return bloc_->alphabet->TexteDe(bloc_->poss[At(index_)]);
+  return bloc_->alphabet->TexteDe(bloc_->poss[Rang(index_)]);
 }
 std::int32_t ClsPos::Etat() const {
-  return bloc_->etat[At(index_)];
+  return bloc_->etat[Rang(index_)];
 }
 
 const Texte& ClsPos::Valeur() const {
-  return bloc_->alphabet->TexteDe(bloc_->Compte(index_) ? bloc_->saisie[At(index_)] : kVide);
+  return bloc_->alphabet->TexteDe(bloc_->Compte(index_) ? bloc_->saisie[Rang(index_)] : kVide);
 }
 
 void ClsPos::Valeur(TexteVue Value) {
   GameState& jeu = *bloc_->jeu;
   if (jeu.VgEtat == kTermine) jeu.VgEtat = kJeu;
   const Code code = bloc_->alphabet->Numero(Value);
-  const Code sure = bloc_->sure[At(index_)];
-  std::int32_t& etat = bloc_->etat[At(index_)];
+  const Code sure = bloc_->sure[Rang(index_)];
+  std::int32_t& etat = bloc_->etat[Rang(index_)];
   if (code == kVide) {
     etat = kProuvee;
   } else if (jeu.VgEtat == kSaisieGrille) {
@@ -65,16 +58,16 @@ void ClsPos::Valeur(TexteVue Value) {
   } else {
     etat = bloc_->alphabet->Egaux(sure, code) ? kProuvee : kErronee;
   }
-  bloc_->saisie[At(index_)] = code;
+  bloc_->saisie[Rang(index_)] = code;
 }
 
 const Texte& ClsPos::ValeurSaisie() const {
-  return bloc_->alphabet->TexteDe(bloc_->saisie[At(index_)]);
+  return bloc_->alphabet->TexteDe(bloc_->saisie[Rang(index_)]);
 }
 
 void ClsPos::Load(TexteVue LoadValue, std::int32_t LoadEtat) {
-  bloc_->saisie[At(index_)] = bloc_->alphabet->Numero(LoadValue);
-  bloc_->etat[At(index_)] = LoadEtat;
+  bloc_->saisie[Rang(index_)] = bloc_->alphabet->Numero(LoadValue);
+  bloc_->etat[Rang(index_)] = LoadEtat;
 }
 
 }  // namespace sudoku

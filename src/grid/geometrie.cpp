@@ -19,9 +19,9 @@ bool TailleAcceptable(std::size_t longueur) {
 
 Geometrie::Geometrie(int N) : n_(N), s_(Racine(static_cast<std::size_t>(N))) {
   for (int type = kColonne; type <= kCarre; ++type) {
-    unites_[At(type)].resize(At(Cases() + 1));
-    places_[At(type)].resize(At(Cases() + 1));
-    series_[At(type)].resize(At(Cases()));
+    unites_[Rang(type)].resize(Rang(Cases() + 1));
+    places_[Rang(type)].resize(Rang(Cases() + 1));
+    series_[Rang(type)].resize(Rang(Cases()));
   }
   for (int cellule = 1; cellule <= Cases(); ++cellule) {
     const int ligne = (cellule - 1) / n_;
@@ -31,9 +31,9 @@ Geometrie::Geometrie(int N) : n_(N), s_(Racine(static_cast<std::size_t>(N))) {
     const int unite[3] = {colonne, ligne, carre};
     const int place[3] = {ligne, colonne, dansCarre};
     for (int type = kColonne; type <= kCarre; ++type) {
-      unites_[At(type)][At(cellule)] = static_cast<std::int16_t>(unite[type] + 1);
-      places_[At(type)][At(cellule)] = static_cast<std::int16_t>(place[type]);
-      series_[At(type)][At(unite[type] * n_ + place[type])] = static_cast<std::int16_t>(cellule);
+      unites_[Rang(type)][Rang(cellule)] = static_cast<std::int16_t>(unite[type] + 1);
+      places_[Rang(type)][Rang(cellule)] = static_cast<std::int16_t>(place[type]);
+      series_[Rang(type)][Rang(unite[type] * n_ + place[type])] = static_cast<std::int16_t>(cellule);
     }
   }
 }

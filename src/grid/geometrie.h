@@ -1,11 +1,18 @@
 #pragma once
 
 #include <array>
+#include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
 
 namespace sudoku {
+
+// A number as an index.
+constexpr std::size_t Rang(std::integral auto i) {
+  return static_cast<std::size_t>(i);
+}
 
 // Kinds of units.
 enum TypeUnite : std::uint8_t { kColonne = 0, kLigne = 1, kCarre = 2 };
@@ -27,17 +34,15 @@ class Geometrie {
   int Cases() const { return n_ * n_; }
 
   // Number of the unit of this kind that holds the cell.
-  std::int16_t Unite(int type, int cellule) const { return unites_[At(type)][At(cellule)]; }
+  std::int16_t Unite(int type, int cellule) const { return unites_[Rang(type)][Rang(cellule)]; }
   // Place of the cell in that unit.
-  std::int16_t Place(int type, int cellule) const { return places_[At(type)][At(cellule)]; }
+  std::int16_t Place(int type, int cellule) const { return places_[Rang(type)][Rang(cellule)]; }
   // The N cells of a unit.
   std::span<const std::int16_t> Serie(int type, int numero) const {
-    return std::span(series_[At(type)]).subspan(At(numero - 1) * At(n_), At(n_));
+    return std::span(series_[Rang(type)]).subspan(Rang(numero - 1) * Rang(n_), Rang(n_));
   }
 
  private:
-  static std::size_t At(int i) { return static_cast<std::size_t>(i); }
-
   int n_;
   int s_;
   std::array<std::vector<std::int16_t>, 3> unites_;

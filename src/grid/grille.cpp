@@ -9,36 +9,32 @@
 namespace sudoku {
 namespace {
 
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
 // The verdict on one player's entry whose Etat is 2 after the chance of step 3 -> 2.
 std::int32_t Juge(const Bloc& bloc, int cellule) {
-  if (!bloc.Permet(cellule, bloc.saisie[At(cellule)])) return kErronee;
-  if (bloc.sure[At(cellule)] == kVide) return kPossible;
-  return bloc.alphabet->Egaux(bloc.sure[At(cellule)], bloc.saisie[At(cellule)]) ? kProuvee : kErronee;
+  if (!bloc.Permet(cellule, bloc.saisie[Rang(cellule)])) return kErronee;
+  if (bloc.sure[Rang(cellule)] == kVide) return kPossible;
+  return bloc.alphabet->Egaux(bloc.sure[Rang(cellule)], bloc.saisie[Rang(cellule)]) ? kProuvee : kErronee;
 }
 
 }  // namespace
 
 bool Bloc::SansCandidat(int cellule) const {
-  if (possibleTexte[At(cellule)] != kVide) return false;
+  if (possibleTexte[Rang(cellule)] != kVide) return false;
   for (int m = 0; m < mots; ++m) {
-    if (candidats[At(cellule * mots + m)] != 0) return false;
+    if (candidats[Rang(cellule * mots + m)] != 0) return false;
   }
   return true;
 }
 
 bool Bloc::Compte(int cellule) const {
-  const std::int32_t e = etat[At(cellule)];
-  return saisie[At(cellule)] != kVide && e >= kDonnee && e <= DernierEtatQuiCompte(jeu->VgEtat);
+  const std::int32_t e = etat[Rang(cellule)];
+  return saisie[Rang(cellule)] != kVide && e >= kDonnee && e <= DernierEtatQuiCompte(jeu->VgEtat);
 }
 
 bool Bloc::Permet(int cellule, Code code) const {
   if (code == kVide) return true;  // the empty text stands in every text
-  if (possibleTexte[At(cellule)] != kVide) {
-    const Code possible = possibleTexte[At(cellule)];
+  if (possibleTexte[Rang(cellule)] != kVide) {
+    const Code possible = possibleTexte[Rang(cellule)];
     if (!alphabet->Long(possible)) return alphabet->Egaux(possible, code);
     return Contient(alphabet->TexteDe(possible), alphabet->TexteDe(code));
   }
@@ -58,11 +54,11 @@ Grille Grille::Nouvelle(GameState& jeu, TexteVue VmValeurs) {
   bloc.geometrie = std::make_shared<const Geometrie>(static_cast<int>(VmValeurs.size()));
   bloc.alphabet = std::make_shared<Alphabet>(VmValeurs);
   bloc.mots = static_cast<int>(std::bit_ceil(static_cast<unsigned>(bloc.geometrie->N() + 63) / 64));
-  const std::size_t taille = At(bloc.geometrie->Cases() + 1);
+  const std::size_t taille = Rang(bloc.geometrie->Cases() + 1);
   bloc.etat.assign(taille, kDonnee);
   for (auto* codes : {&bloc.saisie, &bloc.sure, &bloc.poss, &bloc.possibleTexte})
     codes->assign(taille, kVide);
-  bloc.candidats.assign(taille * At(bloc.mots), 0);
+  bloc.candidats.assign(taille * Rang(bloc.mots), 0);
   return grille;
 }
 
@@ -76,14 +72,14 @@ void GrilleCopy(const Grille& VpSource, Grille& VpDest) {
 
 bool SymboleEnDouble(const Grille& VpGrille) {
   const Bloc& bloc = VpGrille.Donnees();
-  std::vector<int> vu(At(VpGrille.N()), 0);
+  std::vector<int> vu(Rang(VpGrille.N()), 0);
   int tour = 0;
   for (int type = kColonne; type <= kCarre; ++type) {
     for (int u = 1; u <= VpGrille.N(); ++u) {
       ++tour;
       for (const int cellule : bloc.geometrie->Serie(type, u)) {
-        const int position = bloc.alphabet->Position(bloc.saisie[At(cellule)]);
-        if (position >= 0 && std::exchange(vu[At(position)], tour) == tour) return true;
+        const int position = bloc.alphabet->Position(bloc.saisie[Rang(cellule)]);
+        if (position >= 0 && std::exchange(vu[Rang(position)], tour) == tour) return true;
       }
     }
   }
@@ -91,7 +87,7 @@ bool SymboleEnDouble(const Grille& VpGrille) {
 }
 
 Visite VisiteCase(Bloc& bloc, int cellule, Revisions& revisions) {
-  const std::size_t i = At(cellule);
+  const std::size_t i = Rang(cellule);
   if (bloc.SansCandidat(cellule)) return Visite::kSansCandidat;
   std::int32_t& etat = bloc.etat[i];
   const std::int32_t avant = etat;

@@ -12,10 +12,6 @@
 namespace sudoku::lot {
 namespace {
 
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
 class Expliquer : public Ouvrier {
  public:
   explicit Expliquer(const Appel& appel)
@@ -57,15 +53,15 @@ class Expliquer : public Ouvrier {
 
 void Expliquer::Possible(int cellule, std::string_view separateur, std::string& s) {
   const Bloc& bloc = Donnees();
-  if (bloc.possibleTexte[At(cellule)] != kVide) {
-    s += Symbole(bloc.possibleTexte[At(cellule)]);
+  if (bloc.possibleTexte[Rang(cellule)] != kVide) {
+    s += Symbole(bloc.possibleTexte[Rang(cellule)]);
     return;
   }
   // Longer than any candidates of one cell, with what stands between them.
   const std::size_t debut = s.size();
   s.resize(debut + kTailleMax * (SymbolesUtf8::kCourt + separateur.size()));
   char* fin = s.data() + debut;
-  const std::uint64_t* const mots = &bloc.candidats[At(cellule * bloc.mots)];
+  const std::uint64_t* const mots = &bloc.candidats[Rang(cellule * bloc.mots)];
   for (int m = 0; m < bloc.mots; ++m) {
     for (std::uint64_t mot = mots[m]; mot != 0; mot &= mot - 1) {
       if (fin != s.data() + debut) fin = std::ranges::copy(separateur, fin).out;
@@ -89,12 +85,12 @@ void Expliquer::EcritJson(int verdict, std::string& s) {
 void Expliquer::EcritCaseJson(const Explicateur& explicateur, int cellule, std::string& s) {
   const Bloc& bloc = Donnees();
   (s += "{\"index\":") += std::to_string(cellule);
-  (s += ",\"valeur\":\"") += Symbole(bloc.saisie[At(cellule)]);
-  (s += "\",\"etat\":") += std::to_string(bloc.etat[At(cellule)]);
+  (s += ",\"valeur\":\"") += Symbole(bloc.saisie[Rang(cellule)]);
+  (s += "\",\"etat\":") += std::to_string(bloc.etat[Rang(cellule)]);
   s += ",\"possible\":\"";
   Possible(cellule, "", s);
-  (s += "\",\"sure\":\"") += Symbole(bloc.sure[At(cellule)]);
-  (s += "\",\"poss\":\"") += Symbole(bloc.poss[At(cellule)]);
+  (s += "\",\"sure\":\"") += Symbole(bloc.sure[Rang(cellule)]);
+  (s += "\",\"poss\":\"") += Symbole(bloc.poss[Rang(cellule)]);
   s += "\",\"explications\":[";
   for (const Texte& phrase : explicateur.Phrases(cellule)) {
     if (s.back() != '[') s += ',';
@@ -126,12 +122,12 @@ void Expliquer::EcritCaseTexte(const Explicateur& explicateur, int cellule, std:
   };
   s += "Case " + std::to_string(cellule) + " (ligne " + std::to_string(position.Ligne()) + ", colonne " +
        std::to_string(position.Colonne()) + ", carré " + std::to_string(position.Carre()) + ") : ";
-  s += bloc.saisie[At(cellule)] == kVide ? "vide" : Symbole(bloc.saisie[At(cellule)]);
-  champ("état ", std::to_string(bloc.etat[At(cellule)]));
+  s += bloc.saisie[Rang(cellule)] == kVide ? "vide" : Symbole(bloc.saisie[Rang(cellule)]);
+  champ("état ", std::to_string(bloc.etat[Rang(cellule)]));
   s += ", possible ";
   Possible(cellule, "-", s);
-  champ("sûr ", Symbole(bloc.sure[At(cellule)]));
-  champ("sûr si les saisies sont justes ", Symbole(bloc.poss[At(cellule)]));
+  champ("sûr ", Symbole(bloc.sure[Rang(cellule)]));
+  champ("sûr si les saisies sont justes ", Symbole(bloc.poss[Rang(cellule)]));
   s += '\n';
   for (const Texte& phrase : explicateur.Phrases(cellule)) ((s += "    ") += VersUtf8(phrase)) += '\n';
 }

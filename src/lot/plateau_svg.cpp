@@ -11,10 +11,6 @@ namespace {
 constexpr int kCote = 20;
 constexpr int kLignePied = 15;  // from the top of a cell to the foot of its symbol
 
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
 std::string Nombre(int n) {
   return std::to_string(n);
 }
@@ -41,14 +37,14 @@ void PlateauSvg::Commence(const Grille& grille, std::string prefixe, std::string
   prefixe_ = std::move(prefixe);
   basePrise_ = false;
   const Bloc& bloc = grille.Donnees();
-  initiaux_.assign(At(n_ * n_ + 1), {});
-  nouvelles_.assign(At(n_ * n_ + 1), 0);
+  initiaux_.assign(Rang(n_ * n_ + 1), {});
+  nouvelles_.assign(Rang(n_ * n_ + 1), 0);
   s += "<svg width=\"0\" height=\"0\" aria-hidden=\"true\"><defs><g id=\"" + prefixe_ + "-f\">";
   s += "<rect class=\"f\" width=\"" + Nombre(n_ * kCote) + "\" height=\"" + Nombre(n_ * kCote) + "\"/>";
   for (int i = 1; i <= n_ * n_; ++i) {
-    if (bloc.saisie[At(i)] == kVide) continue;
-    initiaux_[At(i)] = {bloc.saisie[At(i)], bloc.etat[At(i)] <= kProuvee};
-    if (bloc.etat[At(i)] == kDonnee) Rectangle(i, 'd', 0, s);
+    if (bloc.saisie[Rang(i)] == kVide) continue;
+    initiaux_[Rang(i)] = {bloc.saisie[Rang(i)], bloc.etat[Rang(i)] <= kProuvee};
+    if (bloc.etat[Rang(i)] == kDonnee) Rectangle(i, 'd', 0, s);
   }
   Lignes(n_, 1, 'l', s);
   Lignes(n_, geometrie_->S(), 'g', s);
@@ -77,12 +73,12 @@ void PlateauSvg::Dessine(std::string_view nom, std::span<const Remplissage> case
        "mm\" role=\"img\" aria-label=\"";
   ((s += nom) += Texte()) += "\"><use href=\"#" + prefixe_ + (basePrise_ ? "-b\"/>" : "-f\"/>");
   for (const Remplissage& r : cases) {
-    nouvelles_[At(r.Index)] = 1;
+    nouvelles_[Rang(r.Index)] = 1;
     Rectangle(r.Index, r.sure ? 's' : 'q', 1, s);
   }
   Contenus(basePrise_ ? base_ : initiaux_, s);
   for (const Remplissage& r : cases) Symbole(r.Index, " class=\"n\"", s);
-  for (const Remplissage& r : cases) nouvelles_[At(r.Index)] = 0;
+  for (const Remplissage& r : cases) nouvelles_[Rang(r.Index)] = 0;
   for (const UniteNommee& unite : unites) Entoure(unite, s);
   for (const int cellule : nommees) Rectangle(cellule, 'c', 2, s);
   s += "</svg></div>\n";
@@ -95,7 +91,7 @@ std::string PlateauSvg::Texte() {
   std::string texte = " :";
   for (int i = 1; i <= n_ * n_; ++i) {
     if (Colonne(i) == 0) texte += i == 1 ? " " : " / ";
-    texte += contenus_[At(i)].symbole == kVide ? "." : symboles_.De(*alphabet_, contenus_[At(i)].symbole);
+    texte += contenus_[Rang(i)].symbole == kVide ? "." : symboles_.De(*alphabet_, contenus_[Rang(i)].symbole);
   }
   return texte;
 }
@@ -118,7 +114,7 @@ void PlateauSvg::Entoure(const UniteNommee& unite, std::string& s) const {
 }
 
 void PlateauSvg::Symbole(int cellule, std::string_view attribut, std::string& s) {
-  const std::string& symbole = symboles_.De(*alphabet_, contenus_[At(cellule)].symbole);
+  const std::string& symbole = symboles_.De(*alphabet_, contenus_[Rang(cellule)].symbole);
   ((s += "<text") += attribut) += " x=\"" + Nombre(Colonne(cellule) * kCote + kCote / 2) + "\" y=\"" +
                                   Nombre(Ligne(cellule) * kCote + kLignePied) + "\"";
   // A character that no page may hold is told by its number.
@@ -129,8 +125,8 @@ void PlateauSvg::Symbole(int cellule, std::string_view attribut, std::string& s)
 // What differs from `dessines`, which is drawn already, but for this step's cells.
 void PlateauSvg::Contenus(const std::vector<Contenu>& dessines, std::string& s) {
   for (int i = 1; i <= n_ * n_; ++i) {
-    const bool autre = contenus_[At(i)].symbole != dessines[At(i)].symbole;
-    if (autre && dessines[At(i)].symbole != kVide && nouvelles_[At(i)] == 0) Rectangle(i, 'f', 1, s);
+    const bool autre = contenus_[Rang(i)].symbole != dessines[Rang(i)].symbole;
+    if (autre && dessines[Rang(i)].symbole != kVide && nouvelles_[Rang(i)] == 0) Rectangle(i, 'f', 1, s);
   }
   for (int ligne = 0; ligne < n_; ++ligne) {
     for (const bool sure : {true, false}) Rangee(dessines, ligne, sure, s);
@@ -143,8 +139,8 @@ void PlateauSvg::Rangee(const std::vector<Contenu>& dessines, int ligne, bool su
   std::string lieux;
   std::string octets;
   for (int i = ligne * n_ + 1; i <= (ligne + 1) * n_; ++i) {
-    const Contenu& c = contenus_[At(i)];
-    if (c.symbole == dessines[At(i)].symbole || c.sure != sure || nouvelles_[At(i)] != 0) continue;
+    const Contenu& c = contenus_[Rang(i)];
+    if (c.symbole == dessines[Rang(i)].symbole || c.sure != sure || nouvelles_[Rang(i)] != 0) continue;
     const std::string& symbole = symboles_.De(*alphabet_, c.symbole);
     if (symbole.size() > 1) {
       Symbole(i, attribut, s);

@@ -6,10 +6,6 @@ namespace {
 constexpr int kParChoix = 4;
 constexpr int kLimite = 2;
 
-std::size_t At(std::int32_t i) {
-  return static_cast<std::size_t>(i);
-}
-
 }  // namespace
 
 int CompteurSolutions::Compte(const Geometrie& geometrie, std::span<const int> donnees) {
@@ -27,30 +23,30 @@ int CompteurSolutions::Condition(int k, int cellule, int symbole) const {
 bool CompteurSolutions::Prepare(std::span<const int> donnees) {
   conditions_ = kParChoix * geo_->Cases();
   if (!PlaceDonnees(donnees)) return false;
-  noeuds_.resize(At(conditions_ + 1));
-  tetes_.assign(At(conditions_ + 1), Tete{0, 0, 0});
+  noeuds_.resize(Rang(conditions_ + 1));
+  tetes_.assign(Rang(conditions_ + 1), Tete{0, 0, 0});
   choix_.clear();
   for (std::int32_t c = 0; c <= conditions_; ++c) {
-    noeuds_[At(c)] = {c, c, c};
-    if (c == 0 || couvertes_[At(c)]) continue;
-    tetes_[At(c)] = {tetes_[0].gauche, 0, 0};
-    tetes_[At(tetes_[0].gauche)].droite = c;
+    noeuds_[Rang(c)] = {c, c, c};
+    if (c == 0 || couvertes_[Rang(c)]) continue;
+    tetes_[Rang(c)] = {tetes_[0].gauche, 0, 0};
+    tetes_[Rang(tetes_[0].gauche)].droite = c;
     tetes_[0].gauche = c;
   }
   for (int cellule = 1; cellule <= geo_->Cases(); ++cellule) {
-    if (donnees[At(cellule)] >= 0) continue;
+    if (donnees[Rang(cellule)] >= 0) continue;
     for (int s = 0; s < geo_->N(); ++s) AjouteChoix(cellule, s);
   }
   return true;
 }
 
 bool CompteurSolutions::PlaceDonnees(std::span<const int> donnees) {
-  couvertes_.assign(At(conditions_ + 1), 0);
+  couvertes_.assign(Rang(conditions_ + 1), 0);
   solution_.assign(donnees.begin(), donnees.end());
   for (int cellule = 1; cellule <= geo_->Cases(); ++cellule) {
-    if (donnees[At(cellule)] < 0) continue;
+    if (donnees[Rang(cellule)] < 0) continue;
     for (int k = 0; k < kParChoix; ++k) {
-      char& couverte = couvertes_[At(Condition(k, cellule, donnees[At(cellule)]))];
+      char& couverte = couvertes_[Rang(Condition(k, cellule, donnees[Rang(cellule)]))];
       if (couverte) return false;
       couverte = 1;
     }
@@ -60,17 +56,17 @@ bool CompteurSolutions::PlaceDonnees(std::span<const int> donnees) {
 
 void CompteurSolutions::AjouteChoix(int cellule, int symbole) {
   for (int k = 1; k < kParChoix; ++k) {
-    if (couvertes_[At(Condition(k, cellule, symbole))]) return;
+    if (couvertes_[Rang(Condition(k, cellule, symbole))]) return;
   }
   choix_.push_back(cellule * geo_->N() + symbole);
   for (int k = 0; k < kParChoix; ++k) {
     const std::int32_t c = Condition(k, cellule, symbole);
     const auto noeud = static_cast<std::int32_t>(noeuds_.size());
-    const std::int32_t dernier = noeuds_[At(c)].haut;
+    const std::int32_t dernier = noeuds_[Rang(c)].haut;
     noeuds_.push_back({dernier, c, c});
-    noeuds_[At(dernier)].bas = noeud;
-    noeuds_[At(c)].haut = noeud;
-    ++tetes_[At(c)].taille;
+    noeuds_[Rang(dernier)].bas = noeud;
+    noeuds_[Rang(c)].haut = noeud;
+    ++tetes_[Rang(c)].taille;
   }
 }
 
@@ -88,11 +84,11 @@ int CompteurSolutions::Cherche() {
     if (descend) {
       const std::int32_t colonne = PlusContrainte();
       Couvre(colonne);
-      noeud = noeuds_[At(colonne)].bas;
+      noeud = noeuds_[Rang(colonne)].bas;
     } else {
       if (pile_.empty()) return trouvees;
       Rend(pile_.back());
-      noeud = noeuds_[At(pile_.back())].bas;
+      noeud = noeuds_[Rang(pile_.back())].bas;
       pile_.pop_back();
     }
     descend = noeud > conditions_;
@@ -107,65 +103,65 @@ int CompteurSolutions::Cherche() {
 
 void CompteurSolutions::Note() {
   for (const std::int32_t noeud : pile_) {
-    const std::int32_t choix = choix_[At((noeud - conditions_ - 1) / kParChoix)];
-    solution_[At(choix / geo_->N())] = choix % geo_->N();
+    const std::int32_t choix = choix_[Rang((noeud - conditions_ - 1) / kParChoix)];
+    solution_[Rang(choix / geo_->N())] = choix % geo_->N();
   }
 }
 
 std::int32_t CompteurSolutions::PlusContrainte() const {
   std::int32_t meilleure = tetes_[0].droite;
-  for (std::int32_t c = meilleure; c != 0 && tetes_[At(meilleure)].taille > 1; c = tetes_[At(c)].droite) {
-    if (tetes_[At(c)].taille < tetes_[At(meilleure)].taille) meilleure = c;
+  for (std::int32_t c = meilleure; c != 0 && tetes_[Rang(meilleure)].taille > 1; c = tetes_[Rang(c)].droite) {
+    if (tetes_[Rang(c)].taille < tetes_[Rang(meilleure)].taille) meilleure = c;
   }
   return meilleure;
 }
 
 // Takes a condition out of the list, and every choice that would cover it again out of the other columns.
 void CompteurSolutions::Couvre(std::int32_t colonne) {
-  const Tete& tete = tetes_[At(colonne)];
-  tetes_[At(tete.gauche)].droite = tete.droite;
-  tetes_[At(tete.droite)].gauche = tete.gauche;
-  for (std::int32_t n = noeuds_[At(colonne)].bas; n != colonne; n = noeuds_[At(n)].bas) {
+  const Tete& tete = tetes_[Rang(colonne)];
+  tetes_[Rang(tete.gauche)].droite = tete.droite;
+  tetes_[Rang(tete.droite)].gauche = tete.gauche;
+  for (std::int32_t n = noeuds_[Rang(colonne)].bas; n != colonne; n = noeuds_[Rang(n)].bas) {
     const std::int32_t premier = PremierDuChoix(n);
     for (std::int32_t m = premier; m < premier + kParChoix; ++m) {
       if (m == n) continue;
-      const Noeud& noeud = noeuds_[At(m)];
-      noeuds_[At(noeud.haut)].bas = noeud.bas;
-      noeuds_[At(noeud.bas)].haut = noeud.haut;
-      --tetes_[At(noeud.colonne)].taille;
+      const Noeud& noeud = noeuds_[Rang(m)];
+      noeuds_[Rang(noeud.haut)].bas = noeud.bas;
+      noeuds_[Rang(noeud.bas)].haut = noeud.haut;
+      --tetes_[Rang(noeud.colonne)].taille;
     }
   }
 }
 
 // The same backwards.
 void CompteurSolutions::Decouvre(std::int32_t colonne) {
-  for (std::int32_t n = noeuds_[At(colonne)].haut; n != colonne; n = noeuds_[At(n)].haut) {
+  for (std::int32_t n = noeuds_[Rang(colonne)].haut; n != colonne; n = noeuds_[Rang(n)].haut) {
     const std::int32_t premier = PremierDuChoix(n);
     for (std::int32_t m = premier + kParChoix - 1; m >= premier; --m) {
       if (m == n) continue;
-      const Noeud& noeud = noeuds_[At(m)];
-      noeuds_[At(noeud.haut)].bas = m;
-      noeuds_[At(noeud.bas)].haut = m;
-      ++tetes_[At(noeud.colonne)].taille;
+      const Noeud& noeud = noeuds_[Rang(m)];
+      noeuds_[Rang(noeud.haut)].bas = m;
+      noeuds_[Rang(noeud.bas)].haut = m;
+      ++tetes_[Rang(noeud.colonne)].taille;
     }
   }
-  const Tete& tete = tetes_[At(colonne)];
-  tetes_[At(tete.gauche)].droite = colonne;
-  tetes_[At(tete.droite)].gauche = colonne;
+  const Tete& tete = tetes_[Rang(colonne)];
+  tetes_[Rang(tete.gauche)].droite = colonne;
+  tetes_[Rang(tete.droite)].gauche = colonne;
 }
 
 // The other conditions of a choice whose own column is covered.
 void CompteurSolutions::Prend(std::int32_t noeud) {
   const std::int32_t premier = PremierDuChoix(noeud);
   for (std::int32_t m = premier; m < premier + kParChoix; ++m) {
-    if (m != noeud) Couvre(noeuds_[At(m)].colonne);
+    if (m != noeud) Couvre(noeuds_[Rang(m)].colonne);
   }
 }
 
 void CompteurSolutions::Rend(std::int32_t noeud) {
   const std::int32_t premier = PremierDuChoix(noeud);
   for (std::int32_t m = premier + kParChoix - 1; m >= premier; --m) {
-    if (m != noeud) Decouvre(noeuds_[At(m)].colonne);
+    if (m != noeud) Decouvre(noeuds_[Rang(m)].colonne);
   }
 }
 

@@ -7,10 +7,6 @@ namespace {
 
 using Genre = Argument::Genre;
 
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
 }  // namespace
 
 Temoin::Temoin(std::span<const int> solution, bool saisiesJustes)
@@ -18,12 +14,12 @@ Temoin::Temoin(std::span<const int> solution, bool saisiesJustes)
 
 void Temoin::Examine(const Grille& VpGrille, int verdict) {
   bloc_ = &VpGrille.Donnees();
-  for (int i = 1; i <= VpGrille.Borne(); ++i) ExamineSolution(i, bloc_->sure[At(i)], "SolutionSure");
+  for (int i = 1; i <= VpGrille.Borne(); ++i) ExamineSolution(i, bloc_->sure[Rang(i)], "SolutionSure");
   if (SecondePasse() && !saisiesJustes_) return;
   if (verdict < 0) Contredit(0, "contradiction dans une grille qui a une solution");
   NoteValeurs();
   for (int i = 1; i <= VpGrille.Borne(); ++i) {
-    ExamineSolution(i, bloc_->poss[At(i)], "SolutionPoss");
+    ExamineSolution(i, bloc_->poss[Rang(i)], "SolutionPoss");
     ExamineCandidats(i);
   }
   for (const Fait& fait : bloc_->journal.faits) ExamineFait(fait);
@@ -32,19 +28,19 @@ void Temoin::Examine(const Grille& VpGrille, int verdict) {
 // The pass that ran last counted the unproved entries.
 bool Temoin::SecondePasse() const {
   for (int i = 1; i <= bloc_->geometrie->Cases(); ++i) {
-    if (bloc_->etat[At(i)] == kPossible && bloc_->possibleTexte[At(i)] != kVide) return true;
+    if (bloc_->etat[Rang(i)] == kPossible && bloc_->possibleTexte[Rang(i)] != kVide) return true;
   }
   return false;
 }
 
 void Temoin::NoteValeurs() {
   const Geometrie& geo = *bloc_->geometrie;
-  for (auto& vus : vus_) vus.assign(At(geo.Cases()), 0);
+  for (auto& vus : vus_) vus.assign(Rang(geo.Cases()), 0);
   for (int i = 1; i <= geo.Cases(); ++i) {
-    const int position = bloc_->alphabet->Position(bloc_->possibleTexte[At(i)]);
+    const int position = bloc_->alphabet->Position(bloc_->possibleTexte[Rang(i)]);
     if (position < 0) continue;
     for (int type = kColonne; type <= kCarre; ++type) {
-      vus_[type][At((geo.Unite(type, i) - 1) * geo.N() + position)] = 1;
+      vus_[type][Rang((geo.Unite(type, i) - 1) * geo.N() + position)] = 1;
     }
   }
 }
@@ -56,11 +52,11 @@ void Temoin::ExamineSolution(int cellule, Code code, const char* champ) {
 
 // What the contents alone would leave, less what is left, was taken away by deductions.
 void Temoin::ExamineCandidats(int cellule) {
-  if (bloc_->possibleTexte[At(cellule)] != kVide) return;
+  if (bloc_->possibleTexte[Rang(cellule)] != kVide) return;
   const Geometrie& geo = *bloc_->geometrie;
   for (int s = 0; s < geo.N(); ++s) {
     const auto vu = [&](int type) {
-      return vus_[type][At((geo.Unite(type, cellule) - 1) * geo.N() + s)] != 0;
+      return vus_[type][Rang((geo.Unite(type, cellule) - 1) * geo.N() + s)] != 0;
     };
     if (bloc_->Candidat(cellule, s)) continue;
     if (!vu(kColonne) && !vu(kLigne) && !vu(kCarre)) ++retraits_;
@@ -120,7 +116,7 @@ bool Temoin::PhraseVraie(const Argument& a) const {
 bool Temoin::Confine(const Argument& a, int symbole) const {
   const auto serie = bloc_->geometrie->Serie(a.type, a.unite);
   for (int place = 0; place < bloc_->geometrie->N(); ++place) {
-    if (Contient(a.masques, place) && Solution(serie[At(place)]) == symbole) return true;
+    if (Contient(a.masques, place) && Solution(serie[Rang(place)]) == symbole) return true;
   }
   return false;
 }
@@ -130,7 +126,7 @@ bool Temoin::MemesSymboles(const Argument& a) const {
   const auto serie = bloc_->geometrie->Serie(a.type, a.unite);
   for (int place = 0; place < bloc_->geometrie->N(); ++place) {
     const bool dedans = Contient(MasqueB(a), place);
-    if (dedans != Contient(a.masques, Solution(serie[At(place)]))) return false;
+    if (dedans != Contient(a.masques, Solution(serie[Rang(place)]))) return false;
   }
   return true;
 }
@@ -141,7 +137,7 @@ void Temoin::Contredit(int cellule, const std::string& quoi) {
 }
 
 bool Temoin::Contient(std::uint32_t debut, int nombre) const {
-  return ((bloc_->journal.mots[debut + At(nombre / 64)] >> (nombre % 64)) & 1U) != 0;
+  return ((bloc_->journal.mots[debut + Rang(nombre / 64)] >> (nombre % 64)) & 1U) != 0;
 }
 
 std::uint32_t Temoin::MasqueB(const Argument& a) const {

@@ -9,10 +9,6 @@
 namespace sudoku::lot {
 namespace {
 
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
 class SansPlateau : public PlateauAuto {
  public:
   void Affiche() override {}
@@ -85,22 +81,22 @@ int Verifier::Compte() {
   for (int p = 0; p < bloc.alphabet->Taille(); ++p) {
     if (bloc.alphabet->Premiere(p) != p) return 0;
   }
-  std::vector<int> donnees(At(jeu_.VmGrille.Borne() + 1), -1);
+  std::vector<int> donnees(Rang(jeu_.VmGrille.Borne() + 1), -1);
   for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
-    if (bloc.etat[At(i)] == kDonnee || bloc.etat[At(i)] == kProuvee) donnees[At(i)] = PositionSaisie(i);
+    if (bloc.etat[Rang(i)] == kDonnee || bloc.etat[Rang(i)] == kProuvee) donnees[Rang(i)] = PositionSaisie(i);
   }
   return compteur_.Compte(*bloc.geometrie, donnees);
 }
 
 int Verifier::PositionSaisie(int cellule) const {
   const Bloc& bloc = jeu_.VmGrille.Donnees();
-  return bloc.alphabet->Position(bloc.saisie[At(cellule)]);
+  return bloc.alphabet->Position(bloc.saisie[Rang(cellule)]);
 }
 
 bool Verifier::SaisiesJustes() const {
   for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
     const bool saisie = jeu_.VmGrille(i).Etat() == kPossible;
-    if (saisie && PositionSaisie(i) != compteur_.Solution()[At(i)]) return false;
+    if (saisie && PositionSaisie(i) != compteur_.Solution()[Rang(i)]) return false;
   }
   return true;
 }
@@ -122,7 +118,7 @@ bool Verifier::Remplis() {
   bool ecrit = false;
   for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
     const ClsPos cellule = jeu_.VmGrille(i);
-    if (!cellule.SolutionSure().empty() && !bloc.alphabet->Egaux(bloc.saisie[At(i)], bloc.sure[At(i)])) {
+    if (!cellule.SolutionSure().empty() && !bloc.alphabet->Egaux(bloc.saisie[Rang(i)], bloc.sure[Rang(i)])) {
       jeu_.VmGrille(i).Valeur(Texte(cellule.SolutionSure()));
     } else if (cellule.ValeurSaisie().empty() && !cellule.SolutionPoss().empty()) {
       jeu_.VmGrille(i).Valeur(Texte(cellule.SolutionPoss()));
@@ -139,7 +135,7 @@ bool Verifier::ResoutJuste() {
   jeu_.VgEtat = kJeu;
   driver_.JeuAuto(true, true);
   for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
-    if (PositionSaisie(i) != compteur_.Solution()[At(i)]) return false;
+    if (PositionSaisie(i) != compteur_.Solution()[Rang(i)]) return false;
   }
   return true;
 }
@@ -151,7 +147,7 @@ bool Verifier::RouteJuste() {
   jeu_.VgEtat = kJeu;
   conteur_.JeuAuto(true, true);
   for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
-    if (PositionSaisie(i) != compteur_.Solution()[At(i)]) return false;
+    if (PositionSaisie(i) != compteur_.Solution()[Rang(i)]) return false;
   }
   return route_.Juste() && route_.Mene(jeu_.VmGrille);
 }

@@ -5,10 +5,6 @@
 namespace sudoku {
 namespace {
 
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
 constexpr Twips kEcart = 15;  // between two cells, and from a cell to its block's frame
 
 struct Couleurs {
@@ -62,7 +58,7 @@ void BoardDisplay::Affiche() {
 void BoardDisplay::AfficheCases(const Grille& VlGrille, bool modifiable, const Marques& marques) {
   const Bloc& bloc = VlGrille.Donnees();
   for (int i = 1; i <= VlGrille.Borne(); ++i) {
-    plateau_.Text(i, bloc.alphabet->TexteDe(bloc.saisie[At(i)]));
+    plateau_.Text(i, bloc.alphabet->TexteDe(bloc.saisie[Rang(i)]));
     const Marque marque = MarqueDe(bloc, i, marques);
     if (marque == Marque::kDonnee) plateau_.Acces(i, !modifiable, modifiable);
     const Couleurs& couleurs = kCouleurs[static_cast<std::size_t>(marque)];
@@ -72,12 +68,12 @@ void BoardDisplay::AfficheCases(const Grille& VlGrille, bool modifiable, const M
 }
 
 Marque BoardDisplay::MarqueDe(const Bloc& bloc, int i, const Marques& marques) {
-  if (bloc.saisie[At(i)] == kVide) {
+  if (bloc.saisie[Rang(i)] == kVide) {
     // An empty cell whose symbol is proved is never marked as possible, whether the proof is shown or not.
-    if (bloc.sure[At(i)] != kVide) return marques.sure ? Marque::kCertaine : Marque::kAucune;
-    return marques.poss && bloc.poss[At(i)] != kVide ? Marque::kPossible : Marque::kAucune;
+    if (bloc.sure[Rang(i)] != kVide) return marques.sure ? Marque::kCertaine : Marque::kAucune;
+    return marques.poss && bloc.poss[Rang(i)] != kVide ? Marque::kPossible : Marque::kAucune;
   }
-  const std::int32_t etat = bloc.etat[At(i)];
+  const std::int32_t etat = bloc.etat[Rang(i)];
   if (etat == kDonnee) return Marque::kDonnee;
   if (etat == kPossible && marques.bleu) return Marque::kHypothetique;
   if (etat == kErronee && marques.rouge) return Marque::kErronee;
@@ -92,7 +88,7 @@ void BoardDisplay::SetInfos() {
     } else if (jeu_.VgEtat != kSansGrille) {
       titre = U"(Nouvelle grille)";
     }
-    if (jeu_.VmPartie > 0) titre += U" - " + jeu_.VgParties[At(jeu_.VmPartie)].Nom;
+    if (jeu_.VmPartie > 0) titre += U" - " + jeu_.VgParties[Rang(jeu_.VmPartie)].Nom;
     LblInfos_.Caption = titre;
   });
 }

@@ -6,18 +6,14 @@
 namespace sudoku {
 namespace {
 
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
 // A proved symbol replaces whatever the cell holds; one that rests on unproved entries goes into empty cells
 // only.
 bool EcritSure(const Bloc& bloc, int i) {
-  return bloc.sure[At(i)] != kVide && !bloc.alphabet->Egaux(bloc.saisie[At(i)], bloc.sure[At(i)]);
+  return bloc.sure[Rang(i)] != kVide && !bloc.alphabet->Egaux(bloc.saisie[Rang(i)], bloc.sure[Rang(i)]);
 }
 
 bool EcritPoss(const Bloc& bloc, int i) {
-  return bloc.saisie[At(i)] == kVide && bloc.poss[At(i)] != kVide;
+  return bloc.saisie[Rang(i)] == kVide && bloc.poss[Rang(i)] != kVide;
 }
 
 }  // namespace
@@ -63,7 +59,7 @@ void TravailGrille::RaconteTour() {
   for (int i = 1; i <= travail_.Borne(); ++i) {
     const bool sure = EcritSure(bloc, i);
     if (!sure && !EcritPoss(bloc, i)) continue;
-    remplies_.push_back({static_cast<std::int16_t>(i), sure ? bloc.sure[At(i)] : bloc.poss[At(i)], sure});
+    remplies_.push_back({static_cast<std::int16_t>(i), sure ? bloc.sure[Rang(i)] : bloc.poss[Rang(i)], sure});
   }
   Raconte();
 }
@@ -105,14 +101,14 @@ int TravailGrille::CelluleOuverte(int cellule, Essai& Possible) {
 
 std::int16_t TravailGrille::Acheve() {
   const auto cede = [this](int i) {
-    return base_.Donnees().saisie[At(i)] != kVide && travail_(i).Etat() == kErronee &&
+    return base_.Donnees().saisie[Rang(i)] != kVide && travail_(i).Etat() == kErronee &&
            travail_(i).Possible().size() == 1;
   };
   for (int i = 1; auditeur_ != nullptr && i <= travail_.Borne(); ++i) {
     const Bloc& bloc = travail_.Donnees();
     if (!cede(i)) continue;
     const Code symbole = bloc.alphabet->Numero(travail_(i).Possible());
-    remplies_.push_back({static_cast<std::int16_t>(i), symbole, bloc.sure[At(i)] != kVide});
+    remplies_.push_back({static_cast<std::int16_t>(i), symbole, bloc.sure[Rang(i)] != kVide});
   }
   if (auditeur_ != nullptr) Raconte();
   for (int i = 1; i <= travail_.Borne(); ++i) {

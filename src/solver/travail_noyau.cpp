@@ -11,10 +11,6 @@
 namespace sudoku {
 namespace {
 
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
 template <int S>
 class TravailVoies : public Travail {
  public:
@@ -68,7 +64,7 @@ void TravailVoies<S>::Commence(const Grille& grille) {
   cases_.Efface();
   const Bloc& bloc = grille.Donnees();
   for (int i = 1; i <= kCases; ++i) {
-    if (bloc.saisie[At(i)] != kVide) cases_.Pose(i - 1, bloc.alphabet->Position(bloc.saisie[At(i)]));
+    if (bloc.saisie[Rang(i)] != kVide) cases_.Pose(i - 1, bloc.alphabet->Position(bloc.saisie[Rang(i)]));
   }
 }
 
@@ -104,9 +100,9 @@ template <int S>
 void TravailVoies<S>::Ecrit(Grille& grille) const {
   Bloc& bloc = grille.Donnees();
   for (int i = 1; i <= kCases; ++i) {
-    if (bloc.saisie[At(i)] != kVide || cases_.valeur[i - 1] == 0) continue;
-    bloc.saisie[At(i)] = cases_.valeur[i - 1] - 1;
-    bloc.etat[At(i)] = !base_ || casesBase_.valeur[i - 1] != 0 ? kProuvee : kPossible;
+    if (bloc.saisie[Rang(i)] != kVide || cases_.valeur[i - 1] == 0) continue;
+    bloc.saisie[Rang(i)] = cases_.valeur[i - 1] - 1;
+    bloc.etat[Rang(i)] = !base_ || casesBase_.valeur[i - 1] != 0 ? kProuvee : kPossible;
   }
 }
 
@@ -208,9 +204,9 @@ template <int S>
 void TravailVoies<S>::EcritBase() {
   Bloc& bloc = grille_.Donnees();
   for (int i = 1; i <= kCases; ++i) {
-    if (bloc.saisie[At(i)] != kVide || casesBase_.valeur[i - 1] == 0) continue;
-    bloc.saisie[At(i)] = casesBase_.valeur[i - 1] - 1;
-    bloc.etat[At(i)] = kProuvee;
+    if (bloc.saisie[Rang(i)] != kVide || casesBase_.valeur[i - 1] == 0) continue;
+    bloc.saisie[Rang(i)] = casesBase_.valeur[i - 1] - 1;
+    bloc.etat[Rang(i)] = kProuvee;
   }
 }
 
@@ -223,8 +219,8 @@ bool NoyauConvient(const Grille& grille) {
     if (bloc.alphabet->Premiere(p) != p) return false;
   }
   for (int i = 1; i <= grille.Borne(); ++i) {
-    const bool symbole = bloc.saisie[At(i)] == kVide || bloc.alphabet->Position(bloc.saisie[At(i)]) >= 0;
-    if (!symbole || bloc.etat[At(i)] < kDonnee || bloc.etat[At(i)] > kProuvee) return false;
+    const bool symbole = bloc.saisie[Rang(i)] == kVide || bloc.alphabet->Position(bloc.saisie[Rang(i)]) >= 0;
+    if (!symbole || bloc.etat[Rang(i)] < kDonnee || bloc.etat[Rang(i)] > kProuvee) return false;
   }
   return true;
 }
