@@ -155,8 +155,8 @@ void FRMHelp::Infos(const Grille& VpGrille, int VpPos, bool VpInit) {
 
 // Exchanges the colours of the box: puts the highlight there, or takes it away.
 void FRMHelp::Surligne() {
-  const CaseTexte& boite = plateau_.TxtCase(VmPos);
-  plateau_.Couleurs(VmPos, boite.ForeColor, boite.BackColor);
+  const CaseTexte& caseTexte = plateau_.TxtCase(VmPos);
+  plateau_.Couleurs(VmPos, caseTexte.ForeColor, caseTexte.BackColor);
 }
 
 }  // namespace sudoku

@@ -48,9 +48,9 @@ Texte DecritPlace(const GameState& jeu, int i) {
 
 // Read aloud often: first what changes most.
 Texte DecritCase(const GameState& jeu, const Plateau& plateau, int i) {
-  const CaseTexte& boite = plateau.TxtCase(i);
-  return (boite.Text.empty() ? Texte(U"vide") : boite.Text) + Texte(EnMots(boite.marque)) + U", " +
-         DecritPlace(jeu, i);
+  const CaseTexte& caseTexte = plateau.TxtCase(i);
+  return (caseTexte.Text.empty() ? Texte(U"vide") : caseTexte.Text) + Texte(EnMots(caseTexte.marque)) +
+         U", " + DecritPlace(jeu, i);
 }
 
 Texte Verrou(const Plateau& plateau, int i) {

@@ -82,9 +82,9 @@ int GeometriePlateau::PlusProche(QPoint point) const {
   int distance = 0;
   const int autour = cadre_ + 1;  // no point is further from every box than the line between two blocks
   PourChaque(QRect(point, QSize(1, 1)).adjusted(-autour, -autour, autour, autour), [&](int i) {
-    const QRect boite = Case(i);
-    const QPoint dedans(std::clamp(point.x(), boite.left(), boite.right()),
-                        std::clamp(point.y(), boite.top(), boite.bottom()));
+    const QRect place = Case(i);
+    const QPoint dedans(std::clamp(point.x(), place.left(), place.right()),
+                        std::clamp(point.y(), place.top(), place.bottom()));
     const int ici = (point - dedans).manhattanLength();
     if (trouvee != 0 && ici >= distance) return;
     trouvee = i;

@@ -14,14 +14,14 @@ namespace sudoku {
 namespace {
 
 // What a box, or the editor over it, is and holds.
-class BoiteLue : public TexteLu {
+class ContenuLu : public TexteLu {
  public:
-  explicit BoiteLue(PlateauQt* plateau) : plateau_(plateau) {}
+  explicit ContenuLu(PlateauQt* plateau) : plateau_(plateau) {}
 
   // The box, 0 for none.
   virtual int Index() const = 0;
 
-  QString Contenu() const override { return Existe() ? VersQt(Boite().Text) : QString(); }
+  QString Contenu() const override { return Existe() ? VersQt(LaCase().Text) : QString(); }
   QLineEdit* Champ() const override { return Edite() ? &plateau_->Editeur() : nullptr; }
   QRect Place() const override {
     if (!Existe()) return {};
@@ -36,15 +36,15 @@ class BoiteLue : public TexteLu {
  protected:
   bool Existe() const { return Index() > 0 && Index() <= plateau_->LePlateau().Cases(); }
   bool Edite() const { return Existe() && Index() == plateau_->LePlateau().Focus(); }
-  const CaseTexte& Boite() const { return plateau_->LePlateau().TxtCase(Index()); }
+  const CaseTexte& LaCase() const { return plateau_->LePlateau().TxtCase(Index()); }
   EditeurCase& Editeur() const { return plateau_->Editeur(); }
 
   PlateauQt* plateau_;  // lives longer: its own interface, which holds this one, goes with it
 };
 
-class CaseLue : public QAccessibleInterface, public BoiteLue {
+class CaseLue : public QAccessibleInterface, public ContenuLu {
  public:
-  CaseLue(PlateauQt* plateau, int i) : BoiteLue(plateau), i_(i) {}
+  CaseLue(PlateauQt* plateau, int i) : ContenuLu(plateau), i_(i) {}
 
   int Index() const override { return i_; }
   bool isValid() const override { return Existe(); }
@@ -60,7 +60,7 @@ class CaseLue : public QAccessibleInterface, public BoiteLue {
     return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface*>(this) : nullptr;
   }
 
-  using BoiteLue::text;
+  using ContenuLu::text;
   QString text(QAccessible::Text quoi) const override {
     if (quoi == QAccessible::Value) return Contenu();
     if (quoi != QAccessible::Name) return {};
@@ -75,7 +75,7 @@ class CaseLue : public QAccessibleInterface, public BoiteLue {
       etat.invalid = true;
       return etat;
     }
-    verrou_ = Boite().Locked;
+    verrou_ = LaCase().Locked;
     etat.focusable = true;
     etat.focused = Edite() && Editeur().hasFocus();
     etat.editable = !verrou_;
@@ -88,7 +88,7 @@ class CaseLue : public QAccessibleInterface, public BoiteLue {
     if (!Existe()) return;
     const QString avant = std::exchange(dit_, Nom());
     if (!avant.isNull() && avant != dit_) Annonce(QAccessibleEvent(plateau_, QAccessible::NameChanged));
-    if (std::exchange(verrou_, Boite().Locked) == verrou_) return;
+    if (std::exchange(verrou_, LaCase().Locked) == verrou_) return;
     QAccessible::State etat;
     etat.editable = true;
     etat.readOnly = true;
@@ -159,10 +159,10 @@ class PlateauLu : public QAccessibleWidget {
   mutable std::unordered_map<int, QAccessible::Id> cases_;
 };
 
-class EditeurLu : public QAccessibleWidget, public BoiteLue {
+class EditeurLu : public QAccessibleWidget, public ContenuLu {
  public:
   EditeurLu(EditeurCase* editeur, PlateauQt* plateau)
-      : QAccessibleWidget(editeur, QAccessible::EditableText), BoiteLue(plateau) {}
+      : QAccessibleWidget(editeur, QAccessible::EditableText), ContenuLu(plateau) {}
 
   int Index() const override { return plateau_->LePlateau().Focus(); }
   QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(plateau_); }
@@ -170,7 +170,7 @@ class EditeurLu : public QAccessibleWidget, public BoiteLue {
     if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
     return QAccessibleWidget::interface_cast(type);
   }
-  using BoiteLue::text;
+  using ContenuLu::text;
   QString text(QAccessible::Text quoi) const override {
     if (quoi == QAccessible::Name) return Nom();
     return quoi == QAccessible::Value ? Contenu() : QAccessibleWidget::text(quoi);

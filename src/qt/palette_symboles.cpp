@@ -120,11 +120,11 @@ void PaletteSymboles::paintEvent(QPaintEvent*) {
   p.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-void PaletteSymboles::Montre(const QRect& boite) {
+void PaletteSymboles::Montre(const QRect& ici) {
   adjustSize();
   const QRect ecran = parentWidget()->screen()->availableGeometry();
-  QPoint coin = boite.bottomLeft() + QPoint(0, 2);
-  if (coin.y() + height() > ecran.bottom()) coin.setY(boite.top() - height() - 2);
+  QPoint coin = ici.bottomLeft() + QPoint(0, 2);
+  if (coin.y() + height() > ecran.bottom()) coin.setY(ici.top() - height() - 2);
   coin.setX(std::clamp(coin.x(), ecran.left(), std::max(ecran.left(), ecran.right() - width())));
   coin.setY(std::clamp(coin.y(), ecran.top(), std::max(ecran.top(), ecran.bottom() - height())));
   move(coin);

@@ -31,7 +31,7 @@ class PaletteSymboles : public QWidget {
   void Ajoute(const std::vector<Commande>& commandes);
 
   // Beside a box, given in pixels of the screen, and on the screen as a whole.
-  void Montre(const QRect& boite);
+  void Montre(const QRect& ici);
   // The pointer is over a button; where it lay when the palette opened it doesn't count.
   void Pointe(QWidget& bouton, QPoint ou);
 

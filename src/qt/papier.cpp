@@ -42,11 +42,11 @@ QFont PoliceDePapier(double pixels, bool gras) {
   return police;
 }
 
-void DessineCase(QPainter& p, const CaseTexte& boite, const QRectF& place) {
+void DessineCase(QPainter& p, const CaseTexte& caseTexte, const QRectF& place) {
   p.drawRect(place);
-  if (boite.Text.empty()) return;
-  const QString texte = VersQt(boite.Text);
-  const QFont police = PoliceDePapier(0.6 * place.height(), boite.marque == Marque::kDonnee);
+  if (caseTexte.Text.empty()) return;
+  const QString texte = VersQt(caseTexte.Text);
+  const QFont police = PoliceDePapier(0.6 * place.height(), caseTexte.marque == Marque::kDonnee);
   p.setFont(Condensee(police, texte, static_cast<int>(0.9 * place.width())));
   p.drawText(place, Qt::AlignCenter | Qt::TextSingleLine, texte);
 }

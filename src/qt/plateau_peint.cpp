@@ -66,15 +66,15 @@ void PlateauQt::PeintZone(QPainter& p, const QRect& zone) const {
 }
 
 void PlateauQt::PeintCase(QPainter& p, int i) const {
-  const CaseTexte& boite = fenetre_.plateau.TxtCase(i);
-  if (!boite.Visible) return;
+  const CaseTexte& caseTexte = fenetre_.plateau.TxtCase(i);
+  if (!caseTexte.Visible) return;
   const QRect place = geometrie_.Case(i);
-  p.fillRect(place, CouleurQt(boite.BackColor));
-  if (boite.marque > Marque::kDonnee) PeintMarque(p, place, boite);
-  if (i == focus_ || boite.Text.empty()) return;  // the editor shows the text of its box
-  p.setPen(CouleurQt(boite.ForeColor));
-  const QString texte = VersQt(boite.Text);
-  if (boite.Text.size() == 1) {
+  p.fillRect(place, CouleurQt(caseTexte.BackColor));
+  if (caseTexte.marque > Marque::kDonnee) PeintMarque(p, place, caseTexte);
+  if (i == focus_ || caseTexte.Text.empty()) return;  // the editor shows the text of its box
+  p.setPen(CouleurQt(caseTexte.ForeColor));
+  const QString texte = VersQt(caseTexte.Text);
+  if (caseTexte.Text.size() == 1) {
     p.drawText(place, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, texte);
     return;
   }
@@ -86,19 +86,19 @@ void PlateauQt::PeintCase(QPainter& p, int i) const {
 // Beside the colours, for whoever can't tell them apart, and so small that nobody else is disturbed: a full
 // corner where a symbol is proved, an angle where one is possible; a line below a wrong entry, points below
 // one that is neither proved nor refuted.
-void PlateauQt::PeintMarque(QPainter& p, const QRect& place, const CaseTexte& boite) const {
+void PlateauQt::PeintMarque(QPainter& p, const QRect& place, const CaseTexte& caseTexte) const {
   const int trait = geometrie_.Trait();
-  const QColor encre = CouleurQt(boite.ForeColor);
+  const QColor encre = CouleurQt(caseTexte.ForeColor);
   const QRect dedans = place.adjusted(2 * trait, 2 * trait, -2 * trait, -2 * trait);
-  if (boite.marque == Marque::kCertaine || boite.marque == Marque::kPossible) {
+  if (caseTexte.marque == Marque::kCertaine || caseTexte.marque == Marque::kPossible) {
     const int cote = std::max(2 * trait, place.width() / 6);
     for (int n = 0; n < cote; ++n) {
-      const int longueur = boite.marque == Marque::kCertaine || n < trait ? cote - n : trait;
+      const int longueur = caseTexte.marque == Marque::kCertaine || n < trait ? cote - n : trait;
       p.fillRect(dedans.right() + 1 - longueur, dedans.top() + n, longueur, 1, encre);
     }
     return;
   }
-  const int pas = boite.marque == Marque::kErronee ? trait : 3 * trait;
+  const int pas = caseTexte.marque == Marque::kErronee ? trait : 3 * trait;
   const int gauche = place.left() + place.width() / 4;
   for (int x = gauche; x < gauche + place.width() / 2; x += pas)
     p.fillRect(x, dedans.bottom(), trait, trait, encre);

@@ -86,10 +86,10 @@ void PlateauQt::SuitFocus() {
 void PlateauQt::SuitEditeur() {
   if (focus_ == 0 || editeur_->Compose()) return;
   const Plateau& plateau = fenetre_.plateau;
-  const CaseTexte& boite = plateau.TxtCase(focus_);
-  const QString texte = VersQt(boite.Text);
-  if (editeur_->isReadOnly() != boite.Locked) editeur_->setReadOnly(boite.Locked);
-  const QColor encre = CouleurQt(boite.ForeColor);
+  const CaseTexte& caseTexte = plateau.TxtCase(focus_);
+  const QString texte = VersQt(caseTexte.Text);
+  if (editeur_->isReadOnly() != caseTexte.Locked) editeur_->setReadOnly(caseTexte.Locked);
+  const QColor encre = CouleurQt(caseTexte.ForeColor);
   if (editeur_->palette().color(QPalette::Text) != encre) {
     QPalette palette = editeur_->palette();
     palette.setColor(QPalette::Text, encre);
@@ -99,8 +99,8 @@ void PlateauQt::SuitEditeur() {
   if (autre) editeur_->setText(texte);
   if (!autre && redessins_ == plateau.Redessins()) return;
   redessins_ = plateau.Redessins();
-  const int debut = PositionQt(boite.Text, boite.SelStart);
-  editeur_->setSelection(debut, PositionQt(boite.Text, boite.SelStart + boite.SelLength) - debut);
+  const int debut = PositionQt(caseTexte.Text, caseTexte.SelStart);
+  editeur_->setSelection(debut, PositionQt(caseTexte.Text, caseTexte.SelStart + caseTexte.SelLength) - debut);
 }
 
 void PlateauQt::SuitChangements() {
@@ -201,9 +201,9 @@ void PlateauQt::Tape(const Texte& texte) {
 
 void PlateauQt::OuvrePalette() {
   if (!AUneCase() || !fenetre_.conforts.Symboles) return;
-  const CaseTexte& boite = fenetre_.plateau.TxtCase(focus_);
-  const Texte contenu = boite.Text;
-  const bool libre = !boite.Locked;
+  const CaseTexte& caseTexte = fenetre_.plateau.TxtCase(focus_);
+  const Texte contenu = caseTexte.Text;
+  const bool libre = !caseTexte.Locked;
   const auto copie = [contenu] { QApplication::clipboard()->setText(VersQt(contenu)); };
   auto* palette = new PaletteSymboles(fenetre_.conforts.Symboles(), libre, contenu, this);
   palette->Choisi = [this](const Texte& symbole) { Tape(symbole); };
@@ -327,14 +327,14 @@ void PlateauQt::PlaceEditeur() {
 
 void PlateauQt::MontreFocus() {
   if (focus_ == 0) return;
-  const QRect boite = EnPixels(Anneau(focus_).translated(Origine()));
+  const QRect anneau = EnPixels(Anneau(focus_).translated(Origine()));
   const QRect vue = viewport()->rect();
   const auto avance = [](int debut, int fin, int taille) {
     if (debut < 0) return debut;
     return fin >= taille ? std::min(debut, fin - taille + 1) : 0;
   };
-  const int dx = avance(boite.left(), boite.right(), vue.width());
-  const int dy = avance(boite.top(), boite.bottom(), vue.height());
+  const int dx = avance(anneau.left(), anneau.right(), vue.width());
+  const int dy = avance(anneau.top(), anneau.bottom(), vue.height());
   if (dx != 0) horizontalScrollBar()->setValue(horizontalScrollBar()->value() + dx);
   if (dy != 0) verticalScrollBar()->setValue(verticalScrollBar()->value() + dy);
 }

@@ -87,7 +87,7 @@ class PlateauQt : public QAbstractScrollArea {
   void Repeint(int i);
   void PeintZone(QPainter& p, const QRect& zone) const;
   void PeintCase(QPainter& p, int i) const;
-  void PeintMarque(QPainter& p, const QRect& place, const CaseTexte& boite) const;
+  void PeintMarque(QPainter& p, const QRect& place, const CaseTexte& caseTexte) const;
   void PeintCadres(QPainter& p, const QRect& zone) const;
   void PeintRelief(QPainter& p, const QRect& zone) const;
 

@@ -95,9 +95,10 @@ bool PlateauQt::ToucheDeLieu(const QKeyEvent& evenement) {
 bool PlateauQt::AUneCase() {
   int libre = 0;
   for (int i = fenetre_.plateau.Cases(); i > 0 && focus_ == 0; --i) {
-    const CaseTexte& boite = fenetre_.plateau.TxtCase(i);
-    const bool meilleure = libre == 0 || boite.Text.empty() || !fenetre_.plateau.TxtCase(libre).Text.empty();
-    if (!boite.Locked && meilleure) libre = i;
+    const CaseTexte& caseTexte = fenetre_.plateau.TxtCase(i);
+    const bool meilleure =
+        libre == 0 || caseTexte.Text.empty() || !fenetre_.plateau.TxtCase(libre).Text.empty();
+    if (!caseTexte.Locked && meilleure) libre = i;
   }
   if (focus_ == 0) Focalise(libre);
   return focus_ != 0;

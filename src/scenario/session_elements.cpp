@@ -63,7 +63,7 @@ std::optional<int> IndiceDe(TexteVue nom, TexteVue tableau) {
 
 }  // namespace
 
-bool SessionVue::BoiteDuPlateau(TexteVue nom) {
+bool SessionVue::CaseOuCadre(TexteVue nom) {
   const Plateau& plateau = principale_.plateau;
   if (const auto i = IndiceDe(nom, U"TxtCase("); i && *i <= plateau.Cases()) {
     const CaseTexte& b = plateau.TxtCase(*i);
@@ -122,7 +122,7 @@ bool SessionVue::DansFenetre(Fenetre& fenetre, std::string_view nom) {
 
 bool SessionVue::Nom(TexteVue nom) {
   const std::string octets = VersUtf8(nom);
-  if (BoiteDuPlateau(nom) || ArticleOuMenu(octets)) return true;
+  if (CaseOuCadre(nom) || ArticleOuMenu(octets)) return true;
   Fenetre* modale = systeme_.FenetreModale();
   if (modale != nullptr && DansFenetre(*modale, octets)) return true;
   return std::ranges::any_of(systeme_.Fenetres(),

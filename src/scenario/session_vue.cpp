@@ -162,11 +162,12 @@ void SessionVue::Boxes() {
 std::optional<Texte> SessionVue::Cell(const Nombre& Index) {
   if (Index.valeur < 1 || Index.valeur > principale_.plateau.Cases()) return U"pas de case " + Index.texte;
   const int i = static_cast<int>(Index.valeur);
-  const CaseTexte& boite = principale_.plateau.TxtCase(i);
-  Ligne(U"case " + Index.texte + Paire(U"texte", Cite(boite.Text)) + Paire(U"fond", Hexa6(boite.BackColor)) +
-        Paire(U"encre", Hexa6(boite.ForeColor)) + Paire(U"verrou", boite.Locked) +
-        Paire(U"tab", boite.TabStop) + Paire(U"relief", boite.Appearance) + Paire(U"debut", boite.SelStart) +
-        Paire(U"longueur", boite.SelLength));
+  const CaseTexte& caseTexte = principale_.plateau.TxtCase(i);
+  Ligne(U"case " + Index.texte + Paire(U"texte", Cite(caseTexte.Text)) +
+        Paire(U"fond", Hexa6(caseTexte.BackColor)) + Paire(U"encre", Hexa6(caseTexte.ForeColor)) +
+        Paire(U"verrou", caseTexte.Locked) + Paire(U"tab", caseTexte.TabStop) +
+        Paire(U"relief", caseTexte.Appearance) + Paire(U"debut", caseTexte.SelStart) +
+        Paire(U"longueur", caseTexte.SelLength));
   const ClsPos cellule = jeu_.VmGrille(i);
   Ligne(U"  valeur=" + Cite(cellule.ValeurSaisie()) + Paire(U"etat", cellule.Etat()) +
         Paire(U"possible", Cite(cellule.Possible())) + Paire(U"sure", Cite(cellule.SolutionSure())) +

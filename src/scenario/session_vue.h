@@ -36,7 +36,7 @@ class SessionVue {
   std::optional<Texte> Cell(const Nombre& Index);
   std::optional<Texte> File(TexteVue chemin);
   bool Nom(TexteVue nom);
-  bool BoiteDuPlateau(TexteVue nom);
+  bool CaseOuCadre(TexteVue nom);
   bool ArticleOuMenu(std::string_view nom);
   bool DansFenetre(Fenetre& fenetre, std::string_view nom);
   void Liste(const Element& liste);
