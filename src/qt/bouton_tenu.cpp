@@ -11,7 +11,7 @@ namespace sudoku {
 BoutonTenu::BoutonTenu(Element& element, Pilote& pilote, QWidget* parent)
     : QPushButton(parent), element_(element), pilote_(pilote) {}
 
-void BoutonTenu::Debut(Tenu par) {
+void BoutonTenu::Appuie(Tenu par) {
   if (tenu_ != Tenu::kNon) return;
   tenu_ = par;
   setDown(true);
@@ -21,7 +21,7 @@ void BoutonTenu::Debut(Tenu par) {
   });
 }
 
-void BoutonTenu::Fin() {
+void BoutonTenu::Relache() {
   const Tenu par = std::exchange(tenu_, Tenu::kNon);
   if (par == Tenu::kNon) return;
   setDown(false);
@@ -33,13 +33,13 @@ void BoutonTenu::Fin() {
 
 void BoutonTenu::mousePressEvent(QMouseEvent* evenement) {
   evenement->accept();
-  Debut(Tenu::kSouris);
+  Appuie(Tenu::kSouris);
 }
 
 void BoutonTenu::mouseReleaseEvent(QMouseEvent* evenement) {
   evenement->accept();
   if (tenu_ == Tenu::kNon || evenement->buttons() != Qt::NoButton) return;
-  Fin();
+  Relache();
   if (rect().contains(evenement->position().toPoint())) emit clicked();
 }
 
@@ -47,7 +47,7 @@ void BoutonTenu::keyPressEvent(QKeyEvent* evenement) {
   if (CodeTouche(*evenement) != kToucheEspace) {
     QPushButton::keyPressEvent(evenement);
   } else if (!evenement->isAutoRepeat()) {
-    Debut(Tenu::kClavier);
+    Appuie(Tenu::kClavier);
   }
 }
 
@@ -55,23 +55,23 @@ void BoutonTenu::keyReleaseEvent(QKeyEvent* evenement) {
   if (CodeTouche(*evenement) != kToucheEspace) {
     QPushButton::keyReleaseEvent(evenement);
   } else if (!evenement->isAutoRepeat() && tenu_ != Tenu::kNon) {
-    Fin();
+    Relache();
     emit clicked();
   }
 }
 
 void BoutonTenu::focusOutEvent(QFocusEvent* evenement) {
-  Fin();
+  Relache();
   QPushButton::focusOutEvent(evenement);
 }
 
 void BoutonTenu::hideEvent(QHideEvent* evenement) {
-  Fin();
+  Relache();
   QPushButton::hideEvent(evenement);
 }
 
 bool BoutonTenu::event(QEvent* evenement) {
-  if (evenement->type() == QEvent::WindowDeactivate) Fin();
+  if (evenement->type() == QEvent::WindowDeactivate) Relache();
   return QPushButton::event(evenement);
 }
 

@@ -26,8 +26,8 @@ class BoutonTenu : public QPushButton {
 
  private:
   enum class Tenu { kNon, kSouris, kClavier };
-  void Debut(Tenu par);
-  void Fin();
+  void Appuie(Tenu par);
+  void Relache();
 
   Element& element_;
   Pilote& pilote_;

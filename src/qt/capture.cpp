@@ -88,7 +88,7 @@ bool FormeConnue(std::string_view nom) {
 }
 
 bool DessineDansFichier(FenetreQt& fenetre, const QString& chemin) {
-  fenetre.SansEcran();
+  fenetre.MetSansEcran();
   QSaveFile fichier(chemin);
   if (!fichier.open(QIODevice::WriteOnly)) return false;
   // The commit itself passes over what can't be written any more.

@@ -9,7 +9,7 @@
 namespace sudoku {
 namespace {
 
-void Fond(QWidget* widget, const Element& element) {
+void PrendFond(QWidget* widget, const Element& element) {
   if (element.BackColor == kCouleurSysteme) return;
   QPalette palette = widget->palette();
   palette.setColor(QPalette::Base, CouleurQt(element.BackColor));
@@ -24,11 +24,11 @@ class ChampElement : public ElementQt {
  private:
   ChampElement(Element& element, QLineEdit* widget, Pilote& pilote)
       : ElementQt(element, widget), champ_(widget) {
-    Fond(widget, element);
+    PrendFond(widget, element);
     QObject::connect(widget, &QLineEdit::textEdited, widget,
                      [&](const QString& texte) { pilote.Execute([&] { element_.Edite(DepuisQt(texte)); }); });
   }
-  void Contenu() override {
+  void MontreContenu() override {
     if (champ_->isReadOnly() == element_.Enabled) {
       champ_->setReadOnly(!element_.Enabled);
       champ_->setFocusPolicy(element_.Enabled || !Echantillon() ? Qt::StrongFocus : Qt::NoFocus);
@@ -39,7 +39,7 @@ class ChampElement : public ElementQt {
     champ_->setCursorPosition(0);
     Ajuste();
   }
-  void Taille(double echelle) override {
+  void Dimensionne(double echelle) override {
     police_ = PoliceQt(element_.police, echelle);
     Ajuste();
   }
@@ -69,17 +69,17 @@ class ChampLongElement : public ElementQt {
 
  private:
   ChampLongElement(Element& element, QPlainTextEdit* widget) : ElementQt(element, widget), champ_(widget) {
-    Fond(widget, element);
+    PrendFond(widget, element);
     widget->setReadOnly(true);
     widget->setUndoRedoEnabled(false);
     widget->setTabChangesFocus(true);
   }
-  void Contenu() override {
+  void MontreContenu() override {
     if (montre_ == element_.Text) return;
     montre_ = element_.Text;
     champ_->setPlainText(VersQt(montre_).remove(u'\r').trimmed());
   }
-  void Taille(double echelle) override { champ_->setFont(PoliceQt(element_.police, echelle)); }
+  void Dimensionne(double echelle) override { champ_->setFont(PoliceQt(element_.police, echelle)); }
 
   QPlainTextEdit* champ_;
   Texte montre_;

@@ -31,7 +31,7 @@ void ElementQt::Synchronise() {
     place.moveLeft((largeur_ - place.width()) / 2);
   }
   if (widget_->geometry() != place) widget_->setGeometry(place);
-  Contenu();
+  MontreContenu();
   if (widget_->isHidden() == element_.Visible) widget_->setVisible(element_.Visible);
 }
 
@@ -39,7 +39,7 @@ void ElementQt::Place(double echelle, int largeurVisible, bool milieu) {
   echelle_ = echelle;
   largeur_ = largeurVisible;
   milieu_ = milieu;
-  Taille(echelle);
+  Dimensionne(echelle);
   Synchronise();
 }
 
@@ -68,9 +68,9 @@ class EtiquetteElement : public ElementQt {
   EtiquetteElement(Element& element, Etiquette* widget) : ElementQt(element, widget), etiquette_(widget) {
     Colore(widget, element);
   }
-  void Contenu() override { etiquette_->Montre(VersQt(element_.Caption)); }
-  void Taille(double echelle) override {
-    etiquette_->Apparence(PoliceQt(element_.police, echelle), element_.Centre, element_.Bordure);
+  void MontreContenu() override { etiquette_->Montre(VersQt(element_.Caption)); }
+  void Dimensionne(double echelle) override {
+    etiquette_->PrendApparence(PoliceQt(element_.police, echelle), element_.Centre, element_.Bordure);
   }
 
   Etiquette* etiquette_;
@@ -88,15 +88,15 @@ class CaseACocherElement : public ElementQt {
     QObject::connect(widget, &QCheckBox::clicked, widget,
                      [&] { pilote.Execute([&] { element_.Clique(); }); });
   }
-  void Contenu() override {
+  void MontreContenu() override {
     const QString texte = VersQt(element_.Caption);
     if (case_->text() != texte) {
       case_->setText(texte);
-      Taille(Echelle());
+      Dimensionne(Echelle());
     }
     if (case_->isChecked() != (element_.Value != 0)) case_->setChecked(element_.Value != 0);
   }
-  void Taille(double echelle) override {
+  void Dimensionne(double echelle) override {
     constexpr double kMarque = 24;  // the box itself and the gap behind it
     case_->setFont(Condensee(PoliceQt(element_.police, echelle), case_->text(),
                              Rectangle(echelle).width() - static_cast<int>(kMarque * echelle)));
@@ -134,11 +134,11 @@ class CadreElement : public ElementQt {
 
  private:
   CadreElement(Element& element, QGroupBox* widget) : ElementQt(element, widget), cadre_(widget) {}
-  void Contenu() override {
+  void MontreContenu() override {
     const QString texte = VersQt(element_.Caption);
     if (cadre_->title() != texte) cadre_->setTitle(texte);
   }
-  void Taille(double echelle) override { cadre_->setFont(PoliceQt(element_.police, echelle)); }
+  void Dimensionne(double echelle) override { cadre_->setFont(PoliceQt(element_.police, echelle)); }
 
   QGroupBox* cadre_;
 };
@@ -158,13 +158,13 @@ class BoutonElement : public ElementQt {
       if (element_.Click) pilote.ExecuteCommande(element_.Click);
     });
   }
-  void Contenu() override {
+  void MontreContenu() override {
     const QString texte = VersQt(element_.Caption);
     if (bouton_->text() == texte) return;
     bouton_->setText(texte);
-    Taille(Echelle());
+    Dimensionne(Echelle());
   }
-  void Taille(double echelle) override {
+  void Dimensionne(double echelle) override {
     constexpr int kMarge = 8;
     bouton_->setFont(Condensee(PoliceQt(element_.police, echelle), bouton_->text().remove(u'&'),
                                Rectangle(echelle).width() - kMarge));
@@ -181,8 +181,8 @@ class ImageElement : public ElementQt {
   ImageElement(Element& element, QLabel* widget) : ElementQt(element, widget), image_(widget) {
     widget->setAlignment(Qt::AlignCenter);
   }
-  void Contenu() override {}
-  void Taille(double echelle) override {
+  void MontreContenu() override {}
+  void Dimensionne(double echelle) override {
     const int cote = static_cast<int>(std::lround(32 * echelle));
     image_->setPixmap(IconeDuJeu().pixmap(QSize(cote, cote), image_->devicePixelRatioF()));
   }
@@ -200,8 +200,8 @@ class TraitElement : public ElementQt {
   }
 
  private:
-  void Contenu() override {}
-  void Taille(double) override {}
+  void MontreContenu() override {}
+  void Dimensionne(double) override {}
   QRect Rectangle(double echelle) const override {
     const QRect axe = ElementQt::Rectangle(echelle);
     return QRect(axe.topLeft(), axe.size().expandedTo(QSize(element_.BorderWidth, element_.BorderWidth)));

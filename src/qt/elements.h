@@ -29,10 +29,10 @@ class ElementQt {
 
  protected:
   // Text, state and items; visibility, enabling and place are the same for all kinds.
-  virtual void Contenu() = 0;
+  virtual void MontreContenu() = 0;
   // Size and font have changed to `echelle`.
-  virtual void Taille(double echelle) = 0;
-  // That of the last Taille.
+  virtual void Dimensionne(double echelle) = 0;
+  // That of the last Dimensionne.
   double Echelle() const { return echelle_; }
   // Lines are places, not rectangles.
   virtual QRect Rectangle(double echelle) const;

@@ -13,7 +13,7 @@ void Etiquette::Montre(const QString& texte) {
   update();
 }
 
-void Etiquette::Apparence(const QFont& police, bool centre, bool bordure) {
+void Etiquette::PrendApparence(const QFont& police, bool centre, bool bordure) {
   police_ = police;
   centre_ = centre;
   bordure_ = bordure;

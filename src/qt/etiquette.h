@@ -15,7 +15,7 @@ class Etiquette : public QWidget {
   using QWidget::QWidget;
 
   void Montre(const QString& texte);
-  void Apparence(const QFont& police, bool centre, bool bordure);
+  void PrendApparence(const QFont& police, bool centre, bool bordure);
   const QString& Texte() const { return texte_; }
 
  protected:

@@ -49,7 +49,7 @@ FenetreQt::FenetreQt(Fenetre& fenetre, Pilote& pilote, QWidget* proprietaire, Ma
   FabriqueElements();
   FabriqueMenus();
   FabriqueMinuteries();
-  OrdreDeTabulation();
+  OrdonneTabulation();
 }
 
 FenetreQt::~FenetreQt() = default;
@@ -115,7 +115,7 @@ void FenetreQt::FabriqueMinuteries() {
   }
 }
 
-void FenetreQt::OrdreDeTabulation() {
+void FenetreQt::OrdonneTabulation() {
   std::vector<ElementQt*> ordre;
   for (const auto& element : elements_) {
     if (element->LElement().TabIndex >= 0) ordre.push_back(element.get());
@@ -174,7 +174,7 @@ void FenetreQt::SuitPile() {
   if (QWindow* fenetre = windowHandle()) fenetre->setFlag(Qt::WindowStaysOnTopHint, voulu);
 }
 
-void FenetreQt::Modale() {
+void FenetreQt::AttendFermeture() {
   fenetre_.Visible = true;
   Synchronise();
   activateWindow();
@@ -183,7 +183,7 @@ void FenetreQt::Modale() {
 
 // ---- size and place
 
-void FenetreQt::SansEcran() {
+void FenetreQt::MetSansEcran() {
   sansEcran_ = true;
   Dispose();
 }

@@ -36,9 +36,9 @@ class FenetreQt : public QWidget {
   // Ticks that came while a handler ran.
   void RattrapeTics();
   // Runs the window until the record says that it is closed.
-  void Modale();
+  void AttendFermeture();
   // As large as the record says, whatever the screen: for a picture.
-  void SansEcran();
+  void MetSansEcran();
 
   const Fenetre& LaFenetre() const { return fenetre_; }
   PlateauQt* LePlateau() { return plateau_; }
@@ -68,7 +68,7 @@ class FenetreQt : public QWidget {
   void Nomme(const ElementQt& element);
   void FabriqueMenus();
   void FabriqueMinuteries();
-  void OrdreDeTabulation();
+  void OrdonneTabulation();
   void Sonne(Tic& tic);
   static void Suit(Tic& tic);
 

@@ -24,7 +24,7 @@ void GeometriePlateau::Relit() {
   }
 }
 
-void GeometriePlateau::Echelle(double pixelsParTwip, Twips haut) {
+void GeometriePlateau::MetAEchelle(double pixelsParTwip, Twips haut) {
   k_ = pixelsParTwip;
   haut_ = haut;
   trait_ = std::max(1, static_cast<int>(std::lround(kTrait * k_)));

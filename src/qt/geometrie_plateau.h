@@ -19,7 +19,7 @@ class GeometriePlateau {
 
   void Relit();
   // Pixels of the device for a twip, and the twips above the board that are no part of it.
-  void Echelle(double pixelsParTwip, Twips haut);
+  void MetAEchelle(double pixelsParTwip, Twips haut);
 
   QRect Case(int i) const;
   QRect Cadre(int b) const;

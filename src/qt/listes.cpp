@@ -84,8 +84,8 @@ class ListeElement : public ElementQt {
 
  private:
   ListeElement(Element& element, ListeQt* widget) : ElementQt(element, widget), liste_(widget) {}
-  void Contenu() override { liste_->Montre(); }
-  void Taille(double echelle) override { liste_->setFont(PoliceQt(element_.police, echelle)); }
+  void MontreContenu() override { liste_->Montre(); }
+  void Dimensionne(double echelle) override { liste_->setFont(PoliceQt(element_.police, echelle)); }
 
   ListeQt* liste_;
 };
@@ -132,7 +132,7 @@ class ChampListeElement : public ElementQt {
   }
 
  private:
-  void Contenu() override {
+  void MontreContenu() override {
     liste_->Montre();
     const QString texte = VersQt(element_.Text);
     if (champ_->text() != texte) champ_->setText(texte);
@@ -140,7 +140,7 @@ class ChampListeElement : public ElementQt {
     choisi_ = element_.ListIndex;
     if (choisi_ >= 0) champ_->selectAll();  // what is typed next replaces the choice
   }
-  void Taille(double echelle) override {
+  void Dimensionne(double echelle) override {
     champ_->setFont(PoliceQt(element_.police, echelle));
     liste_->setFont(PoliceQt(element_.police, echelle));
   }

@@ -20,13 +20,13 @@ constexpr double kParTwip = kPapierParPouce / 1440.0;
 GeometriePlateau GeometrieSurPapier(const Plateau& plateau) {
   GeometriePlateau geometrie(plateau);
   geometrie.Relit();
-  geometrie.Echelle(1, 0);
+  geometrie.MetAEchelle(1, 0);
   const QRect tout = geometrie.Ensemble();
   double k = 3 * kParTwip;
   if (!tout.isEmpty()) {
     k = std::min({k, 1.0 * kLargeur / tout.width(), 1.0 * (kHauteur - kTitre) / tout.height()});
   }
-  geometrie.Echelle(k, 0);
+  geometrie.MetAEchelle(k, 0);
   return geometrie;
 }
 

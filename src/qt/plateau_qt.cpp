@@ -137,7 +137,7 @@ void PlateauQt::SelectionneEncore() {
 }
 
 // To the next box that is a stop, in a circle, or the one before.
-void PlateauQt::Tabulation(bool avant) {
+void PlateauQt::Tabule(bool avant) {
   const Plateau& plateau = fenetre_.plateau;
   const int n = plateau.Cases();
   int i = plateau.Focus();
@@ -253,7 +253,7 @@ void PlateauQt::Dimensionne(double zoom, Twips haut, QSize contenu) {
 
 void PlateauQt::Redimensionne() {
   const double dpr = devicePixelRatioF();
-  geometrie_.Echelle(zoom_ * dpr / kTwipsParPixel, haut_);
+  geometrie_.MetAEchelle(zoom_ * dpr / kTwipsParPixel, haut_);
   police_ = PoliceQt({.Gras = true}, zoom_ * dpr);
   editeur_->setFont(PoliceQt({.Gras = true}, zoom_));
   MontreBarres();

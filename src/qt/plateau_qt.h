@@ -74,7 +74,7 @@ class PlateauQt : public QAbstractScrollArea {
   void SuitChangements();
   void Focalise(int i);
   void SelectionneEncore();
-  void Tabulation(bool avant);
+  void Tabule(bool avant);
   void MontreFocus();
   void PlaceEditeur();
 

@@ -14,7 +14,7 @@ bool PlateauQt::Touche(QKeyEvent& evenement) {
   if (ToucheDeFenetre(evenement) || ToucheDeConfort(evenement) || ToucheDeLieu(evenement)) return true;
   if (Frappe(evenement)) return true;
   if (evenement.key() == Qt::Key_Tab || evenement.key() == Qt::Key_Backtab) {
-    Tabulation(evenement.key() == Qt::Key_Tab);
+    Tabule(evenement.key() == Qt::Key_Tab);
     return true;
   }
   const int code = CodeTouche(evenement);

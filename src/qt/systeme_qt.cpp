@@ -48,7 +48,7 @@ void SystemeQt::Execute(const std::function<void()>& acte) {
   acte();
   --profondeur_;
   SynchroniseTout();
-  FinDeHandler();
+  FinitHandler();
 }
 
 void SystemeQt::Precede(const std::function<void()>& acte) {
@@ -65,7 +65,7 @@ void SystemeQt::ExecuteCommande(const std::function<void()>& acte) {
   if (attente) QApplication::restoreOverrideCursor();
 }
 
-void SystemeQt::FinDeHandler() {
+void SystemeQt::FinitHandler() {
   if (Occupe()) return;
   for (const Connue& connue : fenetres_) {
     if (connue.qt) connue.qt->RattrapeTics();
@@ -128,7 +128,7 @@ bool SystemeQt::Dessus() const {
 }
 
 // A box is centred on its owner, and where the first window lies is known once it is on the screen.
-void SystemeQt::AttendsPremiere() {
+void SystemeQt::AttendPremiere() {
   constexpr int kPatience = 1000;  // milliseconds; a window manager may not put it there at all
   if (premiereVue_ || fenetres_.empty() || !fenetres_.front().qt || fenetres_.front().qt->isHidden()) return;
   premiereVue_ = true;
@@ -147,7 +147,7 @@ void SystemeQt::AttendsPremiere() {
 PlaceDeBoite SystemeQt::Place(TexteVue titre) {
   SynchroniseTout();
   RattrapeFermeture();
-  AttendsPremiere();
+  AttendPremiere();
   // A box without a title of its own bears the program's.
   if (titre.empty() && !fenetres_.empty()) titre = fenetres_.front().fenetre->Caption;
   return {Devant(), Dessus(), VersQt(titre)};
@@ -177,12 +177,12 @@ void SystemeQt::MontreModale(Fenetre& fenetre) {
   const SansAttente sans;
   SynchroniseTout();
   RattrapeFermeture();
-  AttendsPremiere();
+  AttendPremiere();
   QWidget* proprietaire = fenetre.proprietaire != nullptr ? FenetreDe(*fenetre.proprietaire) : nullptr;
   FenetreQt modale(fenetre, *this, proprietaire != nullptr ? proprietaire : Devant(),
                    {.modale = true, .dessus = Dessus()});
   modales_.push_back(&modale);
-  modale.Modale();
+  modale.AttendFermeture();
   modales_.pop_back();
 }
 

@@ -53,10 +53,10 @@ class SystemeQt : public Systeme, public Pilote {
     std::unique_ptr<FenetreQt> qt;
   };
   void SynchroniseTout();
-  void FinDeHandler();
+  void FinitHandler();
   void RattrapeFermeture();
   PlaceDeBoite Place(TexteVue titre);
-  void AttendsPremiere();
+  void AttendPremiere();
   QWidget* Devant() const;
   bool Dessus() const;
 
