@@ -34,36 +34,36 @@ class Deroulement {
   void Ecrit(std::string_view texte) { sortie_.Ecrit(texte); }
   void Travaille(const Atelier& atelier) {
     if (appel_.processus > 1) {
-      Ensemble(atelier);
+      TravailleEnsemble(atelier);
     } else {
-      Seul(*atelier());
+      TravailleSeul(*atelier());
     }
   }
   int Statut() const { return alerte_ ? kAlerte : illisible_ ? kIllisible : 0; }
 
  private:
-  void Seul(Ouvrier& ouvrier) {
+  void TravailleSeul(Ouvrier& ouvrier) {
     Poste poste;
     poste.reponse.coule = [this](Reponse& reponse) {
       Coule(reponse.sortie);
       reponse.sortie.clear();
     };
-    Parcours([&]() -> Poste& { return poste; },
+    Parcourt([&]() -> Poste& { return poste; },
              [&] {
                poste.Occupe(ouvrier);
                Livre(poste);
              });
   }
-  void Ensemble(const Atelier& atelier) {
+  void TravailleEnsemble(const Atelier& atelier) {
     Equipe equipe(
         appel_.processus, atelier, [this](const Poste& poste) { Livre(poste); },
         [this](std::string_view texte) { Coule(texte); });
-    Parcours([&]() -> Poste& { return equipe.Prochain(); }, [&] { equipe.Confie(); });
+    Parcourt([&]() -> Poste& { return equipe.Prochain(); }, [&] { equipe.Confie(); });
   }
 
   // Fills the place that `prochain` gives with each line and hands it over to `confie`.
   template <class Prochain, class Confie>
-  void Parcours(Prochain prochain, Confie confie) {
+  void Parcourt(Prochain prochain, Confie confie) {
     Lignes lignes([this] {
       lecteurAttend_ = true;
       sortie_.Pousse();

@@ -40,7 +40,7 @@ class Expliquer : public Ouvrier {
   void EcritTexte(std::string_view champ, int verdict, std::string& s);
   void EcritCaseTexte(const Explicateur& explicateur, int cellule, std::string& s);
   const std::string& Symbole(Code code) { return symboles_.De(*Donnees().alphabet, code); }
-  void Possible(int cellule, std::string_view separateur, std::string& s);
+  void EcritPossible(int cellule, std::string_view separateur, std::string& s);
   const Bloc& Donnees() const { return jeu_.VmGrille.Donnees(); }
 
   int passes_;
@@ -51,7 +51,7 @@ class Expliquer : public Ouvrier {
   SymbolesUtf8 symboles_;
 };
 
-void Expliquer::Possible(int cellule, std::string_view separateur, std::string& s) {
+void Expliquer::EcritPossible(int cellule, std::string_view separateur, std::string& s) {
   const Bloc& bloc = Donnees();
   if (bloc.possibleTexte[Rang(cellule)] != kVide) {
     s += Symbole(bloc.possibleTexte[Rang(cellule)]);
@@ -88,7 +88,7 @@ void Expliquer::EcritCaseJson(const Explicateur& explicateur, int cellule, std::
   (s += ",\"valeur\":\"") += Symbole(bloc.saisie[Rang(cellule)]);
   (s += "\",\"etat\":") += std::to_string(bloc.etat[Rang(cellule)]);
   s += ",\"possible\":\"";
-  Possible(cellule, "", s);
+  EcritPossible(cellule, "", s);
   (s += "\",\"sure\":\"") += Symbole(bloc.sure[Rang(cellule)]);
   (s += "\",\"poss\":\"") += Symbole(bloc.poss[Rang(cellule)]);
   s += "\",\"explications\":[";
@@ -125,7 +125,7 @@ void Expliquer::EcritCaseTexte(const Explicateur& explicateur, int cellule, std:
   s += bloc.saisie[Rang(cellule)] == kVide ? "vide" : Symbole(bloc.saisie[Rang(cellule)]);
   champ("état ", std::to_string(bloc.etat[Rang(cellule)]));
   s += ", possible ";
-  Possible(cellule, "-", s);
+  EcritPossible(cellule, "-", s);
   champ("sûr ", Symbole(bloc.sure[Rang(cellule)]));
   champ("sûr si les saisies sont justes ", Symbole(bloc.poss[Rang(cellule)]));
   s += '\n';

@@ -28,7 +28,7 @@ int Renonce(std::string_view raison) {
 }
 
 // Any thread may come here, and none goes on.
-void SansMemoire() {
+void FinitSansMemoire() {
   std::_Exit(Renonce("sudoku-lot : mémoire insuffisante\n"));
 }
 
@@ -47,7 +47,7 @@ int Execute(const Appel& appel) {
 
 int main(int argc, char** argv) {
   using namespace sudoku::lot;
-  std::set_new_handler(SansMemoire);
+  std::set_new_handler(FinitSansMemoire);
   std::signal(SIGXFSZ, SIG_IGN);  // a write beyond the limit fails, and ends nothing
   int statut = 0;
   const std::optional<Appel> appel = LitAppel(argc, argv, statut);

@@ -16,7 +16,7 @@ std::string Nombre(int n) {
 }
 
 // Lines across the whole board, every `pas` cells.
-void Lignes(int n, int pas, char classe, std::string& s) {
+void EcritLignes(int n, int pas, char classe, std::string& s) {
   ((s += "<path class=\"") += classe) += "\" d=\"";
   const std::string fin = Nombre(n * kCote);
   for (int i = 0; i <= n; i += pas) {
@@ -44,20 +44,20 @@ void PlateauSvg::Commence(const Grille& grille, std::string prefixe, std::string
   for (int i = 1; i <= n_ * n_; ++i) {
     if (bloc.saisie[Rang(i)] == kVide) continue;
     initiaux_[Rang(i)] = {bloc.saisie[Rang(i)], bloc.etat[Rang(i)] <= kProuvee};
-    if (bloc.etat[Rang(i)] == kDonnee) Rectangle(i, 'd', 0, s);
+    if (bloc.etat[Rang(i)] == kDonnee) EcritRectangle(i, 'd', 0, s);
   }
-  Lignes(n_, 1, 'l', s);
-  Lignes(n_, geometrie_->S(), 'g', s);
+  EcritLignes(n_, 1, 'l', s);
+  EcritLignes(n_, geometrie_->S(), 'g', s);
   contenus_ = initiaux_;
   const std::vector<Contenu> vides(initiaux_.size());
-  Contenus(vides, s);
+  EcritContenus(vides, s);
   s += "</g></defs></svg>\n";
 }
 
 void PlateauSvg::PrendBase(std::string& s) {
   s += "<svg width=\"0\" height=\"0\" aria-hidden=\"true\"><defs><g id=\"" + prefixe_ + "-b\"><use href=\"#" +
        prefixe_ + "-f\"/>";
-  Contenus(initiaux_, s);
+  EcritContenus(initiaux_, s);
   s += "</g></defs></svg>\n";
   base_ = contenus_;
   basePrise_ = true;
@@ -74,13 +74,13 @@ void PlateauSvg::Dessine(std::string_view nom, std::span<const Remplissage> case
   ((s += nom) += Texte()) += "\"><use href=\"#" + prefixe_ + (basePrise_ ? "-b\"/>" : "-f\"/>");
   for (const Remplissage& r : cases) {
     nouvelles_[Rang(r.Index)] = 1;
-    Rectangle(r.Index, r.sure ? 's' : 'q', 1, s);
+    EcritRectangle(r.Index, r.sure ? 's' : 'q', 1, s);
   }
-  Contenus(basePrise_ ? base_ : initiaux_, s);
-  for (const Remplissage& r : cases) Symbole(r.Index, " class=\"n\"", s);
+  EcritContenus(basePrise_ ? base_ : initiaux_, s);
+  for (const Remplissage& r : cases) EcritSymbole(r.Index, " class=\"n\"", s);
   for (const Remplissage& r : cases) nouvelles_[Rang(r.Index)] = 0;
   for (const UniteNommee& unite : unites) Entoure(unite, s);
-  for (const int cellule : nommees) Rectangle(cellule, 'c', 2, s);
+  for (const int cellule : nommees) EcritRectangle(cellule, 'c', 2, s);
   s += "</svg></div>\n";
 }
 
@@ -96,7 +96,7 @@ std::string PlateauSvg::Texte() {
   return texte;
 }
 
-void PlateauSvg::Rectangle(int cellule, char classe, int marge, std::string& s) const {
+void PlateauSvg::EcritRectangle(int cellule, char classe, int marge, std::string& s) const {
   ((s += "<rect class=\"") += classe) += "\" x=\"" + Nombre(Colonne(cellule) * kCote + marge) + "\" y=\"" +
                                          Nombre(Ligne(cellule) * kCote + marge) + "\" width=\"" +
                                          Nombre(kCote - 2 * marge) + "\" height=\"" +
@@ -113,7 +113,7 @@ void PlateauSvg::Entoure(const UniteNommee& unite, std::string& s) const {
        Nombre((Ligne(derniere) - Ligne(premiere) + 1) * kCote) + "\"/>";
 }
 
-void PlateauSvg::Symbole(int cellule, std::string_view attribut, std::string& s) {
+void PlateauSvg::EcritSymbole(int cellule, std::string_view attribut, std::string& s) {
   const std::string& symbole = symboles_.De(*alphabet_, contenus_[Rang(cellule)].symbole);
   ((s += "<text") += attribut) += " x=\"" + Nombre(Colonne(cellule) * kCote + kCote / 2) + "\" y=\"" +
                                   Nombre(Ligne(cellule) * kCote + kLignePied) + "\"";
@@ -123,18 +123,18 @@ void PlateauSvg::Symbole(int cellule, std::string_view attribut, std::string& s)
 }
 
 // What differs from `dessines`, which is drawn already, but for this step's cells.
-void PlateauSvg::Contenus(const std::vector<Contenu>& dessines, std::string& s) {
+void PlateauSvg::EcritContenus(const std::vector<Contenu>& dessines, std::string& s) {
   for (int i = 1; i <= n_ * n_; ++i) {
     const bool autre = contenus_[Rang(i)].symbole != dessines[Rang(i)].symbole;
-    if (autre && dessines[Rang(i)].symbole != kVide && nouvelles_[Rang(i)] == 0) Rectangle(i, 'f', 1, s);
+    if (autre && dessines[Rang(i)].symbole != kVide && nouvelles_[Rang(i)] == 0) EcritRectangle(i, 'f', 1, s);
   }
   for (int ligne = 0; ligne < n_; ++ligne) {
-    for (const bool sure : {true, false}) Rangee(dessines, ligne, sure, s);
+    for (const bool sure : {true, false}) EcritRangee(dessines, ligne, sure, s);
   }
 }
 
 // One row of them, of one kind of proof: those of a single byte as one text with a place for each.
-void PlateauSvg::Rangee(const std::vector<Contenu>& dessines, int ligne, bool sure, std::string& s) {
+void PlateauSvg::EcritRangee(const std::vector<Contenu>& dessines, int ligne, bool sure, std::string& s) {
   const std::string_view attribut = sure ? "" : " class=\"p\"";
   std::string lieux;
   std::string octets;
@@ -143,7 +143,7 @@ void PlateauSvg::Rangee(const std::vector<Contenu>& dessines, int ligne, bool su
     if (c.symbole == dessines[Rang(i)].symbole || c.sure != sure || nouvelles_[Rang(i)] != 0) continue;
     const std::string& symbole = symboles_.De(*alphabet_, c.symbole);
     if (symbole.size() > 1) {
-      Symbole(i, attribut, s);
+      EcritSymbole(i, attribut, s);
       continue;
     }
     if (!lieux.empty()) lieux += ' ';

@@ -41,11 +41,11 @@ class PlateauSvg {
     bool sure = true;
   };
   std::string Texte();
-  void Rectangle(int cellule, char classe, int marge, std::string& s) const;
+  void EcritRectangle(int cellule, char classe, int marge, std::string& s) const;
   void Entoure(const UniteNommee& unite, std::string& s) const;
-  void Symbole(int cellule, std::string_view attribut, std::string& s);
-  void Contenus(const std::vector<Contenu>& dessines, std::string& s);
-  void Rangee(const std::vector<Contenu>& dessines, int ligne, bool sure, std::string& s);
+  void EcritSymbole(int cellule, std::string_view attribut, std::string& s);
+  void EcritContenus(const std::vector<Contenu>& dessines, std::string& s);
+  void EcritRangee(const std::vector<Contenu>& dessines, int ligne, bool sure, std::string& s);
   int Ligne(int cellule) const { return (cellule - 1) / n_; }
   int Colonne(int cellule) const { return (cellule - 1) % n_; }
 

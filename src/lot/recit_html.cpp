@@ -42,10 +42,10 @@ class Page : public Recit {
   }
   std::string Ou(int cellule) const;
   void Ancre(const Etape& etape, const std::string& titre);
-  void Raisons(const Grille& grille, std::span<const Remplissage> cases);
+  void EcritRaisons(const Grille& grille, std::span<const Remplissage> cases);
   void FermeReprise();
   void FermeBranche();
-  void PlateauFinal(const Grille& VmGrille, std::string& s);
+  void EcritPlateauFinal(const Grille& VmGrille, std::string& s);
 
   std::int64_t grille_ = 0;
   std::int64_t etapes_ = 0;
@@ -113,10 +113,10 @@ void Page::Remplit(const Etape& etape, const Grille& grille, int verdict, std::s
     Nomme(grille, cases[0].Index, unites_, nommees_);
   }
   plateau_.Dessine("Étape " + std::to_string(etape.etape), cases, unites_, nommees_, Corps());
-  Raisons(grille, cases);
+  EcritRaisons(grille, cases);
 }
 
-void Page::Raisons(const Grille& grille, std::span<const Remplissage> cases) {
+void Page::EcritRaisons(const Grille& grille, std::span<const Remplissage> cases) {
   std::string& s = Corps();
   s += "<ul>\n";
   for (const Remplissage& r : cases) {
@@ -201,14 +201,14 @@ void Page::Finit(std::int64_t grille, const Grille& VmGrille, const Bilan& bilan
   }
   s += niveaux_.front().corps;
   s += "<article class=\"etape\" id=\"" + id + "-fin\">\n<h3>" + Html(bilan.message) + "</h3>\n";
-  PlateauFinal(VmGrille, s);
+  EcritPlateauFinal(VmGrille, s);
   s += "</article>\n</section>\n";
   niveaux_.clear();
   depart_ = Grille();
 }
 
 // The result, also where it is the last refuted attempt.
-void Page::PlateauFinal(const Grille& VmGrille, std::string& s) {
+void Page::EcritPlateauFinal(const Grille& VmGrille, std::string& s) {
   const Bloc& bloc = VmGrille.Donnees();
   for (int i = 1; i <= VmGrille.Borne(); ++i) {
     const auto cellule = static_cast<std::size_t>(i);

@@ -16,40 +16,41 @@ class Objets : public Recit {
                std::string& s) override;
   void Reprend(const Etape&, std::string&) override {}
   void Suppose(const Etape& etape, int cellule, Code symbole, std::string& s) override {
-    Supposition(etape, "supposition", cellule, symbole, s);
+    EcritSupposition(etape, "supposition", cellule, symbole, s);
   }
   void Refute(const Etape& etape, int cellule, Code symbole, std::string& s) override {
-    Supposition(etape, "refutation", cellule, symbole, s);
+    EcritSupposition(etape, "refutation", cellule, symbole, s);
   }
   void Finit(std::int64_t grille, const Grille& VmGrille, const Bilan& bilan, std::string& s) override;
 
  private:
-  static void Tete(const Etape& etape, std::string& s);
-  void Supposition(const Etape& etape, std::string_view genre, int cellule, Code symbole, std::string& s);
-  void Lieu(int cellule, Code symbole, std::string& s);
+  static void EcritTete(const Etape& etape, std::string& s);
+  void EcritSupposition(const Etape& etape, std::string_view genre, int cellule, Code symbole,
+                        std::string& s);
+  void EcritLieu(int cellule, Code symbole, std::string& s);
 
   std::shared_ptr<const Alphabet> alphabet_;
   SymbolesUtf8 symboles_{Json};
 };
 
-void Objets::Tete(const Etape& etape, std::string& s) {
+void Objets::EcritTete(const Etape& etape, std::string& s) {
   (s += "{\"grille\":") += std::to_string(etape.grille);
   (s += ",\"etape\":") += std::to_string(etape.etape);
   (s += ",\"niveau\":") += std::to_string(etape.niveau);
 }
 
-void Objets::Lieu(int cellule, Code symbole, std::string& s) {
+void Objets::EcritLieu(int cellule, Code symbole, std::string& s) {
   (s += "{\"index\":") += std::to_string(cellule);
   ((s += ",\"valeur\":\"") += symboles_.De(*alphabet_, symbole)) += '"';
 }
 
 void Objets::Remplit(const Etape& etape, const Grille& grille, int verdict,
                      std::span<const Remplissage> cases, std::string& s) {
-  Tete(etape, s);
+  EcritTete(etape, s);
   ((s += ",\"verdict\":") += std::to_string(verdict)) += ",\"cases\":[";
   for (const Remplissage& r : cases) {
     if (s.back() != '[') s += ',';
-    Lieu(r.Index, r.symbole, s);
+    EcritLieu(r.Index, r.symbole, s);
     s += r.sure ? ",\"preuve\":\"sure\",\"explications\":[" : ",\"preuve\":\"poss\",\"explications\":[";
     for (const Texte& phrase : Phrases(grille, r.Index)) {
       if (s.back() != '[') s += ',';
@@ -60,11 +61,11 @@ void Objets::Remplit(const Etape& etape, const Grille& grille, int verdict,
   s += "]}\n";
 }
 
-void Objets::Supposition(const Etape& etape, std::string_view genre, int cellule, Code symbole,
-                         std::string& s) {
-  Tete(etape, s);
+void Objets::EcritSupposition(const Etape& etape, std::string_view genre, int cellule, Code symbole,
+                              std::string& s) {
+  EcritTete(etape, s);
   ((s += ",\"") += genre) += "\":";
-  Lieu(cellule, symbole, s);
+  EcritLieu(cellule, symbole, s);
   s += "}}\n";
 }
 

@@ -27,12 +27,12 @@ class Lignes : public Recit {
     s += "Reprenons avec ce qui est supposé\n";
   }
   void Suppose(const Etape& etape, int cellule, Code symbole, std::string& s) override {
-    Tete(etape, s);
+    EcritTete(etape, s);
     (s += "supposons ") += Symbole(symbole);
     ((s += " dans la ") += Ou(grille_(cellule))) += '\n';
   }
   void Refute(const Etape& etape, int cellule, Code symbole, std::string& s) override {
-    Tete(etape, s);
+    EcritTete(etape, s);
     (s += "impossible : ") += Symbole(symbole);
     ((s += " n'est pas dans la ") += Ou(grille_(cellule))) += '\n';
   }
@@ -40,7 +40,7 @@ class Lignes : public Recit {
 
  private:
   const std::string& Symbole(Code code) { return symboles_.De(*grille_.Donnees().alphabet, code); }
-  static void Tete(const Etape& etape, std::string& s) {
+  static void EcritTete(const Etape& etape, std::string& s) {
     s.append(2 * etape.niveau, ' ');
     ((s += "Étape ") += std::to_string(etape.etape)) += " : ";
   }
@@ -51,7 +51,7 @@ class Lignes : public Recit {
 
 void Lignes::Remplit(const Etape& etape, const Grille& grille, int verdict,
                      std::span<const Remplissage> cases, std::string& s) {
-  Tete(etape, s);
+  EcritTete(etape, s);
   s += std::to_string(cases.size()) + " case(s) sur " + std::to_string(verdict) + " à remplir\n";
   for (const Remplissage& r : cases) {
     s.append(2 * etape.niveau + 2, ' ');

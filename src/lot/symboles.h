@@ -18,7 +18,7 @@ class SymbolesUtf8 {
 
   const std::string& De(const Alphabet& alphabet, Code code) {
     const auto rang = static_cast<std::size_t>(code + 1);
-    if (rang >= textes_.size()) Etends(alphabet, rang);
+    if (rang >= textes_.size()) Etend(alphabet, rang);
     return textes_[rang];
   }
 
@@ -27,7 +27,7 @@ class SymbolesUtf8 {
   // Writes the symbol at this position; kCourt characters from `ou` on are overwritten. Where it ends.
   char* Pose(const Alphabet& alphabet, int position, char* ou) {
     const auto rang = static_cast<std::size_t>(position);
-    if (rang >= courts_.size()) EtendsCourts(alphabet, rang);
+    if (rang >= courts_.size()) EtendCourts(alphabet, rang);
     std::memcpy(ou, courts_[rang].octets, kCourt);
     return ou + courts_[rang].longueur;
   }
@@ -41,8 +41,8 @@ class SymbolesUtf8 {
     std::size_t longueur;
   };
 
-  void EtendsCourts(const Alphabet& alphabet, std::size_t rang);
-  void Etends(const Alphabet& alphabet, std::size_t rang);
+  void EtendCourts(const Alphabet& alphabet, std::size_t rang);
+  void Etend(const Alphabet& alphabet, std::size_t rang);
 
   std::string (*forme_)(std::string_view);
   std::vector<std::string> textes_;  // by code + 1: element 0 is the empty text

@@ -67,14 +67,14 @@ bool SessionVue::CaseOuCadre(TexteVue nom) {
   const Plateau& plateau = principale_.plateau;
   if (const auto i = IndiceDe(nom, U"TxtCase("); i && *i <= plateau.Cases()) {
     const CaseTexte& b = plateau.TxtCase(*i);
-    Ligne(Texte(nom) + Paire(U"Text", Cite(b.Text)) + Place(b.Left, b.Top, b.Width, b.Height) +
-          Paire(U"Visible", b.Visible));
+    EcritLigne(Texte(nom) + Paire(U"Text", Cite(b.Text)) + Place(b.Left, b.Top, b.Width, b.Height) +
+               Paire(U"Visible", b.Visible));
     return true;
   }
   if (const auto i = IndiceDe(nom, U"Box("); i && *i <= plateau.Cadres()) {
     const CadreCarre& b = plateau.Box(*i);
     const Texte place = *i == 0 ? Texte() : Place(b.Left, b.Top, b.Width, b.Height);
-    Ligne(Texte(nom) + place + Paire(U"Visible", b.Visible));
+    EcritLigne(Texte(nom) + place + Paire(U"Visible", b.Visible));
     return true;
   }
   return false;
@@ -83,14 +83,14 @@ bool SessionVue::CaseOuCadre(TexteVue nom) {
 bool SessionVue::ArticleOuMenu(std::string_view nom) {
   for (const Menu& menu : principale_.menus) {
     if (menu.Name == nom) {
-      Ligne(DepuisUtf8(nom) + Paire(U"Caption", Cite(menu.Caption)));
+      EcritLigne(DepuisUtf8(nom) + Paire(U"Caption", Cite(menu.Caption)));
       return true;
     }
   }
   const ArticleMenu* article = principale_.TrouveArticle(nom);
   if (article == nullptr) return false;
-  Ligne(DepuisUtf8(nom) + Paire(U"Caption", Cite(article->Caption)) +
-        (article->Click ? Paire(U"Enabled", article->Enabled) : Texte()));
+  EcritLigne(DepuisUtf8(nom) + Paire(U"Caption", Cite(article->Caption)) +
+             (article->Click ? Paire(U"Enabled", article->Enabled) : Texte()));
   return true;
 }
 
@@ -109,14 +109,14 @@ bool SessionVue::DansFenetre(Fenetre& fenetre, std::string_view nom) {
     const Element* element = fenetre.Trouve(nom);
     if (element == nullptr) return false;
     if (element->genre == Genre::kListe || element->genre == Genre::kChampListe) {
-      Liste(*element);
+      EcritListe(*element);
       return true;
     }
     const std::string_view lettres = Proprietes(*element);
     if (lettres.empty()) return false;
     for (const char lettre : lettres) ligne += ProprieteElement(lettre, *element);
   }
-  Ligne(ligne);
+  EcritLigne(ligne);
   return true;
 }
 
@@ -129,11 +129,11 @@ bool SessionVue::Nom(TexteVue nom) {
                              [&](Fenetre* fenetre) { return DansFenetre(*fenetre, octets); });
 }
 
-void SessionVue::Liste(const Element& liste) {
+void SessionVue::EcritListe(const Element& liste) {
   const Texte texte = liste.genre == Genre::kChampListe ? Paire(U"Text", Cite(liste.Text)) : Texte();
-  Ligne(DepuisUtf8(liste.Name) + Paire(U"Visible", liste.Visible) + Paire(U"ListIndex", liste.ListIndex) +
-        texte);
-  for (const Texte& item : liste.items) Retrait(Cite(item));
+  EcritLigne(DepuisUtf8(liste.Name) + Paire(U"Visible", liste.Visible) +
+             Paire(U"ListIndex", liste.ListIndex) + texte);
+  for (const Texte& item : liste.items) EcritEnRetrait(Cite(item));
 }
 
 }  // namespace sudoku

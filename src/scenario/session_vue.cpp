@@ -64,11 +64,11 @@ Texte Paire(TexteVue nom, std::int64_t valeur) {
 SessionVue::SessionVue(Programme& programme, SystemeSansEcran& systeme, std::ostream& sortie)
     : jeu_(programme.Jeu()), principale_(programme.Principale()), systeme_(systeme), sortie_(sortie) {}
 
-void SessionVue::Ligne(TexteVue ligne) {
+void SessionVue::EcritLigne(TexteVue ligne) {
   sortie_ << VersUtf8(ligne) << '\n';
 }
 
-void SessionVue::Retrait(TexteVue ligne) {
+void SessionVue::EcritEnRetrait(TexteVue ligne) {
   sortie_ << "    " << VersUtf8(ligne) << '\n';
 }
 
@@ -100,11 +100,11 @@ std::optional<Texte> SessionVue::Montre(const std::vector<Mot>& arguments) {
 }
 
 void SessionVue::State() {
-  Ligne(U"VgEtat=" + Decimal(jeu_.VgEtat) + Paire(U"VgSilence", jeu_.VgSilence) +
-        Paire(U"VmTaille", jeu_.VmTaille) + Paire(U"VmCase", jeu_.VmCase) +
-        Paire(U"VmPartie", jeu_.VmPartie) + Paire(U"VmNom", Cite(jeu_.VmNom)) +
-        Paire(U"VmValeurs", Cite(jeu_.VmValeurs)) +
-        Paire(U"Tmr", principale_.TrouveMinuterie("Tmr")->Enabled) + Paire(U"VsResolu", jeu_.VsResolu));
+  EcritLigne(U"VgEtat=" + Decimal(jeu_.VgEtat) + Paire(U"VgSilence", jeu_.VgSilence) +
+             Paire(U"VmTaille", jeu_.VmTaille) + Paire(U"VmCase", jeu_.VmCase) +
+             Paire(U"VmPartie", jeu_.VmPartie) + Paire(U"VmNom", Cite(jeu_.VmNom)) +
+             Paire(U"VmValeurs", Cite(jeu_.VmValeurs)) +
+             Paire(U"Tmr", principale_.TrouveMinuterie("Tmr")->Enabled) + Paire(U"VsResolu", jeu_.VsResolu));
 }
 
 void SessionVue::Grid() {
@@ -113,7 +113,7 @@ void SessionVue::Grid() {
   for (int i = 1; i <= plateau.Cases(); ++i) {
     ligne += TexteDeGrille(plateau.TxtCase(i).Text);
     if (i % jeu_.VmTaille != 0) continue;
-    Ligne(ligne);
+    EcritLigne(ligne);
     ligne.clear();
   }
 }
@@ -123,7 +123,7 @@ void SessionVue::Etats() {
   for (int i = 1; i <= jeu_.VmGrille.Borne(); ++i) {
     ligne += Decimal(jeu_.VmGrille(i).Etat());
     if (i % jeu_.VmTaille != 0) continue;
-    Ligne(ligne);
+    EcritLigne(ligne);
     ligne.clear();
   }
 }
@@ -137,42 +137,43 @@ void SessionVue::Menus() {
       ligne += DepuisUtf8(article.Name);
     }
   }
-  Ligne(ligne);
+  EcritLigne(ligne);
 }
 
 void SessionVue::Scores() {
   for (std::size_t i = 1; i < jeu_.VgScores.size(); ++i) {
     const TypScore& score = jeu_.VgScores[i];
-    Ligne(Decimal(static_cast<std::int64_t>(i)) + U" " + Cite(score.Nom) + U" " + NeufDecimales(score.Temps));
+    EcritLigne(Decimal(static_cast<std::int64_t>(i)) + U" " + Cite(score.Nom) + U" " +
+               NeufDecimales(score.Temps));
   }
 }
 
 void SessionVue::Library() {
   for (std::size_t i = 1; i < jeu_.VgParties.size(); ++i) {
     const ClsPartie& partie = jeu_.VgParties[i];
-    Ligne(Decimal(static_cast<std::int64_t>(i)) + U" " + Cite(partie.Nom) + U" " + Cite(partie.Grille));
+    EcritLigne(Decimal(static_cast<std::int64_t>(i)) + U" " + Cite(partie.Nom) + U" " + Cite(partie.Grille));
   }
 }
 
 void SessionVue::Boxes() {
-  Ligne(U"TxtCase=" + Decimal(principale_.plateau.Cases()) + U" Box=" +
-        Decimal(principale_.plateau.Cadres()));
+  EcritLigne(U"TxtCase=" + Decimal(principale_.plateau.Cases()) + U" Box=" +
+             Decimal(principale_.plateau.Cadres()));
 }
 
 std::optional<Texte> SessionVue::Cell(const Nombre& Index) {
   if (Index.valeur < 1 || Index.valeur > principale_.plateau.Cases()) return U"pas de case " + Index.texte;
   const int i = static_cast<int>(Index.valeur);
   const CaseTexte& caseTexte = principale_.plateau.TxtCase(i);
-  Ligne(U"case " + Index.texte + Paire(U"texte", Cite(caseTexte.Text)) +
-        Paire(U"fond", Hexa6(caseTexte.BackColor)) + Paire(U"encre", Hexa6(caseTexte.ForeColor)) +
-        Paire(U"verrou", caseTexte.Locked) + Paire(U"tab", caseTexte.TabStop) +
-        Paire(U"relief", caseTexte.Appearance) + Paire(U"debut", caseTexte.SelStart) +
-        Paire(U"longueur", caseTexte.SelLength));
+  EcritLigne(U"case " + Index.texte + Paire(U"texte", Cite(caseTexte.Text)) +
+             Paire(U"fond", Hexa6(caseTexte.BackColor)) + Paire(U"encre", Hexa6(caseTexte.ForeColor)) +
+             Paire(U"verrou", caseTexte.Locked) + Paire(U"tab", caseTexte.TabStop) +
+             Paire(U"relief", caseTexte.Appearance) + Paire(U"debut", caseTexte.SelStart) +
+             Paire(U"longueur", caseTexte.SelLength));
   const ClsPos cellule = jeu_.VmGrille(i);
-  Ligne(U"  valeur=" + Cite(cellule.ValeurSaisie()) + Paire(U"etat", cellule.Etat()) +
-        Paire(U"possible", Cite(cellule.Possible())) + Paire(U"sure", Cite(cellule.SolutionSure())) +
-        Paire(U"poss", Cite(cellule.SolutionPoss())));
-  for (const Texte& phrase : Phrases(jeu_.VmGrille, i)) Retrait(phrase);
+  EcritLigne(U"  valeur=" + Cite(cellule.ValeurSaisie()) + Paire(U"etat", cellule.Etat()) +
+             Paire(U"possible", Cite(cellule.Possible())) + Paire(U"sure", Cite(cellule.SolutionSure())) +
+             Paire(U"poss", Cite(cellule.SolutionPoss())));
+  for (const Texte& phrase : Phrases(jeu_.VmGrille, i)) EcritEnRetrait(phrase);
   return {};
 }
 

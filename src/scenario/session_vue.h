@@ -39,9 +39,9 @@ class SessionVue {
   bool CaseOuCadre(TexteVue nom);
   bool ArticleOuMenu(std::string_view nom);
   bool DansFenetre(Fenetre& fenetre, std::string_view nom);
-  void Liste(const Element& liste);
-  void Ligne(TexteVue ligne);
-  void Retrait(TexteVue ligne);  // behind four blanks
+  void EcritListe(const Element& liste);
+  void EcritLigne(TexteVue ligne);
+  void EcritEnRetrait(TexteVue ligne);  // behind four blanks
 
   GameState& jeu_;
   Fenetre& principale_;
