@@ -10,8 +10,8 @@ namespace sudoku::lot {
 namespace {
 
 std::unique_ptr<Recit> FabriqueRecit(Format format) {
-  if (format == Format::kHtml) return RecitHtml();
-  return format == Format::kJson ? RecitJson() : RecitTexte();
+  if (format == Format::kHtml) return FabriqueRecitHtml();
+  return format == Format::kJson ? FabriqueRecitJson() : FabriqueRecitTexte();
 }
 
 class Demontrer : public Ouvrier, private Auditeur {

@@ -46,9 +46,9 @@ class Recit {
   virtual void Finit(std::int64_t grille, const Grille& VmGrille, const Bilan& bilan, std::string& s) = 0;
 };
 
-std::unique_ptr<Recit> RecitJson();
-std::unique_ptr<Recit> RecitTexte();
+std::unique_ptr<Recit> FabriqueRecitJson();
+std::unique_ptr<Recit> FabriqueRecitTexte();
 // A page, between PageAvant and PageApres (html.h); a grid is written when it ends.
-std::unique_ptr<Recit> RecitHtml();
+std::unique_ptr<Recit> FabriqueRecitHtml();
 
 }  // namespace sudoku::lot

@@ -17,7 +17,7 @@ constexpr std::size_t kPhrasesEntourees = 3;
 
 // A page. A refuted branch is folded into one line, and so is what is found again after a return to the base:
 // so that a level is kept until it is known how it ends.
-class Page : public Recit {
+class RecitEnPage : public Recit {
  public:
   void Commence(std::int64_t grille, const Grille& VmGrille, std::string_view champ, std::string& s) override;
   void Remplit(const Etape& etape, const Grille& grille, int verdict, std::span<const Remplissage> cases,
@@ -60,13 +60,13 @@ class Page : public Recit {
   SymbolesUtf8 symboles_{Html};
 };
 
-std::string Page::Ou(int cellule) const {
+std::string RecitEnPage::Ou(int cellule) const {
   const ClsPos position = depart_(cellule);
   return "case " + std::to_string(cellule) + " (ligne " + std::to_string(position.Ligne()) + ", colonne " +
          std::to_string(position.Colonne()) + ")";
 }
 
-void Page::Commence(std::int64_t grille, const Grille& VmGrille, std::string_view, std::string&) {
+void RecitEnPage::Commence(std::int64_t grille, const Grille& VmGrille, std::string_view, std::string&) {
   grille_ = grille;
   etapes_ = 0;
   depart_ = VmGrille;
@@ -82,7 +82,7 @@ void Page::Commence(std::int64_t grille, const Grille& VmGrille, std::string_vie
 }
 
 // The head of a step: its heading, which can be linked to, and its line in the table of contents.
-void Page::Ancre(const Etape& etape, const std::string& titre) {
+void RecitEnPage::Ancre(const Etape& etape, const std::string& titre) {
   etapes_ = etape.etape;
   const std::string id = Id(etape.etape);
   const std::string numero = "Étape " + std::to_string(etape.etape);
@@ -94,7 +94,7 @@ void Page::Ancre(const Etape& etape, const std::string& titre) {
   }
 }
 
-void Page::Remplit(const Etape& etape, const Grille& grille, int verdict, std::span<const Remplissage> cases,
+void RecitEnPage::Remplit(const Etape& etape, const Grille& grille, int verdict, std::span<const Remplissage> cases,
                    std::string&) {
   if (std::exchange(aReprendre_, false)) {
     reprise_ = true;
@@ -116,7 +116,7 @@ void Page::Remplit(const Etape& etape, const Grille& grille, int verdict, std::s
   EcritRaisons(grille, cases);
 }
 
-void Page::EcritRaisons(const Grille& grille, std::span<const Remplissage> cases) {
+void RecitEnPage::EcritRaisons(const Grille& grille, std::span<const Remplissage> cases) {
   std::string& s = Corps();
   s += "<ul>\n";
   for (const Remplissage& r : cases) {
@@ -130,7 +130,7 @@ void Page::EcritRaisons(const Grille& grille, std::span<const Remplissage> cases
   s += "</ul>\n</article>\n";
 }
 
-void Page::Reprend(const Etape&, std::string&) {
+void RecitEnPage::Reprend(const Etape&, std::string&) {
   plateau_.Reprend();
   for (const Niveau& niveau : niveaux_) {
     const Remplissage& r = niveau.supposition;
@@ -139,12 +139,12 @@ void Page::Reprend(const Etape&, std::string&) {
   aReprendre_ = true;
 }
 
-void Page::FermeReprise() {
+void RecitEnPage::FermeReprise() {
   if (std::exchange(reprise_, false)) Corps() += "</details>\n";
   aReprendre_ = false;
 }
 
-void Page::Suppose(const Etape& etape, int cellule, Code symbole, std::string&) {
+void RecitEnPage::Suppose(const Etape& etape, int cellule, Code symbole, std::string&) {
   FermeReprise();
   if (!plateau_.BasePrise()) plateau_.PrendBase(niveaux_.front().corps);
   niveaux_.emplace_back();
@@ -158,7 +158,7 @@ void Page::Suppose(const Etape& etape, int cellule, Code symbole, std::string&) 
   Corps() += "</article>\n";
 }
 
-void Page::Refute(const Etape& etape, int cellule, Code symbole, std::string&) {
+void RecitEnPage::Refute(const Etape& etape, int cellule, Code symbole, std::string&) {
   FermeReprise();
   etapes_ = etape.etape;
   const Niveau refute = std::move(niveaux_.back());
@@ -180,14 +180,14 @@ void Page::Refute(const Etape& etape, int cellule, Code symbole, std::string&) {
 }
 
 // The last level stands: it goes to the one below.
-void Page::FermeBranche() {
+void RecitEnPage::FermeBranche() {
   const Niveau branche = std::move(niveaux_.back());
   niveaux_.pop_back();
   Corps() += "<div class=\"branche\">\n" + branche.corps + "</div>\n";
   niveaux_.back().sommaire += branche.sommaire;
 }
 
-void Page::Finit(std::int64_t grille, const Grille& VmGrille, const Bilan& bilan, std::string& s) {
+void RecitEnPage::Finit(std::int64_t grille, const Grille& VmGrille, const Bilan& bilan, std::string& s) {
   FermeReprise();
   while (niveaux_.size() > 1) FermeBranche();
   const std::string numero = std::to_string(grille);
@@ -208,7 +208,7 @@ void Page::Finit(std::int64_t grille, const Grille& VmGrille, const Bilan& bilan
 }
 
 // The result, also where it is the last refuted attempt.
-void Page::EcritPlateauFinal(const Grille& VmGrille, std::string& s) {
+void RecitEnPage::EcritPlateauFinal(const Grille& VmGrille, std::string& s) {
   const Bloc& bloc = VmGrille.Donnees();
   for (int i = 1; i <= VmGrille.Borne(); ++i) {
     const auto cellule = static_cast<std::size_t>(i);
@@ -219,8 +219,8 @@ void Page::EcritPlateauFinal(const Grille& VmGrille, std::string& s) {
 
 }  // namespace
 
-std::unique_ptr<Recit> RecitHtml() {
-  return std::make_unique<Page>();
+std::unique_ptr<Recit> FabriqueRecitHtml() {
+  return std::make_unique<RecitEnPage>();
 }
 
 }  // namespace sudoku::lot

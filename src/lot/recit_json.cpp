@@ -7,7 +7,7 @@ namespace sudoku::lot {
 namespace {
 
 // An object a line, for each step and for the end; see the manual.
-class Objets : public Recit {
+class RecitEnObjets : public Recit {
  public:
   void Commence(std::int64_t, const Grille& VmGrille, std::string_view, std::string&) override {
     alphabet_ = VmGrille.Donnees().alphabet;
@@ -33,18 +33,18 @@ class Objets : public Recit {
   SymbolesUtf8 symboles_{Json};
 };
 
-void Objets::EcritTete(const Etape& etape, std::string& s) {
+void RecitEnObjets::EcritTete(const Etape& etape, std::string& s) {
   (s += "{\"grille\":") += std::to_string(etape.grille);
   (s += ",\"etape\":") += std::to_string(etape.etape);
   (s += ",\"niveau\":") += std::to_string(etape.niveau);
 }
 
-void Objets::EcritLieu(int cellule, Code symbole, std::string& s) {
+void RecitEnObjets::EcritLieu(int cellule, Code symbole, std::string& s) {
   (s += "{\"index\":") += std::to_string(cellule);
   ((s += ",\"valeur\":\"") += symboles_.De(*alphabet_, symbole)) += '"';
 }
 
-void Objets::Remplit(const Etape& etape, const Grille& grille, int verdict,
+void RecitEnObjets::Remplit(const Etape& etape, const Grille& grille, int verdict,
                      std::span<const Remplissage> cases, std::string& s) {
   EcritTete(etape, s);
   ((s += ",\"verdict\":") += std::to_string(verdict)) += ",\"cases\":[";
@@ -61,7 +61,7 @@ void Objets::Remplit(const Etape& etape, const Grille& grille, int verdict,
   s += "]}\n";
 }
 
-void Objets::EcritSupposition(const Etape& etape, std::string_view genre, int cellule, Code symbole,
+void RecitEnObjets::EcritSupposition(const Etape& etape, std::string_view genre, int cellule, Code symbole,
                               std::string& s) {
   EcritTete(etape, s);
   ((s += ",\"") += genre) += "\":";
@@ -69,7 +69,7 @@ void Objets::EcritSupposition(const Etape& etape, std::string_view genre, int ce
   s += "}}\n";
 }
 
-void Objets::Finit(std::int64_t grille, const Grille& VmGrille, const Bilan& bilan, std::string& s) {
+void RecitEnObjets::Finit(std::int64_t grille, const Grille& VmGrille, const Bilan& bilan, std::string& s) {
   (s += "{\"grille\":") += std::to_string(grille);
   (s += ",\"fin\":\"") += bilan.message;
   s += "\",\"resultat\":\"";
@@ -81,8 +81,8 @@ void Objets::Finit(std::int64_t grille, const Grille& VmGrille, const Bilan& bil
 
 }  // namespace
 
-std::unique_ptr<Recit> RecitJson() {
-  return std::make_unique<Objets>();
+std::unique_ptr<Recit> FabriqueRecitJson() {
+  return std::make_unique<RecitEnObjets>();
 }
 
 }  // namespace sudoku::lot

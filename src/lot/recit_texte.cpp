@@ -12,7 +12,7 @@ std::string Ou(const ClsPos& cellule) {
 }
 
 // The road as a person reads it, with what rests on open suppositions set in by their number.
-class Lignes : public Recit {
+class RecitEnLignes : public Recit {
  public:
   void Commence(std::int64_t grille, const Grille& VmGrille, std::string_view champ,
                 std::string& s) override {
@@ -49,7 +49,7 @@ class Lignes : public Recit {
   SymbolesUtf8 symboles_;
 };
 
-void Lignes::Remplit(const Etape& etape, const Grille& grille, int verdict,
+void RecitEnLignes::Remplit(const Etape& etape, const Grille& grille, int verdict,
                      std::span<const Remplissage> cases, std::string& s) {
   EcritTete(etape, s);
   s += std::to_string(cases.size()) + " case(s) sur " + std::to_string(verdict) + " à remplir\n";
@@ -68,7 +68,7 @@ void Lignes::Remplit(const Etape& etape, const Grille& grille, int verdict,
   }
 }
 
-void Lignes::Finit(std::int64_t, const Grille& VmGrille, const Bilan& bilan, std::string& s) {
+void RecitEnLignes::Finit(std::int64_t, const Grille& VmGrille, const Bilan& bilan, std::string& s) {
   const Bloc& bloc = VmGrille.Donnees();
   (s += bilan.message) += '\n';
   if (bilan.comptes.retours > 0) s += "Retours arrière : " + std::to_string(bilan.comptes.retours) + "\n";
@@ -80,8 +80,8 @@ void Lignes::Finit(std::int64_t, const Grille& VmGrille, const Bilan& bilan, std
 
 }  // namespace
 
-std::unique_ptr<Recit> RecitTexte() {
-  return std::make_unique<Lignes>();
+std::unique_ptr<Recit> FabriqueRecitTexte() {
+  return std::make_unique<RecitEnLignes>();
 }
 
 }  // namespace sudoku::lot
