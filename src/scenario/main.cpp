@@ -11,12 +11,19 @@
 
 namespace {
 
-constexpr int kSessionIllisible = 1;  // to its end
+constexpr int kIncomplet = 1;  // the session wasn't read to its end, or what it prints not written
 constexpr int kAppelIncorrect = 2;
 
 int Illisible(const char* nom) {
   std::cerr << sudoku::Montrable(nom) << " : la session ne peut pas être lue\n";
-  return kSessionIllisible;
+  return kIncomplet;
+}
+
+// `statut`, unless what was printed got lost.
+int Finit(int statut) {
+  if (std::cout.flush()) return statut;
+  std::cerr << "sudoku-scenario : la sortie n'a pas pu être écrite\n";
+  return kIncomplet;
 }
 
 }  // namespace
@@ -28,7 +35,7 @@ int main(int argc, char** argv) {
   }
   if (argc == 2 && std::string_view(argv[1]) == "--help") {
     std::cout << sudoku::kAide;
-    return 0;
+    return Finit(0);
   }
   std::signal(SIGXFSZ, SIG_IGN);  // a write beyond the limit fails, and ends nothing
   std::ifstream fichier;
@@ -42,8 +49,7 @@ int main(int argc, char** argv) {
     sudoku::Session(session, std::cout, fichiers).Joue();
   } catch (const std::bad_alloc&) {
     std::cerr << "sudoku-scenario : mémoire insuffisante\n";
-    return kSessionIllisible;
+    return kIncomplet;
   }
-  std::cout.flush();
-  return session.bad() ? Illisible(argc == 2 ? argv[1] : "entrée standard") : 0;
+  return Finit(session.bad() ? Illisible(argc == 2 ? argv[1] : "entrée standard") : 0);
 }
