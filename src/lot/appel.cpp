@@ -1,15 +1,16 @@
 #include "lot/appel.h"
 
 #include <getopt.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
 #include <map>
 #include <string_view>
 #include <thread>
 
 #include "grid/geometrie.h"
+#include "lot/sortie.h"
 
 namespace sudoku::lot {
 namespace {
@@ -188,10 +189,6 @@ Appel Lit(const std::vector<std::string>& mots) {
   return appel;
 }
 
-void Ecrit(std::FILE* flux, std::string_view texte) {
-  std::fwrite(texte.data(), 1, texte.size(), flux);
-}
-
 // The word after --symboles is a value, whatever it is.
 bool AideDemandee(const std::vector<std::string>& mots) {
   for (std::size_t i = 0; i < mots.size() && mots[i] != "--"; ++i) {
@@ -207,15 +204,15 @@ std::optional<Appel> LitAppel(int argc, const char* const* argv, int& statut) {
   const std::vector<std::string> mots(argv + std::min(argc, 1), argv + argc);
   statut = 0;
   if (AideDemandee(mots)) {
-    Ecrit(stdout, kAide);
+    Sortie().Ecrit(kAide);
     return std::nullopt;
   }
   try {
     if (mots.empty()) throw AppelIncorrect{"il manque la commande"};
     return Lit(mots);
   } catch (const AppelIncorrect& erreur) {
-    Ecrit(stderr,
-          "sudoku-lot : " + Montrable(erreur.raison) + "\nsudoku-lot --aide dit comment l'appeler.\n");
+    EcritTout(STDERR_FILENO,
+              "sudoku-lot : " + Montrable(erreur.raison) + "\nsudoku-lot --aide dit comment l'appeler.\n");
     statut = 2;
     return std::nullopt;
   }

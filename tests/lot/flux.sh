@@ -60,7 +60,9 @@ for signal in defaut ignore; do
 done
 
 if [ -e /dev/full ]; then
-  dit=$(echo $grille | "$lot" resoudre --symboles 1234 2>&1 > /dev/full)
-  [ "$?:$dit" = "1:sortie standard: plus de place sur le disque" ] || dit "full disk: “$dit”"
+  for appel in 'resoudre --symboles 1234' --aide; do
+    dit=$(echo $grille | "$lot" $appel 2>&1 > /dev/full)
+    [ "$?:$dit" = "1:sortie standard: plus de place sur le disque" ] || dit "full disk, $appel: “$dit”"
+  done
 fi
 exit $echec
