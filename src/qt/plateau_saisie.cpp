@@ -1,14 +1,25 @@
-// The keys of the board.
+// The board under the player's hands: keys, clipboard, palette of symbols.
 
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
+#include <QToolTip>
 
 #include "qt/editeur_case.h"
+#include "qt/palette_symboles.h"
 #include "qt/plateau_qt.h"
+#include "qt/texte_qt.h"
 #include "qt/touches.h"
 
 namespace sudoku {
+
+void PlateauQt::BrancheEditeur() {
+  editeur_->Saisi = [this](const QString& texte) { Tape(DepuisQt(texte)); };
+  editeur_->Touche = [this](QKeyEvent& evenement) { return Touche(evenement); };
+  editeur_->Revenu = [this] { SelectionneEncore(); };
+  editeur_->Clic = [this] { Focalise(focus_); };
+  editeur_->Menu = [this] { OuvrePalette(); };
+}
 
 bool PlateauQt::Touche(QKeyEvent& evenement) {
   if (ToucheDeFenetre(evenement) || ToucheDeConfort(evenement) || ToucheDeLieu(evenement)) return true;
@@ -129,6 +140,70 @@ void PlateauQt::keyPressEvent(QKeyEvent* evenement) {
   } else {
     evenement->ignore();
   }
+}
+
+// ---- what is typed, pasted, copied
+
+void PlateauQt::Execute(const std::function<Texte()>& acte) {
+  Texte raison;
+  if (acte) pilote_.Execute([&] { raison = acte(); });
+  if (!raison.empty()) Dit(VersQt(raison));
+}
+
+void PlateauQt::Dit(const QString& raison) {
+  constexpr int kDuree = 4000;  // milliseconds
+  const QRect ici = focus_ != 0 ? RectangleCase(focus_) : viewport()->rect();
+  const QPoint coin = focus_ != 0 ? ici.bottomLeft() : ici.center();
+  QToolTip::showText(viewport()->mapToGlobal(coin), raison.toHtmlEscaped(), viewport(), {}, kDuree);
+}
+
+// The user makes this the text of the box with the focus.
+void PlateauQt::Tape(const Texte& texte) {
+  if (!fenetre_.plateau.TxtCase(focus_).Locked)
+    pilote_.Execute([&] { fenetre_.plateau.Saisit(focus_, texte); });
+}
+
+void PlateauQt::OuvrePalette() {
+  if (!AUneCase() || !fenetre_.conforts.Symboles) return;
+  const CaseTexte& caseTexte = fenetre_.plateau.TxtCase(focus_);
+  const Texte contenu = caseTexte.Text;
+  const bool libre = !caseTexte.Locked;
+  const auto copie = [contenu] { QApplication::clipboard()->setText(VersQt(contenu)); };
+  auto* palette = new PaletteSymboles(fenetre_.conforts.Symboles(), libre, contenu, this);
+  palette->Choisi = [this](const Texte& symbole) { Tape(symbole); };
+  palette->Ajoute({{QStringLiteral("Couper"), libre && !contenu.empty(),
+                    [this, copie] {
+                      copie();
+                      Tape({});
+                    }},
+                   {QStringLiteral("Copier"), !contenu.empty(), copie},
+                   {QStringLiteral("Coller"), true, [this] { Colle(true); }},
+                   {QStringLiteral("Effacer"), libre && !contenu.empty(), [this] { Tape({}); }}});
+  palette->Montre(
+      QRect(viewport()->mapToGlobal(RectangleCase(focus_).topLeft()), RectangleCase(focus_).size()));
+}
+
+void PlateauQt::DeposeTexte(const QString& texte) {
+  Execute([&] { return fenetre_.conforts.Colle(DepuisQt(texte)); });
+}
+
+// A grid goes to the board, any other text into the box with the focus, in place of all that it holds or of
+// what is selected there.
+void PlateauQt::Colle(bool remplace) {
+  const QString texte = QApplication::clipboard()->text();
+  if (fenetre_.plateau.Cases() == 0 || fenetre_.conforts.EstGrille(DepuisQt(texte)))
+    return DeposeTexte(texte);
+  if (texte.isEmpty())
+    return Dit(QStringLiteral("Rien à coller : le presse-papiers ne contient pas de texte"));
+  if (!AUneCase()) return;
+  const Texte verrou = fenetre_.conforts.Verrou(focus_);
+  if (!verrou.empty()) return Dit(VersQt(verrou));
+  remplace ? Tape(DepuisQt(texte)) : editeur_->paste();
+}
+
+void PlateauQt::CopieGrille() {
+  if (fenetre_.plateau.Cases() == 0 || !fenetre_.conforts.EcritGrille) return;
+  QApplication::clipboard()->setText(VersQt(fenetre_.conforts.EcritGrille()));
 }
 
 }  // namespace sudoku
