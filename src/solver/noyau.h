@@ -9,8 +9,8 @@ namespace sudoku {
 
 // The solve pass for grids of blocks of side 3 to 8 whose cells hold single symbols, none wrong (Etat 3), and
 // none typed and unproved (Etat 2) but for those that the solver supposed: what a search does by the
-// thousand, without facts. It gives what AutoDriver::JeuSolve and the engine give on such a board, deduction
-// for deduction.
+// thousand, without facts. It gives what TravailGrille::JeuSolve and the engine give on such a board,
+// deduction for deduction.
 
 // What a solve pass made of a board.
 template <int S>

@@ -7,7 +7,7 @@
 #include "plain/comparaison.h"
 
 // Every evaluation and every run of the solver ends, within the numbers of steps that are proved beside
-// Evaluateur::Evaluation, MoteurDe::Deduit, TravailGrille::JeuSolve and AutoDriver::Cherche. Steps are
+// Evaluateur::Evaluation, DeductionsSur::Deduit, TravailGrille::JeuSolve and AutoDriver::Cherche. Steps are
 // counted, not time; a loop without end would keep the test from ending.
 
 namespace sudoku {
