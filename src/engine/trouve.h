@@ -11,10 +11,10 @@ namespace {
 // The Trouveur for a side. More lanes than those of side 5 take too many registers: comparing them all costs
 // more than counting first.
 template <int S>
-using Trouve = std::conditional_t<S <= 5, TrouveVoies<S>, TrouveComptes<S>>;
+using TrouveurDe = std::conditional_t<S <= 5, TrouveVoies<S>, TrouveComptes<S>>;
 
 template <int S, class U>
-using Deductions = DeductionsSur<Trouve<S>, U>;
+using Deductions = DeductionsSur<TrouveurDe<S>, U>;
 
 }  // namespace
 }  // namespace sudoku::SUDOKU_MOTEUR
