@@ -9,9 +9,12 @@
 namespace sudoku {
 
 // Units of all kinds as one number, in the order in which the engine goes through them: block, row, column of
-// each number.
+// each number. Both count from 0.
 constexpr int Unite(int type, int numero) {
   return 3 * numero + kCarre - type;
+}
+constexpr int NumeroDe(int u) {
+  return u / 3;
 }
 constexpr TypeUnite TypeDe(int u) {
   return static_cast<TypeUnite>(kCarre - u % 3);

@@ -127,7 +127,7 @@ class DeductionsSur : public T {
 
   // What a fact of unit u begins with.
   static Argument De(Genre genre, int u) {
-    return {.genre = genre, .type = TypeDe(u), .unite = static_cast<std::int16_t>(u / 3 + 1)};
+    return {.genre = genre, .type = TypeDe(u), .unite = static_cast<std::int16_t>(NumeroDe(u) + 1)};
   }
   template <class... B>
   std::uint32_t NoteArgument(const Argument& argument, const B&... masques) {

@@ -40,7 +40,7 @@ struct Parts {
   // Cell, from 0, at a place of unit u.
   constexpr int Cellule(int u, int place) const {
     const int N = S * S;
-    const int n = u / 3;
+    const int n = NumeroDe(u);
     if (TypeDe(u) == kLigne) return n * N + place;
     if (TypeDe(u) == kColonne) return place * N + n;
     return (n / S * S + place / S) * N + n % S * S + place % S;
@@ -64,8 +64,8 @@ struct Parts {
   // The unit of another kind that has all these places of unit u, two or more; unite -1 if there is none.
   constexpr Commune UniteCommune(int u, const Bits& lieux) const {
     const int premier = Premier(lieux);
-    const int bande = u / 3 / S;
-    const int pile = u / 3 % S;
+    const int bande = NumeroDe(u) / S;
+    const int pile = NumeroDe(u) % S;
     const int g = premier / S;
     if (Vide(lieux & ~groupe[g])) {
       if (TypeDe(u) == kCarre) return {Unite(kLigne, bande * S + g), groupe[pile]};
@@ -94,8 +94,8 @@ struct Parts {
   // Numbers - 1 of the units of kind type2 that have these places of unit u, where one of the two is a
   // block.
   constexpr Bits Cle(int u, TypeUnite type2, const Bits& lieux) const {
-    const int bande = u / 3 / S;
-    const int pile = u / 3 % S;
+    const int bande = NumeroDe(u) / S;
+    const int pile = NumeroDe(u) % S;
     const int type = TypeDe(u);
     Bits cle{};
     for (int k = 0; k < S; ++k) {

@@ -160,7 +160,7 @@ void TrouveComptes<S>::ChangePlace(int cellule, int symbole, bool la) {
     const int place = PlaceDe<S>(g, cellule);
     la ? Ajoute<S>(places_[u], symbole, place) : Retire<S>(places_[u], symbole, place);
     nombres_[u].n[symbole] = static_cast<std::uint8_t>(nombres_[u].n[symbole] + (la ? 1 : -1));
-    parSymbole_[g][symbole].n[u / 3] = nombres_[u].n[symbole];
+    parSymbole_[g][symbole].n[NumeroDe(u)] = nombres_[u].n[symbole];
   }
   Mot* const ligne = candidats_[cellule / kN];
   la ? Ajoute<S>(ligne, cellule % kN, symbole) : Retire<S>(ligne, cellule % kN, symbole);

@@ -213,7 +213,7 @@ bool TrouveVoies<S>::EnleveTous(int cellule, Bits symboles) {
     const int u = lieu.unite[g];
     candidats_[u][lieu.place[g]] &= static_cast<Mot>(~symboles);
     Chaque(symboles, [&](int s) {
-      parSymbole_[g][s][u / 3] = places_[u][s] &= static_cast<Mot>(~UnBit(lieu.place[g]));
+      parSymbole_[g][s][NumeroDe(u)] = places_[u][s] &= static_cast<Mot>(~UnBit(lieu.place[g]));
     });
   }
   Base::Salit(cellule, symboles);
@@ -232,7 +232,7 @@ void TrouveVoies<S>::Remplace(int cellule, Bits sequence) {
     const int u = lieu.unite[g];
     candidats_[u][lieu.place[g]] = static_cast<Mot>(sequence);
     Chaque(avant ^ sequence, [&](int s) {
-      parSymbole_[g][s][u / 3] = places_[u][s] ^= static_cast<Mot>(UnBit(lieu.place[g]));
+      parSymbole_[g][s][NumeroDe(u)] = places_[u][s] ^= static_cast<Mot>(UnBit(lieu.place[g]));
     });
   }
   Base::Salit(cellule, avant & ~sequence);

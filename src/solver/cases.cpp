@@ -20,7 +20,7 @@ void Cases<S>::Pose(int cellule, int symbole) {
   const auto bit = [](int n) { return static_cast<Mot>(Mot{1} << n); };
   const Lieu<S>& lieu = kLieux<S>.lieux[cellule];
   for (int g = 0; g < 3; ++g) {
-    const int numero = lieu.unite[g] / 3;
+    const int numero = NumeroDe(lieu.unite[g]);
     this->symboles[g][numero] |= bit(symbole);
     this->unites[g][symbole] |= bit(numero);
     this->ouvertes[g][numero] &= static_cast<Mot>(~bit(lieu.place[g]));
