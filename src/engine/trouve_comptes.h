@@ -74,7 +74,7 @@ bool TrouveComptes<S>::Amorce(Appui appui) {
   this->Commence(appui);
   bool complets = true;
   ChaqueLigne<S>(this->contenus_, [&](int l, const auto& candidats, const auto&) SUDOKU_LAMBDA_EN_LIGNE {
-    RangeChaque<S>(candidats_[l], candidats);
+    EcritChaque<S>(candidats_[l], candidats);
     Octets<Bits>& comptes = comptes_[Unite(kLigne, l)];
     Compte(candidats_[l], comptes);
     this->NoteSeuls(l, Entre(comptes, 1, 1));
@@ -104,7 +104,7 @@ void TrouveComptes<S>::Transpose() {
       kN, [&](int l) { return comptes_[Unite(kLigne, l)].n; },
       [&](int c) { return comptes_[Unite(kColonne, c)].n; });
   ChaquePlaces<S>(this->contenus_, [&](int u, const auto& places) SUDOKU_LAMBDA_EN_LIGNE {
-    RangeChaque<S>(places_[u], places);
+    EcritChaque<S>(places_[u], places);
     Compte(places_[u], nombres_[u]);
   });
   for (const TypeUnite type : {kCarre, kLigne, kColonne}) {

@@ -105,7 +105,7 @@ bool TrouveVoies<S>::Amorce(Appui appui) {
 template <int S>
 void TrouveVoies<S>::Transpose() {
   ChaqueColonne<S>(contenus_, [&](int c, const auto& colonne) SUDOKU_LAMBDA_EN_LIGNE {
-    RangeChaque<S>(candidats_[Unite(kColonne, c)], colonne);
+    EcritChaque<S>(candidats_[Unite(kColonne, c)], colonne);
   });
   for (int b = 0; b < N; ++b) {
     Mot* const carre = candidats_[Unite(kCarre, b)];
@@ -115,7 +115,7 @@ void TrouveVoies<S>::Transpose() {
     }
   }
   ChaquePlaces<S>(contenus_, [&](int u, const auto& places)
-                                 SUDOKU_LAMBDA_EN_LIGNE { RangeChaque<S>(places_[u], places); });
+                                 SUDOKU_LAMBDA_EN_LIGNE { EcritChaque<S>(places_[u], places); });
   tournees_ = false;
   Base::ToutSale();
 }

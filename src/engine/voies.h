@@ -125,7 +125,7 @@ SUDOKU_EN_LIGNE Voies<S, P> Lit(const MotDe<S>* p) {
 }
 // The registers that f(number of the register) gives.
 template <int S, class F>
-SUDOKU_EN_LIGNE void RangeChaque(MotDe<S>* p, F f) {
+SUDOKU_EN_LIGNE void EcritChaque(MotDe<S>* p, F f) {
   Voies<S>::Chaque([&](int i) {
     const typename Voies<S>::Registre registre = f(i);
     std::memcpy(p + i * Voies<S>::kParRegistre, &registre, sizeof registre);
@@ -133,7 +133,7 @@ SUDOKU_EN_LIGNE void RangeChaque(MotDe<S>* p, F f) {
 }
 template <int S>
 SUDOKU_EN_LIGNE void Ecrit(MotDe<S>* p, const Voies<S>& v) {
-  RangeChaque<S>(p, [&](int i) { return v.r[i]; });
+  EcritChaque<S>(p, [&](int i) { return v.r[i]; });
 }
 // The register i of lanes that all hold n.
 template <int S>
