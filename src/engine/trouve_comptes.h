@@ -42,7 +42,7 @@ class TrouveComptes : public Suivi<S>, public TrouveMasques<TrouveComptes<S>, Bi
   const Octets<Bits>& NombresDuSymbole(int type, int s) const { return parSymbole_[type][s]; }
   bool Nue(int u, int depuis, Trouvaille<Bits>& t);
   Bits Perdants(int u, int s, const Bits& sauf) const { return Places(u, s) & ~sauf; }
-  Bits Autres(int u, Bits lieux, const Bits& symboles) const;
+  Bits Autres(int u, const Bits& lieux, const Bits& symboles) const;
   static int Fois(const Bits&, int) { return 1; }
   static int Premiere(int s) { return s; }
   Bits AChercher() { return this->SymbolesSales(); }
@@ -145,7 +145,8 @@ void TrouveComptes<S>::ChaqueReduite(F f) {
 }
 
 template <int S>
-typename TrouveComptes<S>::Bits TrouveComptes<S>::Autres(int u, Bits lieux, const Bits& symboles) const {
+typename TrouveComptes<S>::Bits TrouveComptes<S>::Autres(int u, const Bits& lieux,
+                                                         const Bits& symboles) const {
   Bits autres{};
   Chaque(lieux, [&](int place) {
     if (!(CandidatsDe(this->Cellule(u, place)) == symboles)) autres |= Bit<Bits>(place);
