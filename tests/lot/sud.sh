@@ -58,6 +58,15 @@ rendu=$(printf 'start "\\"jeu.sud\\""\nshow grid\ntype 2 "2"\nclick MnuSave\nedi
 rendu=$("$lot" exporter jeu.sud)
 [[ $rendu == "$ligne"$'\n'"1021"*$'\t'"ici" ]] || dit "the saved game comes out as “$rendu”"
 
+# The last game that has a number, and the one behind it.
+grille='10 0 0 0 0 020 0 030 0 0 0 0 040'
+{ printf '1234\n%s\n' "$grille"; yes "p-$grille" | head -n 40000; printf '\0'; } > mille.sud
+for cas in '32767 VmPartie=32767' '32768 message "FRMParties.Valide : 9 VmPartie=0'; do
+  rendu=$(printf 'start "\\"mille.sud\\""\nselect LstLoad %s\nclick BtOK\nshow state\n' "${cas%% *}" | "$scenario" |
+    grep -oE '^message "[^:]*: 9|VmPartie=[0-9]*' | paste -sd' ')
+  [ "$rendu" = "${cas#* }" ] || dit "of game ${cas%% *}: $rendu"
+done
+
 "$scenario" /proc/self/mem > sortie 2>&1 && dit "a session that can't be read ends well"
 grep -q '^/proc/self/mem : ' sortie || dit "“$(cat sortie)” for a session that can't be read"
 
