@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QHelpEvent>
 #include <QInputMethodEvent>
@@ -259,6 +260,18 @@ TEST_F(UnPlateau, LaPaletteDonneTousLesSymboles) {
   ASSERT_NE(QApplication::activePopupWidget(), nullptr);
   QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
   EXPECT_EQ(changements.size(), 1U);
+  // With the mouse, on a box and on the editor over it.
+  const QPoint ici = j.Ecran().RectangleCase(6).center();
+  QTest::mouseClick(j.Ecran().viewport(), Qt::RightButton, {}, ici);
+  for (QWidget* cible : {j.Ecran().viewport(), static_cast<QWidget*>(&Editeur())}) {
+    const QPoint la = cible->mapFrom(j.Ecran().viewport(), ici);
+    QContextMenuEvent clic(QContextMenuEvent::Mouse, la, cible->mapToGlobal(la));
+    QApplication::sendEvent(cible, &clic);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::mouseClick(QApplication::activePopupWidget()->findChild<QToolButton*>(), Qt::LeftButton);
+    EXPECT_EQ(changements.back(), std::pair(6, Texte(U"♠")));
+    changements.clear();
+  }
 }
 
 TEST_F(UnPlateau, UnFichierDeposeSeChargeApresLaQuestion) {
