@@ -39,14 +39,9 @@ class Joueur {
   Joueur() : systeme_(sortie_, disque_, [this] { return Repond(); }), programme_(systeme_) {}
 
   void Demarre(const std::string& chemin) { programme_.Demarre(DepuisUtf8("\"" + chemin + "\"")); }
-  // The user opens a game file: as Demarre, in a game that runs.
-  void Charge(const std::string& chemin) {
-    programme_.LeStockage().JeuLoad(DepuisUtf8("\"" + chemin + "\""));
-  }
   // The user makes `texte` of the box of cell i.
   void Tape(int i, TexteVue texte) { programme_.Principale().plateau.Saisit(i, texte); }
   void Clique(const char* article) { programme_.Principale().TrouveArticle(article)->Click(); }
-  Programme& LeProgramme() { return programme_; }
   GameState& Jeu() { return programme_.Jeu(); }
   std::string Sortie() const { return sortie_.str(); }
   bool AVu(const std::string& texte) const { return Sortie().find(texte) != std::string::npos; }

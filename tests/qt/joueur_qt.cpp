@@ -133,11 +133,4 @@ std::string JoueurQt::Grille() {
   return grille;
 }
 
-QColor JoueurQt::Fond(int i) {
-  const QImage image = Ecran().viewport()->grab().toImage();
-  const double dpr = image.devicePixelRatio();
-  const QPoint coin = Ecran().RectangleCase(i).topLeft() + QPoint(4, 4);
-  return image.pixelColor((QPointF(coin) * dpr).toPoint());
-}
-
 }  // namespace sudoku

@@ -49,8 +49,6 @@ class JoueurQt {
   SystemeQt& LeSysteme() { return systeme_; }
   // The texts on the board, "." for an empty box.
   std::string Grille();
-  // The background of a box, at a pixel.
-  QColor Fond(int i);
 
  private:
   struct Attendue {
