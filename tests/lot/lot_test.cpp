@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <random>
 #include <vector>
 
 #include "engine/evaluation.h"
@@ -12,54 +11,6 @@
 
 namespace sudoku::lot {
 namespace {
-
-using Grille4 = std::array<int, 17>;  // by cell; element 0 unused
-
-bool Libre(const Grille4& grille, std::size_t cellule, int symbole) {
-  const auto carre = [](std::size_t i) { return (i - 1) / 8 * 2 + (i - 1) % 4 / 2; };
-  for (std::size_t i = 1; i < grille.size(); ++i) {
-    const bool voisine =
-        (i - 1) / 4 == (cellule - 1) / 4 || (i - 1) % 4 == (cellule - 1) % 4 || carre(i) == carre(cellule);
-    if (i != cellule && voisine && grille[i] == symbole) return false;
-  }
-  return true;
-}
-
-// The solutions from this cell on, two at the most, by trying everything.
-int EnEssayant(Grille4 grille, std::size_t cellule = 1) {
-  if (cellule == grille.size()) return 1;
-  const int donnee = grille[cellule];
-  int nombre = 0;
-  for (int s = 0; s < 4; ++s) {
-    grille[cellule] = s;
-    if ((donnee < 0 || donnee == s) && Libre(grille, cellule, s)) nombre += EnEssayant(grille, cellule + 1);
-  }
-  return std::min(nombre, 2);
-}
-
-TEST(CompteurSolutions, CommeEnEssayantTout) {
-  const Geometrie geometrie(4);
-  CompteurSolutions compteur;
-  std::mt19937 alea(4);
-  std::array<int, 3> vus{};
-  for (int essai = 0; essai < 3000; ++essai) {
-    // Cells of a right grid, and sometimes another symbol.
-    Grille4 donnees{};
-    for (std::size_t i = 1; i < donnees.size(); ++i) {
-      const std::size_t juste = ((i - 1) / 4 % 2 * 2 + (i - 1) / 8 + (i - 1)) % 4;
-      donnees[i] = alea() % 10 < 6 ? -1 : static_cast<int>(alea() % 16 == 0 ? alea() % 4 : juste);
-    }
-    const int attendues = EnEssayant(donnees);
-    ASSERT_EQ(compteur.Compte(geometrie, donnees), attendues) << "try " << essai;
-    ++vus[static_cast<std::size_t>(attendues)];
-    if (attendues == 0) continue;
-    Grille4 trouvee{};
-    std::copy_n(compteur.Solution().begin() + 1, 16, trouvee.begin() + 1);
-    EXPECT_EQ(EnEssayant(trouvee), 1) << "try " << essai;
-    for (std::size_t i = 1; i < donnees.size(); ++i) EXPECT_TRUE(donnees[i] < 0 || donnees[i] == trouvee[i]);
-  }
-  EXPECT_GT(*std::ranges::min_element(vus), 300) << "each count is met often";
-}
 
 TEST(CompteurSolutions, UneSeuleCase) {
   CompteurSolutions compteur;

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -157,6 +158,7 @@ TEST(Fenetres, LeDialogueDeFichierSauveEtCharge) {
   j.NouvelleGrille(QStringLiteral("1234"));
   j.Quand("fichier", [&](QWidget& boite) {
     EXPECT_EQ(boite.windowTitle(), QStringLiteral("Sauvegarde du jeu"));
+    EXPECT_EQ(dynamic_cast<QFileDialog&>(boite).nameFilters(), QStringList{"Sudoku Files (*.sud)"});
     j.Tape(sans);
     j.Touche(Qt::Key_Return);
   });

@@ -65,27 +65,6 @@ TEST(LitSud, ChaqueFormeEtCeQuiResteLu) {
   for (const auto& c : cas) EXPECT_EQ(Resume(LitSud(c.octets)), c.resume) << testing::PrintToString(c.octets);
 }
 
-TEST(EcritSud, RelitEtRecritALOctetPourToutesLesTailles) {
-  for (const std::size_t N : {1U, 4U, 9U, 16U, 25U, 169U}) {
-    for (const char32_t premier : {U'-', U'!', U'À', U'Œ', U'α', U'\x10300'}) {
-      Texte symboles, grille, etats;
-      for (std::size_t i = 0; i < N; ++i) symboles += premier + static_cast<char32_t>(i);
-      for (std::size_t i = 0; i < N * N; ++i) {
-        grille += {i % 2 == 0 ? symboles[i % N] : U' ', U'0'};
-        etats += {i % 3 == 0 ? symboles[i % N] : U' ', static_cast<char32_t>(U'0' + i % 4)};
-      }
-      const std::string octets = EcritSud(symboles, grille, {{}, {U"Œuvre-d'été €", etats}, {U"", U""}},
-                                          {{}, {U"Jean-Luc", Jours(197'000)}, {U"", Jours(90'609'000)}});
-      const LectureSud lu = LitSud(octets);
-      ASSERT_EQ(lu.erreur, std::nullopt);
-      Texte attendu = symboles;
-      attendu.append(U"|").append(grille).append(U"|Œuvre-d'été €=").append(etats);
-      EXPECT_EQ(Resume(lu), VersUtf8(attendu.append(U"|=|scores Jean-Luc=00:03:17 =25:10:09")));
-      EXPECT_EQ(EcritSud(*lu.VmValeurs, *lu.grille, lu.VgParties, *lu.VgScores), octets);
-    }
-  }
-}
-
 // Whatever a name or a cell holds beside the two characters that stand for "-" and for each other.
 TEST(EcritSud, LesSignesDuTiretReviennent) {
   const Texte lettres = U"-\x1F\x1Ex";
