@@ -29,7 +29,9 @@ Grille TravailGrille::Rend(bool /*contenus*/) {
 }
 
 void TravailGrille::Charge(int cellule, Code symbole, std::int32_t etat) {
-  travail_(cellule).Load(travail_.Donnees().alphabet->TexteDe(symbole), etat);
+  Bloc& bloc = travail_.Donnees();
+  bloc.saisie[Rang(cellule)] = symbole;
+  bloc.etat[Rang(cellule)] = etat;
 }
 
 // It ends: a cell is written at most twice, once in each way and in that order.
