@@ -61,7 +61,7 @@ class TrouveVoies : public Suivi<S> {
   }
   void Remplace(int cellule, Bits sequence);
 
- private:
+ protected:
   using Base = Suivi<S>;
   using Base::contenus_, Base::prouves_, Base::kVoies, Base::kUnites, Base::N;
   using Mot = MotDe<S>;
@@ -70,14 +70,9 @@ class TrouveVoies : public Suivi<S> {
 
   void Tourne();
   template <class F>
-  void FiguresDe(int s, F f) const;
-  template <class F>
   static void DeLignes(const V& lignes, Bits debuts, TypeUnite type, F f);
   template <class F>
   static void DeCarres(const V& carres, F f);
-  template <class F>
-  static void EnCarres(const V& voies, Bits debuts, TypeUnite type, TypeUnite type2, F f);
-  bool EnleveTous(int cellule, Bits symboles);
 
   // Candidates by unit and place, places by unit and symbol; lanes from N on stay 0. A search for sets reads
   // on into the row behind (see ensembles.h), so that there is one more.
@@ -86,6 +81,13 @@ class TrouveVoies : public Suivi<S> {
   // Places again, by kind, symbol and number of the unit, once `tournees_`.
   alignas(64) Mot parSymbole_[3][Taille(N + 1)][Taille(kVoies)];
   bool tournees_ = false;
+
+ private:
+  template <class F>
+  void FiguresDe(int s, F f) const;
+  template <class F>
+  static void EnCarres(const V& voies, Bits debuts, TypeUnite type, TypeUnite type2, F f);
+  bool EnleveTous(int cellule, Bits symboles);
 };
 
 template <int S>

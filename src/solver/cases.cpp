@@ -15,21 +15,12 @@ void Cases<S>::Efface() {
   }
 }
 
-template <int S>
-void Cases<S>::Pose(int cellule, int symbole) {
-  const auto bit = [](int n) { return static_cast<Mot>(Mot{1} << n); };
-  const Lieu<S>& lieu = kLieux<S>.lieux[cellule];
-  for (int g = 0; g < 3; ++g) {
-    const int numero = NumeroDe(lieu.unite[g]);
-    this->symboles[g][numero] |= bit(symbole);
-    this->unites[g][symbole] |= bit(numero);
-    this->ouvertes[g][numero] &= static_cast<Mot>(~bit(lieu.place[g]));
-  }
-  valeur[cellule] = static_cast<std::uint8_t>(symbole + 1);
-  ++remplies;
+void Cases<3>::Efface() {
+  *this = Cases{};
+  libres = kPlanches.toutes;
+  std::ranges::fill(restes, kPlanches.toutes);
 }
 
-template struct Cases<3>;
 template struct Cases<4>;
 template struct Cases<5>;
 template struct Cases<6>;

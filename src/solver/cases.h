@@ -3,6 +3,8 @@
 #include <cstdint>
 
 #include "engine/contenus.h"
+#include "engine/lieux.h"
+#include "solver/planches.h"
 
 namespace sudoku {
 
@@ -17,12 +19,47 @@ struct Cases : Contenus<S> {
 
   // All cells are open.
   void Efface();
-  // The cell, an open one, holds the symbol.
-  void Pose(int cellule, int symbole);
+  // The cell, an open one, holds the symbol. Always inline, so that no version of the hot code makes one that
+  // others would share.
+  [[gnu::always_inline]] void Pose(int cellule, int symbole) {
+    const auto bit = [](int n) { return static_cast<Mot>(Mot{1} << n); };
+    const Lieu<S>& lieu = kLieux<S>.lieux[cellule];
+    for (int g = 0; g < 3; ++g) {
+      const int numero = NumeroDe(lieu.unite[g]);
+      this->symboles[g][numero] |= bit(symbole);
+      this->unites[g][symbole] |= bit(numero);
+      this->ouvertes[g][numero] &= static_cast<Mot>(~bit(lieu.place[g]));
+    }
+    valeur[cellule] = static_cast<std::uint8_t>(symbole + 1);
+    ++remplies;
+  }
 };
 
-// Made in cases.cpp, so that no version of the hot code makes one that others would share.
-extern template struct Cases<3>;
+// The same for side 9, of which another search wants other tables.
+template <>
+struct Cases<3> {
+  using Mot = Largeur<3>::Mot;
+  static constexpr int N = 9;
+
+  alignas(32) Mot symboles[3][Largeur<3>::kVoies];  // as those of Contenus
+  Planche libres;                                   // the open cells
+  Planche restes[9];  // by symbol: the cells, open or not, with no such symbol in a unit of theirs
+  std::uint8_t valeur[N * N];
+  std::uint16_t remplies;
+
+  void Efface();
+  [[gnu::always_inline]] void Pose(int cellule, int symbole) {
+    const Lieu<3>& lieu = kLieux<3>.lieux[cellule];
+    for (int g = 0; g < 3; ++g) symboles[g][NumeroDe(lieu.unite[g])] |= static_cast<Mot>(1 << symbole);
+    const auto& apres = kPlanches.apres[cellule];
+    for (int i = 0; i < Planche::kMots; ++i) restes[symbole].mots[i] &= apres.reste.mots[i];
+    for (int i = 0; i < Planche::kMots; ++i) libres.mots[i] &= apres.libres.mots[i];
+    valeur[cellule] = static_cast<std::uint8_t>(symbole + 1);
+    ++remplies;
+  }
+};
+
+// Made in cases.cpp for the same reason.
 extern template struct Cases<4>;
 extern template struct Cases<5>;
 extern template struct Cases<6>;

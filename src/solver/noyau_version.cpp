@@ -3,6 +3,7 @@
 
 #include "engine/trouve.h"
 #include "solver/noyau.h"
+#include "solver/trouve_neuf.h"
 
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
@@ -14,7 +15,7 @@ struct Recherche {
   static bool Vide(int) { return true; }
 };
 template <int S>
-using DeductionsDuNoyau = Deductions<S, Recherche>;
+using DeductionsDuNoyau = DeductionsSur<std::conditional_t<S == 3, TrouveNeuf, TrouveurDe<S>>, Recherche>;
 
 // Writes all solutions. A symbol that the cell's candidates have lost since it was found is a wrong entry:
 // false then.
@@ -41,6 +42,12 @@ void Resout(Cases<S>& cases, Appui appui, Passe<S>& passe) {
   Recherche usage;
   D deductions(cases, usage);
   for (;;) {
+    if constexpr (S == 3) {
+      if (!PoseSeules(cases)) {
+        passe.verdict = -1;
+        return;
+      }
+    }
     typename D::Suite suite = deductions.Candidats(appui);
     if (suite == D::kRien && cases.remplies < N * N) suite = deductions.Deduit();
     if (suite == D::kContradiction) {
