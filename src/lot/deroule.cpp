@@ -48,44 +48,42 @@ class Deroulement {
       Coule(reponse.sortie);
       reponse.sortie.clear();
     };
-    Parcourt([&]() -> Poste& { return poste; },
-             [&] {
-               poste.Occupe(ouvrier);
-               Livre(poste);
-             });
+    while (Lit(poste)) {
+      poste.Occupe(ouvrier);
+      Livre(poste);
+    }
   }
   void TravailleEnsemble(const Atelier& atelier) {
-    Equipe equipe(
-        appel_.processus, atelier, [this](const Poste& poste) { Livre(poste); },
-        [this](std::string_view texte) { Coule(texte); });
-    Parcourt([&]() -> Poste& { return equipe.Prochain(); }, [&] { equipe.Confie(); });
+    const Equipe equipe(
+        appel_.processus, atelier, [this](Poste& poste) { return Lit(poste); },
+        [this](const Poste& poste) { Livre(poste); }, [this](std::string_view texte) { Coule(texte); });
   }
 
-  // Fills the place that `prochain` gives with each line and hands it over to `confie`.
-  template <class Prochain, class Confie>
-  void Parcourt(Prochain prochain, Confie confie) {
-    Lignes lignes([this] {
-      lecteurAttend_ = true;
-      sortie_.Pousse();
-    });
-    for (const std::string& fichier : appel_.fichiers) {
-      std::optional<std::string> erreur = lignes.Ouvre(fichier);
-      while (const auto ligne = erreur ? std::nullopt : lignes.Suivante()) {
+  // Fills the place with the next line of all files, or with what is wrong with a file. False: there is none.
+  bool Lit(Poste& poste) {
+    for (; fichier_ < appel_.fichiers.size(); ++fichier_, ouvert_ = false) {
+      const std::string& fichier = appel_.fichiers[fichier_];
+      std::optional<std::string> erreur;
+      if (!ouvert_) erreur = lignes_.Ouvre(fichier);
+      ouvert_ = true;
+      if (const auto ligne = erreur ? std::nullopt : lignes_.Suivante()) {
         lecteurAttend_ = false;
-        Poste& poste = prochain();
         poste.faute.clear();
         poste.champ = ligne->champ;
         poste.fichier = &fichier;
         poste.numero = ligne->numero;
-        poste.lus = lignes.Octets();
+        poste.lus = lignes_.Octets();
         if (numeroteur_) poste.reponse.rang = numeroteur_->Rang(ligne->champ);
-        confie();
+        return true;
       }
-      if (!erreur) erreur = lignes.Erreur();
+      if (!erreur) erreur = lignes_.Erreur();
       if (!erreur) continue;
-      prochain().faute = fichier + ": " + *erreur;
-      confie();
+      poste.faute = fichier + ": " + *erreur;
+      ++fichier_;
+      ouvert_ = false;
+      return true;
     }
+    return false;
   }
 
   // Called for one line at a time, in their order.
@@ -123,6 +121,12 @@ class Deroulement {
   std::atomic<bool> alerte_{false};
   std::atomic<bool> lecteurAttend_{false};  // for more to read: who finishes a grid shows it at once
   std::optional<Numeroteur> numeroteur_;
+  Lignes lignes_{[this] {
+    lecteurAttend_ = true;
+    sortie_.Pousse();
+  }};
+  std::size_t fichier_ = 0;  // the file that is read, and whether it has been opened
+  bool ouvert_ = false;
   Progres progres_;
   Sortie sortie_;
 };

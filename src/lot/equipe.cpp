@@ -1,6 +1,5 @@
 #include "lot/equipe.h"
 
-#include <algorithm>
 #include <system_error>
 #include <utility>
 
@@ -8,14 +7,14 @@ namespace sudoku::lot {
 namespace {
 
 constexpr std::size_t kPostesParOuvrier = 64;
-constexpr std::size_t kPriseMax = 16;                   // lines that a worker takes at once
 constexpr std::size_t kRetenue = std::size_t{1} << 20;  // of an answer whose turn hasn't come
 
 }  // namespace
 
-Equipe::Equipe(int ouvriers, const Atelier& atelier, std::function<void(const Poste&)> livre,
-               std::function<void(std::string_view)> coule)
-    : livre_(std::move(livre)),
+Equipe::Equipe(int ouvriers, const Atelier& atelier, Alimentation lit,
+               std::function<void(const Poste&)> livre, std::function<void(std::string_view)> coule)
+    : lit_(std::move(lit)),
+      livre_(std::move(livre)),
       coule_(std::move(coule)),
       postes_(kPostesParOuvrier * static_cast<std::size_t>(ouvriers)) {
   for (int i = 0; i < ouvriers; ++i) {
@@ -30,59 +29,33 @@ Equipe::Equipe(int ouvriers, const Atelier& atelier, std::function<void(const Po
 }
 
 Equipe::~Equipe() {
-  {
-    const std::lock_guard verrou(mutex_);
-    fin_ = true;
-  }
-  aFaire_.notify_all();
   for (std::thread& fil : fils_) fil.join();
 }
 
-Poste& Equipe::Prochain() {
-  if (confies_ - livres_ >= postes_.size()) {
-    // Half the ring is let go empty, so that nobody has to be woken for every line.
-    std::unique_lock verrou(mutex_);
-    reveil_ = confies_ - postes_.size() / 2;
-    place_.wait(verrou, [this] { return livres_ >= reveil_; });
-    reveil_ = kJamais;
+// The number of the next line, which is read into its place. livres_ <= lus_ <= livres_ + places: a place is
+// its worker's until the line is finished, and then whoever's delivers. The one whose turn it is reads
+// nothing before it has delivered, so that a full ring gets emptied.
+std::optional<std::size_t> Equipe::Prend() {
+  const std::lock_guard verrou(lecture_);
+  for (std::size_t livres = livres_; lus_ - livres >= postes_.size(); livres = livres_) livres_.wait(livres);
+  if (fin_ || !lit_(Place(lus_))) {
+    fin_ = true;
+    return std::nullopt;
   }
-  return Place(confies_);
+  return lus_++;
 }
 
-void Equipe::Confie() {
-  {
-    const std::lock_guard verrou(mutex_);
-    ++confies_;
-  }
-  aFaire_.notify_one();
-}
-
-// livres_ <= pris_ <= confies_ <= livres_ + places: a place is the reader's until its line is handed over,
-// one worker's until it is finished, and then whoever's delivers. A worker takes half of its equal share of
-// what waits, so that nobody holds many lines while another runs dry, and many at once where many wait.
 void Equipe::Travaille(Ouvrier& ouvrier) {
-  std::unique_lock verrou(mutex_);
-  for (;;) {
-    aFaire_.wait(verrou, [this] { return fin_ || pris_ < confies_; });
-    if (pris_ == confies_) return;
-    const std::size_t premier = pris_;
-    const std::size_t part = (confies_ - pris_) * kPostesParOuvrier / (2 * postes_.size());
-    pris_ += std::clamp<std::size_t>(part, 1, kPriseMax);
-    const std::size_t dernier = pris_;
-    verrou.unlock();
-    for (std::size_t i = premier; i < dernier; ++i) {
-      Poste& poste = Place(i);
-      poste.reponse.coule = [this, i](Reponse& reponse) { Coule(i, reponse); };
-      poste.Occupe(ouvrier);
-      poste.fini = true;
-      Livre();
-    }
-    verrou.lock();
+  while (const std::optional<std::size_t> numero = Prend()) {
+    Poste& poste = Place(*numero);
+    poste.reponse.coule = [this, numero](Reponse& reponse) { Coule(*numero, reponse); };
+    poste.Occupe(ouvrier);
+    poste.fini = true;
+    Livre();
   }
 }
 
-// An answer may grow beyond all bounds, and waits for its turn before it does. Every worker takes its lines
-// in order, so that the one whose turn it is never waits.
+// An answer may grow beyond all bounds, and waits for its turn before it does.
 void Equipe::Coule(std::size_t numero, Reponse& reponse) {
   if (livres_ != numero && reponse.sortie.size() < kRetenue) return;
   for (std::size_t livres = livres_; livres != numero; livres = livres_) livres_.wait(livres);
@@ -103,9 +76,6 @@ void Equipe::Livre() {
       ++livres_;
       livres_.notify_all();
     }
-    if (livres_ < reveil_) continue;
-    { const std::lock_guard verrou(mutex_); }  // it has made its test by now, or sleeps
-    place_.notify_one();
   }
 }
 

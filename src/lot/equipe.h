@@ -1,11 +1,11 @@
 #pragma once
 
 #include <atomic>
-#include <condition_variable>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <thread>
@@ -57,42 +57,38 @@ struct Poste {
   }
 };
 
-// Workers with a thread each. Lines go in and come out in one order, through a ring of fixed size: whoever
-// finishes the oldest one delivers it and all finished ones behind it.
+// Fills the place with the next line; false: there is none.
+using Alimentation = std::function<bool(Poste&)>;
+
+// Workers with a thread each. Each reads a line when it is free, works on it, and delivers it if it is the
+// oldest one, with all finished ones behind it: no thread only reads, and none is woken for a line. What is
+// read and not delivered lies in a ring of fixed size.
 class Equipe {
  public:
-  // A system that gives fewer threads makes it smaller. `coule` is given the pieces of answers that come in
-  // pieces.
-  Equipe(int ouvriers, const Atelier& atelier, std::function<void(const Poste&)> livre,
+  // `lit` and `livre` are called by one thread at a time, in the order of the lines; `coule` is given the
+  // pieces of answers that come in pieces. A system that gives fewer threads makes the team smaller.
+  Equipe(int ouvriers, const Atelier& atelier, Alimentation lit, std::function<void(const Poste&)> livre,
          std::function<void(std::string_view)> coule);
-  ~Equipe();  // all that went in has come out
+  ~Equipe();  // all has been read, and has come out
   Equipe(const Equipe&) = delete;
   Equipe& operator=(const Equipe&) = delete;
 
-  // The place for the next line, which the caller fills in and then hands over with Confie. Waits for one to
-  // get free.
-  Poste& Prochain();
-  void Confie();
-
  private:
   void Travaille(Ouvrier& ouvrier);
+  std::optional<std::size_t> Prend();
   void Livre();
   void Coule(std::size_t numero, Reponse& reponse);
-  static constexpr std::size_t kJamais = static_cast<std::size_t>(-1);
   Poste& Place(std::size_t numero) { return postes_[numero % postes_.size()]; }
 
+  Alimentation lit_;
   std::function<void(const Poste&)> livre_;
   std::function<void(std::string_view)> coule_;
   std::vector<Poste> postes_;
-  std::mutex mutex_;
-  std::condition_variable aFaire_;
-  std::condition_variable place_;
-  std::size_t confies_ = 0;  // numbers of lines: handed over, taken by a worker, delivered
-  std::size_t pris_ = 0;
-  std::atomic<std::size_t> livres_{0};
-  std::atomic<std::size_t> reveil_{kJamais};  // the reader sleeps until so many are delivered
-  bool fin_ = false;
+  std::mutex lecture_;
+  std::size_t lus_ = 0;  // lines read, by who holds `lecture_`
+  bool fin_ = false;     // there are no more
   std::mutex livraison_;
+  std::atomic<std::size_t> livres_{0};  // lines delivered
   std::vector<std::unique_ptr<Ouvrier>> ouvriers_;
   std::vector<std::thread> fils_;
 };
