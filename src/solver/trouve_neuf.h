@@ -10,8 +10,13 @@ namespace {
 
 // A Trouveur as TrouveVoies<3>, for boards on which PoseSeules has been. It looks at hidden and naked sets of
 // a unit together, at all units before the first sweep, and goes only to those in which there is something.
-class TrouveNeuf : public TrouveVoies<3> {
+// What it has from TrouveVoies<3> as it is stands in the using-declarations.
+class TrouveNeuf : private TrouveVoies<3> {
  public:
+  using TrouveVoies<3>::Bits, TrouveVoies<3>::CandidatsDe, TrouveVoies<3>::CandidatsDeLigne;
+  using TrouveVoies<3>::Cellule, TrouveVoies<3>::ChaqueReduite, TrouveVoies<3>::ChaqueSolution;
+  using TrouveVoies<3>::Dedans, TrouveVoies<3>::HorsDe, TrouveVoies<3>::Places;
+
   // What is to be found in a unit without what is proved, bits by symbol; then, by place, where naked sets
   // begin.
   struct EtatUnite {
