@@ -28,7 +28,7 @@ struct Cellules {
   std::uint64_t six;  // rows
   std::uint64_t trois;
 
-  SUDOKU_EN_LIGNE Cellules(const MotsDePlanche& mots)
+  SUDOKU_EN_LIGNE explicit Cellules(const MotsDePlanche& mots)
       : six(mots[0] | std::uint64_t{mots[1]} << 27), trois(mots[2]) {}
   SUDOKU_EN_LIGNE bool Aucune() const { return (six | trois) == 0; }
   // Calls f(cell, what reads the bit of this cell from others) for each.
@@ -64,7 +64,8 @@ struct Cellules {
     if (!Cellules(libres & ~une).Aucune()) return false;
     const Cellules seules(libres & ~deux);
     if (seules.Aucune()) return true;
-    const Cellules bits[4] = {numero[0], numero[1], numero[2], numero[3]};
+    const Cellules bits[4] = {Cellules(numero[0]), Cellules(numero[1]), Cellules(numero[2]),
+                              Cellules(numero[3])};
     seules.Chaque([&](int cellule, auto lit) SUDOKU_LAMBDA_EN_LIGNE {
       cases.Pose(cellule, lit(bits[0]) | lit(bits[1]) << 1 | lit(bits[2]) << 2 | lit(bits[3]) << 3);
     });

@@ -19,7 +19,7 @@ class TrouveNeuf : private TrouveVoies<3> {
 
   // What is to be found in a unit without what is proved, bits by symbol; then, by place, where naked sets
   // begin.
-  struct EtatUnite {
+  struct Apercu {
     std::uint32_t bits;  // 9, 8 and 8
     Bits prouves;        // what was proved then
 
@@ -33,15 +33,15 @@ class TrouveNeuf : private TrouveVoies<3> {
   bool Amorce(Appui appui);
   void Transpose();
   int UniteSale(int depuis);
-  EtatUnite Reste(int u);
+  Apercu Reste(int u);
   template <class F>
-  void ChaqueSeule(int u, const EtatUnite& e, F f) const {
+  void ChaqueSeule(int u, const Apercu& e, F f) const {
     Chaque(e.Seules(), [&](int s) { f(s, std::countr_zero(Bits{places_[u][s]})); });
   }
   template <class F>
-  void ChaqueConfinee(int u, const EtatUnite& e, F f);
+  void ChaqueConfinee(int u, const Apercu& e, F f);
   template <class F>
-  void ChaqueCachee(int u, const EtatUnite& e, F f);
+  void ChaqueCachee(int u, const Apercu& e, F f);
   template <class F>
   void ChaqueNue(int u, F f);
   template <class F>
@@ -74,7 +74,7 @@ class TrouveNeuf : private TrouveVoies<3> {
   std::uint32_t aVoir_ = 0;
   std::uint32_t confinees_ = 0;
   std::uint32_t valables_ = 0;
-  std::uint32_t etats_[kUnites];  // EtatUnite::bits
+  std::uint32_t etats_[kUnites];  // Apercu::bits
 };
 
 inline bool TrouveNeuf::Amorce(Appui appui) {
@@ -197,7 +197,7 @@ SUDOKU_EN_LIGNE std::uint32_t TrouveNeuf::EtatDe(int u, const MotDe<3>* places) 
   return {(releve.seuls & 0377) | neuvieme << 8 | releve.debuts << 9};
 }
 
-SUDOKU_EN_LIGNE TrouveNeuf::EtatUnite TrouveNeuf::Reste(int u) {
+SUDOKU_EN_LIGNE TrouveNeuf::Apercu TrouveNeuf::Reste(int u) {
   if ((valables_ >> u & 1) != 0) return {etats_[u], prouves_[u]};
   alignas(64) MotDe<3> places[16];
   Ecrit<3>(places, Lit<3>(places_[u]) & ~Etale<3>(prouves_[u]));
@@ -207,7 +207,7 @@ SUDOKU_EN_LIGNE TrouveNeuf::EtatUnite TrouveNeuf::Reste(int u) {
 
 // Symbols don't touch each other.
 template <class F>
-SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueConfinee(int u, const EtatUnite& e, F f) {
+SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueConfinee(int u, const Apercu& e, F f) {
   if ((confinees_ >> u & 1) == 0) return;
   confinees_ &= ~(std::uint32_t{1} << u);
   const Croisements<3>& croisements = kLieux<3>.croisements[u];
@@ -231,7 +231,7 @@ SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueConfinee(int u, const EtatUnite& e, F f) 
 }
 
 template <class F>
-SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueCachee(int u, const EtatUnite& e, F f) {
+SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueCachee(int u, const Apercu& e, F f) {
   if (e.Cachees() == 0) return;
   const V places = Lit<3>(places_[u]);
   Chaque(e.Cachees(), [&](int premier) {
@@ -245,7 +245,7 @@ SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueCachee(int u, const EtatUnite& e, F f) {
 
 template <class F>
 SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueNue(int u, F f) {
-  const auto nues = [](std::uint32_t etat) { return EtatUnite{etat, 0}.Nues(); };
+  const auto nues = [](std::uint32_t etat) { return Apercu{etat, 0}.Nues(); };
   Bits debuts = nues((valables_ >> u & 1) != 0 ? etats_[u] : EtatDe(u, places_[u]));
   while (debuts != 0) {
     const int premier = std::countr_zero(debuts);
