@@ -148,9 +148,9 @@ SUDOKU_EN_LIGNE void TrouveNeuf::TransposePlaces() {
 // kAucune.
 struct PartieDesPlaces {
   static constexpr std::uint8_t kAucune = 0xFF;
-  std::uint8_t de[3][512];
+  std::uint8_t de[3][512] = {};
 
-  constexpr PartieDesPlaces() : de() {
+  constexpr PartieDesPlaces() {
     for (int g = 0; g < 3; ++g) {
       for (std::uint32_t p = 0; p < 512; ++p) {
         de[g][p] = kAucune;
@@ -194,7 +194,7 @@ SUDOKU_EN_LIGNE int TrouveNeuf::UniteSale(int depuis) {
 SUDOKU_EN_LIGNE std::uint32_t TrouveNeuf::EtatDe(int u, const MotDe<3>* places) const {
   const Releve18 releve = Regarde({places, candidats_[u]});
   const std::uint32_t neuvieme{std::popcount(places[8]) == 1};
-  return {(releve.seuls & 0377) | neuvieme << 8 | releve.debuts << 9};
+  return (releve.seuls & 0377) | neuvieme << 8 | releve.debuts << 9;
 }
 
 SUDOKU_EN_LIGNE TrouveNeuf::Apercu TrouveNeuf::Reste(int u) {
