@@ -19,7 +19,7 @@ class SceneQt : public Scene, private SystemeQt {
 
   Systeme& LeSysteme() override { return *this; }
   void Joue(const std::function<bool()>& avance) override {
-    papier_.AttendPar([&](Boite& boite) {
+    papier_.AttendPar([&](const Boite& boite) {
       while (!boite.close && !(boite.fenetre != nullptr && boite.fenetre->fermee)) {
         if (Pas(avance)) continue;
         papier_.EcritFinDans(boite);
