@@ -73,7 +73,9 @@ TEST(EcritSud, LesSignesDuTiretReviennent) {
     for (std::size_t reste = n; nom.size() < 4; reste /= 4) nom += lettres[reste % 4];
     const LectureSud lu = LitSud(EcritSud(nom, nom, {{}, {nom, nom}}, {{}, {nom, 0}}));
     const std::string un = VersUtf8(nom);
-    ASSERT_EQ(Resume(lu), un + "|" + un + "|" + un + "=" + un + "|scores " + un + "=00:00:00") << n;
+    std::ostringstream attendu;
+    attendu << un << '|' << un << '|' << un << '=' << un << "|scores " << un << "=00:00:00";
+    ASSERT_EQ(Resume(lu), attendu.str()) << n;
   }
   EXPECT_EQ(EcritSud(U"1", U" 0", {{}, {U"a\x1F\x1E-\x1E", U""}}, {{}}),
             "1\r\n 0\r\na\x1F\x1E\x1E\x1E\x1F\x1E\x1E-\r\n\0"s);
