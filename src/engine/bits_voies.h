@@ -41,12 +41,14 @@ SUDOKU_EN_LIGNE BitsDe<S> BitsDuRegistre(typename Voies<S>::Registre m) {
 template <int S, class F>
 SUDOKU_EN_LIGNE BitsDe<S> BitsParRegistre(F f) {
   BitsDe<S> bits = 0;
-  Voies<S>::Chaque([&](int i) { bits |= static_cast<BitsDe<S>>(f(i)) << (i * Voies<S>::kParRegistre); });
+  Voies<S>::Chaque([&](int i) SUDOKU_LAMBDA_EN_LIGNE {
+    bits |= static_cast<BitsDe<S>>(f(i)) << (i * Voies<S>::kParRegistre);
+  });
   return bits;
 }
 template <int S>
 SUDOKU_EN_LIGNE BitsDe<S> EnBits(const Voies<S>& masque) {
-  return BitsParRegistre<S>([&](int i) { return BitsDuRegistre<S>(masque.r[i]); });
+  return BitsParRegistre<S>([&](int i) SUDOKU_LAMBDA_EN_LIGNE { return BitsDuRegistre<S>(masque.r[i]); });
 }
 
 // Bits of lanes by comparison. The newest instructions compare into bits at once, which the compilers don't
@@ -54,7 +56,7 @@ SUDOKU_EN_LIGNE BitsDe<S> EnBits(const Voies<S>& masque) {
 #if defined(SUDOKU_VOIES_512)
 template <int S>
 SUDOKU_EN_LIGNE BitsDe<S> BitsEgales(const Voies<S>& a, const Voies<S>& b) {
-  return BitsParRegistre<S>([&](int i) -> BitsDe<S> {
+  return BitsParRegistre<S>([&](int i) SUDOKU_LAMBDA_EN_LIGNE -> BitsDe<S> {
     if constexpr (sizeof(MotDe<S>) == 2)
       return _mm256_cmpeq_epi16_mask(reinterpret_cast<__m256i>(a.r[i]), reinterpret_cast<__m256i>(b.r[i]));
     else if constexpr (sizeof(MotDe<S>) == 4)
@@ -65,7 +67,7 @@ SUDOKU_EN_LIGNE BitsDe<S> BitsEgales(const Voies<S>& a, const Voies<S>& b) {
 }
 template <int S>
 SUDOKU_EN_LIGNE BitsDe<S> BitsNonNulles(const Voies<S>& v) {
-  return BitsParRegistre<S>([&](int i) -> BitsDe<S> {
+  return BitsParRegistre<S>([&](int i) SUDOKU_LAMBDA_EN_LIGNE -> BitsDe<S> {
     if constexpr (sizeof(MotDe<S>) == 2)
       return _mm256_test_epi16_mask(reinterpret_cast<__m256i>(v.r[i]), reinterpret_cast<__m256i>(v.r[i]));
     else if constexpr (sizeof(MotDe<S>) == 4)
@@ -89,7 +91,7 @@ SUDOKU_EN_LIGNE BitsDe<S> BitsNonNulles(const Voies<S>& v) {
 template <int S>
 SUDOKU_EN_LIGNE bool Aucune(const Voies<S>& v) {
   typename Voies<S>::Registre toutes{};
-  Voies<S>::Chaque([&](int i) { toutes |= v.r[i]; });
+  Voies<S>::Chaque([&](int i) SUDOKU_LAMBDA_EN_LIGNE { toutes |= v.r[i]; });
 #if defined(SUDOKU_VOIES_512)
   if constexpr (sizeof toutes == 64)
     return _mm512_test_epi64_mask(reinterpret_cast<__m512i>(toutes), reinterpret_cast<__m512i>(toutes)) == 0;
@@ -105,7 +107,7 @@ SUDOKU_EN_LIGNE bool Aucune(const Voies<S>& v) {
 template <int S>
 SUDOKU_EN_LIGNE Voies<S> Comptes(const Voies<S>& voies) {
   using Registre = typename Voies<S>::Registre;
-  return Voies<S>::De([&](int i) {
+  return Voies<S>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE {
     Registre v = voies.r[i];
     constexpr std::size_t kOctets = sizeof(MotDe<S>);
 #if defined(SUDOKU_VOIES_512)

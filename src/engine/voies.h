@@ -117,7 +117,7 @@ struct Voies {
 // Register by register: a struct as a whole is moved in smaller pieces, which the next load would wait for.
 template <int S, int P = Largeur<S>::kMots>
 SUDOKU_EN_LIGNE Voies<S, P> Lit(const MotDe<S>* p) {
-  return Voies<S, P>::De([p](int i) {
+  return Voies<S, P>::De([p](int i) SUDOKU_LAMBDA_EN_LIGNE {
     typename Voies<S, P>::Registre registre;
     std::memcpy(&registre, p + i * Voies<S, P>::kParRegistre, sizeof registre);
     return registre;
@@ -126,14 +126,14 @@ SUDOKU_EN_LIGNE Voies<S, P> Lit(const MotDe<S>* p) {
 // The registers that f(number of the register) gives.
 template <int S, class F>
 SUDOKU_EN_LIGNE void EcritChaque(MotDe<S>* p, F f) {
-  Voies<S>::Chaque([&](int i) {
+  Voies<S>::Chaque([&](int i) SUDOKU_LAMBDA_EN_LIGNE {
     const typename Voies<S>::Registre registre = f(i);
     std::memcpy(p + i * Voies<S>::kParRegistre, &registre, sizeof registre);
   });
 }
 template <int S>
 SUDOKU_EN_LIGNE void Ecrit(MotDe<S>* p, const Voies<S>& v) {
-  EcritChaque<S>(p, [&](int i) { return v.r[i]; });
+  EcritChaque<S>(p, [&](int i) SUDOKU_LAMBDA_EN_LIGNE { return v.r[i]; });
 }
 // The register i of lanes that all hold n.
 template <int S>
@@ -142,28 +142,28 @@ SUDOKU_EN_LIGNE typename Voies<S>::Registre Partout(const BitsDe<S>& n, int i) {
 }
 template <int S>
 SUDOKU_EN_LIGNE Voies<S> Partout(const BitsDe<S>& n) {
-  return Voies<S>::De([&](int i) { return Partout<S>(n, i); });
+  return Voies<S>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE { return Partout<S>(n, i); });
 }
 
 template <int S, int P>
 SUDOKU_EN_LIGNE Voies<S, P> operator&(const Voies<S, P>& a, const Voies<S, P>& b) {
-  return Voies<S, P>::De([&](int i) { return a.r[i] & b.r[i]; });
+  return Voies<S, P>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE { return a.r[i] & b.r[i]; });
 }
 template <int S, int P>
 SUDOKU_EN_LIGNE Voies<S, P> operator|(const Voies<S, P>& a, const Voies<S, P>& b) {
-  return Voies<S, P>::De([&](int i) { return a.r[i] | b.r[i]; });
+  return Voies<S, P>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE { return a.r[i] | b.r[i]; });
 }
 template <int S, int P>
 SUDOKU_EN_LIGNE Voies<S, P> operator^(const Voies<S, P>& a, const Voies<S, P>& b) {
-  return Voies<S, P>::De([&](int i) { return a.r[i] ^ b.r[i]; });
+  return Voies<S, P>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE { return a.r[i] ^ b.r[i]; });
 }
 template <int S, int P>
 SUDOKU_EN_LIGNE Voies<S, P> operator-(const Voies<S, P>& a, const Voies<S, P>& b) {
-  return Voies<S, P>::De([&](int i) { return a.r[i] - b.r[i]; });
+  return Voies<S, P>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE { return a.r[i] - b.r[i]; });
 }
 template <int S, int P>
 SUDOKU_EN_LIGNE Voies<S, P> operator~(const Voies<S, P>& a) {
-  return Voies<S, P>::De([&](int i) { return ~a.r[i]; });
+  return Voies<S, P>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE { return ~a.r[i]; });
 }
 template <int S, int P>
 SUDOKU_EN_LIGNE Voies<S, P>& operator|=(Voies<S, P>& a, const Voies<S, P>& b) {
@@ -173,7 +173,9 @@ SUDOKU_EN_LIGNE Voies<S, P>& operator|=(Voies<S, P>& a, const Voies<S, P>& b) {
 // Lanes all ones where that is so, 0 elsewhere.
 template <int S>
 SUDOKU_EN_LIGNE Voies<S> Egales(const Voies<S>& a, const Voies<S>& b) {
-  return Voies<S>::De([&](int i) { return reinterpret_cast<typename Voies<S>::Registre>(a.r[i] == b.r[i]); });
+  return Voies<S>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE {
+    return reinterpret_cast<typename Voies<S>::Registre>(a.r[i] == b.r[i]);
+  });
 }
 template <int S>
 SUDOKU_EN_LIGNE Voies<S> Nulles(const Voies<S>& v) {
@@ -181,7 +183,9 @@ SUDOKU_EN_LIGNE Voies<S> Nulles(const Voies<S>& v) {
 }
 template <int S>
 SUDOKU_EN_LIGNE Voies<S> NonNulles(const Voies<S>& v) {
-  return Voies<S>::De([&](int i) { return reinterpret_cast<typename Voies<S>::Registre>(v.r[i] != 0); });
+  return Voies<S>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE {
+    return reinterpret_cast<typename Voies<S>::Registre>(v.r[i] != 0);
+  });
 }
 // Lanes that hold one symbol, place or unit.
 template <int S>
@@ -201,7 +205,7 @@ SUDOKU_EN_LIGNE Voies<S, 1> Etale(const BitsDe<S>& bits) {
   static constexpr Un kUn;
   using V = Voies<S, 1>;
   const V un = Lit<S, 1>(kUn.mots);
-  return V::De([&](int i) {
+  return V::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE {
     const auto mot = static_cast<MotDe<S>>(Mot(bits, i * V::kParRegistre / 64));
     return reinterpret_cast<typename V::Registre>((un.r[i] & mot) != 0);
   });
@@ -212,7 +216,7 @@ template <int S>
 SUDOKU_EN_LIGNE Voies<S, 1> Avec(const Voies<S>& v, int n) {
   using V = Voies<S, 1>;
   constexpr int kRegistres = V::kTous;
-  return V::De([&](int i) {
+  return V::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE {
     const auto bit = static_cast<MotDe<S>>(std::uint64_t{1} << (n & 63));
     return reinterpret_cast<typename V::Registre>((v.r[(n >> 6) * kRegistres + i] & bit) != 0);
   });
@@ -221,7 +225,8 @@ SUDOKU_EN_LIGNE Voies<S, 1> Avec(const Voies<S>& v, int n) {
 template <int S>
 requires(Largeur<S>::kMots > 1) SUDOKU_EN_LIGNE Voies<S>
 operator&(const Voies<S>& v, const Voies<S, 1>& masque) {
-  return Voies<S>::De([&](int i) { return v.r[i] & masque.r[i % Voies<S, 1>::kTous]; });
+  return Voies<S>::De([&](int i)
+                          SUDOKU_LAMBDA_EN_LIGNE { return v.r[i] & masque.r[i % Voies<S, 1>::kTous]; });
 }
 
 // Lane number i of those that begin here.
@@ -248,7 +253,7 @@ SUDOKU_EN_LIGNE void Retire(MotDe<S>* p, int i, int n) {
 // Lanes of more than n, all ones.
 template <int S>
 SUDOKU_EN_LIGNE Voies<S> PlusDe(int n, const Voies<S>& v) {
-  return Voies<S>::De([&](int i) {
+  return Voies<S>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE {
     return reinterpret_cast<typename Voies<S>::Registre>(v.r[i] > static_cast<MotDe<S>>(n));
   });
 }
