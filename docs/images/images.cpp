@@ -100,7 +100,7 @@ class Images {
 
   QPixmap Vue(const Fenetre& fenetre) {
     FenetreQt& vue = *systeme_->FenetreDe(fenetre);
-    vue.SansEcran();
+    vue.MetSansEcran();
     return vue.grab();
   }
 
