@@ -108,7 +108,8 @@ std::optional<std::string_view> Lignes::LigneBrute() {
     const char* const debut = tampon_.data() + debut_;
     const std::size_t presents = fin_ - debut_;
     const void* const lf = std::memchr(debut + cherches, '\n', presents - cherches);
-    if (lf == nullptr && presents < tampon_.size() && Remplis()) {
+    if (lf == nullptr && presents < tampon_.size() && !epuise_) {
+      Remplis();  // it moves what is there, whether or not there is more
       cherches = presents;
       continue;
     }

@@ -33,6 +33,10 @@ for processus in 1 2 5; do
 done
 [ "$(wc -l < "$dossier/1") $(wc -l < "$dossier/1.err")" = "686 115" ] || dit "800 lines, 114 of them bad, and a file that isn't there"
 
+# A last line without an end, longer than all before it.
+ligne=$(printf '#\n%s' $grille | "$lot" resoudre --symboles 1234)
+[[ $ligne == "$grille	"* ]] || dit "a last line without an end: “$ligne”"
+
 # Shared out by GNU parallel, the lines give what one process gives.
 parallel --will-cite --pipe --keep-order --jobs 2 --block 500 "$lot" resoudre --symboles 1234 < "$dossier/lignes" \
   > "$dossier/partages" 2> "$dossier/partages.err"
