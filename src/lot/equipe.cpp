@@ -6,8 +6,13 @@
 namespace sudoku::lot {
 namespace {
 
-constexpr std::size_t kPostesParOuvrier = 64;
-constexpr std::size_t kRetenue = std::size_t{1} << 20;  // of an answer whose turn hasn't come
+constexpr std::size_t kPostesParOuvrier = 512;
+constexpr std::size_t kRetenue = std::size_t{1} << 24;  // of the answer whose turn is next
+constexpr std::size_t kGarde = std::size_t{1} << 14;    // of what a place keeps for the line to come
+
+void Allege(std::string& texte) {
+  if (texte.capacity() > kGarde) std::string().swap(texte);
+}
 
 }  // namespace
 
@@ -55,10 +60,12 @@ void Equipe::Travaille(Ouvrier& ouvrier) {
   }
 }
 
-// An answer may grow beyond all bounds, and waits for its turn before it does.
+// An answer may grow beyond all bounds, and waits for its turn before it does: the sooner the more are before
+// it, so that all that wait hold little more than a few of the next.
 void Equipe::Coule(std::size_t numero, Reponse& reponse) {
-  if (livres_ != numero && reponse.sortie.size() < kRetenue) return;
-  for (std::size_t livres = livres_; livres != numero; livres = livres_) livres_.wait(livres);
+  std::size_t livres = livres_;
+  if (livres != numero && reponse.sortie.size() < kRetenue / (numero - livres)) return;
+  for (; livres != numero; livres = livres_) livres_.wait(livres);
   coule_(reponse.sortie);
   reponse.sortie.clear();
 }
@@ -72,6 +79,8 @@ void Equipe::Livre() {
     while (Place(livres_).fini) {
       Poste& poste = Place(livres_);
       livre_(poste);
+      Allege(poste.champ);
+      Allege(poste.reponse.sortie);
       poste.fini = false;
       ++livres_;
       livres_.notify_all();

@@ -22,7 +22,7 @@ for processus in 1 3; do
 done
 
 # More lines than are under way at once, easy, hard and bad ones.
-for i in {1..400}; do
+for i in {1..3000}; do
   case $((i % 7)) in 0) echo "$i" ;; 1) echo '1234341221434321' ;; *) echo "................	$i" ;; esac
 done > "$dossier/lignes"
 for processus in 1 2 5; do
@@ -31,14 +31,14 @@ for processus in 1 2 5; do
   [ $? = 1 ] || dit "--processus $processus: status"
   cmp "$dossier/1" "$dossier/$processus" && cmp "$dossier/1.err" "$dossier/$processus.err" || echec=1
 done
-[ "$(wc -l < "$dossier/1") $(wc -l < "$dossier/1.err")" = "686 115" ] || dit "800 lines, 114 of them bad, and a file that isn't there"
+[ "$(wc -l < "$dossier/1") $(wc -l < "$dossier/1.err")" = "5144 857" ] || dit "6000 lines, 856 of them bad, and a file that isn't there"
 
 # A last line without an end, longer than all before it.
 ligne=$(printf '#\n%s' $grille | "$lot" resoudre --symboles 1234)
 [[ $ligne == "$grille	"* ]] || dit "a last line without an end: “$ligne”"
 
 # Shared out by GNU parallel, the lines give what one process gives.
-parallel --will-cite --pipe --keep-order --jobs 2 --block 500 "$lot" resoudre --symboles 1234 < "$dossier/lignes" \
+parallel --will-cite --pipe --keep-order --jobs 2 --block 5000 "$lot" resoudre --symboles 1234 < "$dossier/lignes" \
   > "$dossier/partages" 2> "$dossier/partages.err"
 "$lot" resoudre --symboles 1234 < "$dossier/lignes" 2> "$dossier/seul.err" | cmp - "$dossier/partages" || echec=1
 [ "$(cut -d: -f3- "$dossier/partages.err")" = "$(cut -d: -f3- "$dossier/seul.err")" ] || dit "parallel: other messages"
