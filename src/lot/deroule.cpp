@@ -1,5 +1,6 @@
 #include "lot/deroule.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "lot/grille.h"
@@ -13,6 +14,9 @@ namespace {
 // Exit statuses, the graver the higher.
 constexpr int kIllisible = 1;
 constexpr int kAlerte = 3;
+
+// Bytes of lines that a worker takes at once: work for a tenth of a millisecond or more, whatever the side.
+constexpr std::int64_t kPrise = 1024;
 
 // Numbers the good lines.
 class Numeroteur {
@@ -48,34 +52,40 @@ class Deroulement {
       Coule(reponse.sortie);
       reponse.sortie.clear();
     };
-    while (Lit(poste)) {
+    while (Lit(poste, false)) {
       poste.Occupe(ouvrier);
       Livre(poste);
     }
   }
   void TravailleEnsemble(const Atelier& atelier) {
     const Equipe equipe(
-        appel_.processus, atelier, [this](Poste& poste) { return Lit(poste); },
+        appel_.processus, atelier, [this](Poste& poste, bool suite) { return Lit(poste, suite); },
         [this](const Poste& poste) { Livre(poste); }, [this](std::string_view texte) { Coule(texte); });
   }
 
   // Fills the place with the next line of all files, or with what is wrong with a file. False: there is none.
-  bool Lit(Poste& poste) {
+  // Lines that are taken together are at hand, so that none waits for another to come in, and few where few
+  // are left, so that each worker has some.
+  bool Lit(Poste& poste, bool suite) {
+    const std::int64_t debut = lignes_.Octets();
+    if (suite && (!ouvert_ || debut >= finPrise_)) return false;
     for (; fichier_ < appel_.fichiers.size(); ++fichier_, ouvert_ = false) {
       const std::string& fichier = appel_.fichiers[fichier_];
       std::optional<std::string> erreur;
       if (!ouvert_) erreur = lignes_.Ouvre(fichier);
       ouvert_ = true;
-      if (const auto ligne = erreur ? std::nullopt : lignes_.Suivante()) {
+      if (const auto ligne = erreur ? std::nullopt : lignes_.Suivante(!suite)) {
         lecteurAttend_ = false;
         poste.faute.clear();
         poste.champ = ligne->champ;
         poste.fichier = &fichier;
         poste.numero = ligne->numero;
         poste.lus = lignes_.Octets();
+        if (!suite) finPrise_ = debut + std::min(kPrise, lignes_.Presents() / (4 * appel_.processus));
         if (numeroteur_) poste.reponse.rang = numeroteur_->Rang(ligne->champ);
         return true;
       }
+      if (suite) return false;
       if (!erreur) erreur = lignes_.Erreur();
       if (!erreur) continue;
       poste.faute = fichier + ": " + *erreur;
@@ -127,6 +137,7 @@ class Deroulement {
   }};
   std::size_t fichier_ = 0;  // the file that is read, and whether it has been opened
   bool ouvert_ = false;
+  std::int64_t finPrise_ = 0;  // how far lines are taken together, in bytes of all files
   Progres progres_;
   Sortie sortie_;
 };

@@ -37,26 +37,28 @@ Equipe::~Equipe() {
   for (std::thread& fil : fils_) fil.join();
 }
 
-// The number of the next line, which is read into its place. livres_ <= lus_ <= livres_ + places: a place is
-// its worker's until the line is finished, and then whoever's delivers. The one whose turn it is reads
-// nothing before it has delivered, so that a full ring gets emptied.
-std::optional<std::size_t> Equipe::Prend() {
+// The next lines, which are read into their places; none: there are no more. livres_ <= lus_ <= livres_ +
+// places: a place is its worker's until the line is finished, and then whoever's delivers. The one whose turn
+// it is reads nothing before it has delivered, so that a full ring gets emptied.
+Equipe::Prise Equipe::Prend() {
   const std::lock_guard verrou(lecture_);
-  for (std::size_t livres = livres_; lus_ - livres >= postes_.size(); livres = livres_) livres_.wait(livres);
-  if (fin_ || !lit_(Place(lus_))) {
-    fin_ = true;
-    return std::nullopt;
-  }
-  return lus_++;
+  const auto pleine = [this](std::size_t livres) { return lus_ - livres >= postes_.size(); };
+  for (std::size_t livres = livres_; pleine(livres); livres = livres_) livres_.wait(livres);
+  const std::size_t debut = lus_;
+  while (!fin_ && !pleine(livres_) && lit_(Place(lus_), lus_ != debut)) ++lus_;
+  fin_ = lus_ == debut;
+  return {debut, lus_};
 }
 
 void Equipe::Travaille(Ouvrier& ouvrier) {
-  while (const std::optional<std::size_t> numero = Prend()) {
-    Poste& poste = Place(*numero);
-    poste.reponse.coule = [this, numero](Reponse& reponse) { Coule(*numero, reponse); };
-    poste.Occupe(ouvrier);
-    poste.fini = true;
-    Livre();
+  for (Prise prise = Prend(); prise.debut != prise.fin; prise = Prend()) {
+    for (std::size_t numero = prise.debut; numero != prise.fin; ++numero) {
+      Poste& poste = Place(numero);
+      poste.reponse.coule = [this, numero](Reponse& reponse) { Coule(numero, reponse); };
+      poste.Occupe(ouvrier);
+      poste.fini = true;
+      Livre();
+    }
   }
 }
 

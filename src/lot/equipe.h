@@ -57,12 +57,13 @@ struct Poste {
   }
 };
 
-// Fills the place with the next line; false: there is none.
-using Alimentation = std::function<bool(Poste&)>;
+// Fills the place with the next line; false: there is none. With `suite` it is one to be taken together with
+// the line before it: false where none is at hand, or enough have been taken.
+using Alimentation = std::function<bool(Poste&, bool suite)>;
 
-// Workers with a thread each. Each reads a line when it is free, works on it, and delivers it if it is the
-// oldest one, with all finished ones behind it: no thread only reads, and none is woken for a line. What is
-// read and not delivered lies in a ring of fixed size.
+// Workers with a thread each. Each reads some lines when it is free, works on them, and delivers each if it
+// is the oldest one, with all finished ones behind it: no thread only reads, and none is woken for a line.
+// What is read and not delivered lies in a ring of fixed size.
 class Equipe {
  public:
   // `lit` and `livre` are called by one thread at a time, in the order of the lines; `coule` is given the
@@ -74,8 +75,12 @@ class Equipe {
   Equipe& operator=(const Equipe&) = delete;
 
  private:
+  struct Prise {
+    std::size_t debut;
+    std::size_t fin;
+  };
   void Travaille(Ouvrier& ouvrier);
-  std::optional<std::size_t> Prend();
+  Prise Prend();
   void Livre();
   void Coule(std::size_t numero, Reponse& reponse);
   Poste& Place(std::size_t numero) { return postes_[numero % postes_.size()]; }

@@ -91,8 +91,8 @@ std::optional<std::string> Lignes::Ouvre(const std::string& chemin) {
   return OuvreFichier(chemin, fd_);
 }
 
-std::optional<Lignes::Ligne> Lignes::Suivante() {
-  while (const std::optional<std::string_view> brute = LigneBrute()) {
+std::optional<Lignes::Ligne> Lignes::Suivante(bool lit) {
+  while (const std::optional<std::string_view> brute = LigneBrute(lit)) {
     std::string_view champ = *brute;
     if (champ.ends_with('\r')) champ.remove_suffix(1);
     champ = champ.substr(0, champ.find('\t'));
@@ -102,12 +102,13 @@ std::optional<Lignes::Ligne> Lignes::Suivante() {
 }
 
 // A whole line without its end, or the beginning of one that the buffer can't hold.
-std::optional<std::string_view> Lignes::LigneBrute() {
+std::optional<std::string_view> Lignes::LigneBrute(bool lit) {
   std::size_t cherches = 0;
   for (;;) {
     const char* const debut = tampon_.data() + debut_;
     const std::size_t presents = fin_ - debut_;
     const void* const lf = std::memchr(debut + cherches, '\n', presents - cherches);
+    if (lf == nullptr && !lit) return std::nullopt;
     if (lf == nullptr && presents < tampon_.size() && !epuise_) {
       Remplis();  // it moves what is there, whether or not there is more
       cherches = presents;

@@ -28,19 +28,22 @@ class Lignes {
   std::optional<std::string> Ouvre(const std::string& chemin);
   // The next line with something in its first field that isn't a comment. Nothing at the end of the file, or
   // where reading fails: then Erreur() says why. Of a field longer than kChampMax bytes only its beginning,
-  // of more than that many bytes, is given.
-  std::optional<Ligne> Suivante();
+  // of more than that many bytes, is given. Without `lit` only what has been read is looked at, as far as
+  // there are ends of lines.
+  std::optional<Ligne> Suivante(bool lit = true);
   const std::optional<std::string>& Erreur() const { return erreur_; }
 
   // Bytes handed out so far, of all files.
   std::int64_t Octets() const { return octets_; }
+  // Bytes read and not handed out.
+  std::int64_t Presents() const { return static_cast<std::int64_t>(fin_ - debut_); }
 
   // As many bytes as the characters of the longest grid, 169 by 169 cells of two, can have: a longer field
   // has too many characters, whatever they are.
   static constexpr std::size_t kChampMax = 169UL * 169 * 2 * 4;
 
  private:
-  std::optional<std::string_view> LigneBrute();
+  std::optional<std::string_view> LigneBrute(bool lit);
   bool Remplis();
   void SauteLaFin();
 

@@ -17,6 +17,10 @@ for processus in 1 3; do
     IFS= read -r ligne <&"${LOT[0]}"
     [[ $ligne == "$grille	"*"	Résolu"* ]] || dit "--processus $processus answers “$ligne”"
   done
+  # Nor does the beginning of the next line, written together with it, hold it back.
+  env printf '%s\n#%01000d' $grille 0 >&"${LOT[1]}"
+  IFS= read -r ligne <&"${LOT[0]}"
+  [[ $ligne == "$grille	"* ]] || dit "--processus $processus answers “$ligne” before the next line"
   eval "exec ${LOT[1]}>&-"
   wait "$pid" || dit "--processus $processus: status $?"
 done
