@@ -101,6 +101,21 @@ class Style : public QProxyStyle {
   double echelle_;
 };
 
+// The window icon, which is drawn in five sizes: it waits until the first window has been painted, however
+// events come by until then, so that this one is on the screen sooner.
+class IconeApresDessin : public QObject {
+ public:
+  using QObject::QObject;
+  bool eventFilter(QObject* objet, QEvent* evenement) override {
+    if (evenement->type() == QEvent::Paint && objet->isWidgetType()) {
+      QTimer::singleShot(0, qApp, [] { QGuiApplication::setWindowIcon(IconeDuJeu()); });
+      deleteLater();
+      qApp->removeEventFilter(this);
+    }
+    return false;
+  }
+};
+
 // Fonts of up to 11 points are what desktops come with, and the tables' own size stands for them; one that
 // somebody has made larger makes all larger.
 double EchellePour(const QFont& duBureau) {
@@ -133,8 +148,7 @@ void PrepareApplication(QApplication& application) {
   QApplication::setQuitOnLastWindowClosed(false);
   QGuiApplication::setDesktopFileName(QStringLiteral("solver-de-sudoku"));  // as installed: icon and group
   InstalleLecture();
-  // Drawn in five sizes: the first window is on the screen sooner when that waits.
-  QTimer::singleShot(0, &application, [] { QGuiApplication::setWindowIcon(IconeDuJeu()); });
+  application.installEventFilter(new IconeApresDessin(&application));
 }
 
 void EcouteLesFins(SystemeQt& systeme) {
