@@ -179,7 +179,6 @@ void PlateauQt::Redimensionne() {
   const double dpr = devicePixelRatioF();
   geometrie_.MetAEchelle(zoom_ * dpr / kTwipsParPixel, haut_);
   police_ = PoliceQt({.Gras = true}, zoom_ * dpr);
-  editeur_->setFont(PoliceQt({.Gras = true}, zoom_));
   MontreBarres();
   const QSize vue = viewport()->size();
   horizontalScrollBar()->setPageStep(vue.width());
@@ -246,6 +245,7 @@ void PlateauQt::PlaceEditeur() {
   if (focus_ == 0) return;
   const int bord = geometrie_.Trait();
   const QRect dedans = geometrie_.Case(focus_).adjusted(bord, bord, -bord, -bord).translated(Origine());
+  editeur_->setFont(PoliceQt({.Gras = true}, zoom_));
   editeur_->setGeometry(EnPixels(dedans));
 }
 
