@@ -1,5 +1,6 @@
 #include "qt/application.h"
 
+#include <fontconfig/fontconfig.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -16,6 +17,8 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <system_error>
+#include <thread>
 
 #include "qt/icone.h"
 #include "qt/lecture.h"
@@ -132,6 +135,17 @@ void PrepareAffichage(bool ecran) {
   avecEcran = ecran;
   if (!ecran) qputenv("QT_QPA_PLATFORM", "offscreen");
   qInstallMessageHandler(NoteMessage);
+}
+
+std::unique_ptr<QApplication> FabriqueApplication(int& argc, char** argv) {
+  // Dozens of files, which take as long as it takes to reach the display.
+  std::jthread polices;
+  try {
+    polices = std::jthread(FcInit);
+  } catch (const std::system_error&) {
+    // No thread to be had: the toolkit reads them when it needs them.
+  }
+  return std::make_unique<QApplication>(argc, argv);
 }
 
 void PrepareApplication(QApplication& application) {

@@ -48,8 +48,8 @@ int main(int argc, char** argv) {
   std::signal(SIGXFSZ, SIG_IGN);  // a write beyond the limit fails, and ends nothing
   const bool capture = appel->image != nullptr;
   sudoku::PrepareAffichage(!capture);
-  QApplication application(argc, argv);
-  sudoku::PrepareApplication(application);
+  const auto application = sudoku::FabriqueApplication(argc, argv);
+  sudoku::PrepareApplication(*application);
   try {
     return capture ? Capture(appel->image, appel->fichier) : Joue(appel->fichier);
   } catch (const std::bad_alloc&) {
