@@ -79,14 +79,14 @@ TEST(Moteur, ToutesLesVersionsDonnentLeMeme) {
   std::mt19937 suite(4);
   std::size_t faits = 0;
   for (int tour = 0; tour < 500; ++tour) {
-    const int S = tour % 100 == 99 ? 9 + tour / 100 : 2 + tour % 7;
+    const int S = 2 + tour % 12;
     const int N = S * S;
     Texte symboles;
     for (int p = 0; p < N; ++p) symboles += U'\u4E00' + static_cast<char32_t>(p);
     GameState jeu;
     Grille depart = Grille::Nouvelle(jeu, symboles);
     // Without whole symbols there are sets in every unit, and figures.
-    const int sans = tour % 2 == 0 ? 0 : N / 2;
+    const int sans = tour / 12 % 2 == 0 ? 0 : N / 2;
     for (int i = 0; i < N * N; ++i) {
       if (sans == 0 ? suite() % 100 >= 45 : Pleine(N, S, i) < sans && suite() % 12 != 0) continue;
       const int s = suite() % 50 == 0 ? static_cast<int>(suite() % symboles.size()) : Pleine(N, S, i);
@@ -94,7 +94,8 @@ TEST(Moteur, ToutesLesVersionsDonnentLeMeme) {
     }
     Grille attendue;
     for (const FabriqueMoteur version : versions) {
-      if (version == FabriqueTextes && S > 9) continue;
+      // The plain one takes long on large sides.
+      if (version == FabriqueTextes && (S > 9 || (S > 6 && tour % 60 >= 12))) continue;
       Grille grille;
       GrilleCopy(depart, grille);
       version(N)->Passes(jeu, grille, 2, false);
