@@ -27,23 +27,24 @@ TEST(Comparaison, PetitesGrilles) {
 
 TEST(Comparaison, GrillesDeNeuf) {
   Paire paire;
-  EXPECT_EQ(JoueAuHasard(0, 350, {.tailles = {9}, .actions = 12}, paire), "");
+  EXPECT_EQ(JoueAuHasard(0, 200, {.tailles = {9}, .actions = 12}, paire), "");
   Attend(paire, {"seule", "confinée", "cachée", "nue", "Impossible", "figure 0 1", "figure 1 0"});
 }
 
 TEST(Comparaison, GrandesGrilles) {
   Paire paire;
-  EXPECT_EQ(JoueAuHasard(0, 80, {.tailles = {16, 16, 16, 25}, .actions = 5}, paire), "");
+  EXPECT_EQ(JoueAuHasard(0, 50, {.tailles = {16, 16, 16, 25}, .actions = 5}, paire), "");
   Attend(paire, {"seule", "confinée", "cachée", "nue", "figure 0 1", "figure 0 2", "figure 1 0", "figure 1 2",
                  "figure 2 0", "figure 2 1"});
 }
 
-// Candidates take two words, then three.
-TEST(Comparaison, PlusDUnMotDeCandidats) {
+// Candidates take one whole word, two, three. Each game has more than most to deduce, for its time.
+TEST(Comparaison, UnDeuxEtTroisMotsDeCandidats) {
   Paire paire;
-  EXPECT_EQ(JoueAuHasard(0, 4, {.tailles = {64, 81, 100}, .actions = 1}, paire), "");
-  EXPECT_EQ(JoueAuHasard(4, 1, {.tailles = {169}, .actions = 1}, paire), "");
-  Attend(paire, {"seule", "confinée", "cachée", "nue"});
+  for (const auto& [cote, partie] : {std::pair{64, 11U}, {64, 12U}, {81, 10U}, {100, 4U}, {169, 0U}}) {
+    EXPECT_EQ(JoueAuHasard(partie, 1, {.tailles = {cote}, .actions = 1}, paire), "") << cote;
+  }
+  Attend(paire, {"seule", "confinée", "cachée", "nue", "Impossible"});
 }
 
 TEST(Comparaison, Solveur) {
