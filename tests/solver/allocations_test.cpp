@@ -13,15 +13,16 @@ std::size_t allocations = 0;
 
 }  // namespace
 
-void* operator new(std::size_t taille) {
+// Inlined, they make the compiler see free() on what came from new.
+[[gnu::noinline]] void* operator new(std::size_t taille) {
   ++allocations;
   if (void* const p = std::malloc(taille == 0 ? 1 : taille)) return p;
   throw std::bad_alloc();
 }
-void operator delete(void* p) noexcept {
+[[gnu::noinline]] void operator delete(void* p) noexcept {
   std::free(p);
 }
-void operator delete(void* p, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept {
   std::free(p);
 }
 
