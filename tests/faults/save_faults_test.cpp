@@ -141,7 +141,8 @@ void VerifieEchec(const Depart& depart, Plan plan) {
   const auto echec = faits.begin() + plan.rang - 1;
   EXPECT_TRUE(signale || echec < vide || !echec->ends_with(" jeu.sud"));
   EXPECT_TRUE(signale || LitOctets(scene.Fichier()) == kNouveau);
-  EXPECT_TRUE(!signale || !depart.fichier || echec >= vide || scene.Noms() == noms) << "a copy that isn't whole goes";
+  EXPECT_TRUE(!signale || !depart.fichier || echec >= vide || scene.Noms() == noms)
+      << "a copy that isn't whole goes";
   const bool nommee = joueur.reponses.empty();
   EXPECT_EQ(joueur.Jeu().VgParties.size(), nommee ? 3U : 2U);
   EXPECT_EQ(joueur.Jeu().VmPartie, nommee ? 2 : 0);
@@ -219,34 +220,6 @@ TEST(Sauvegarde, DeuxPartiesSurUnFichier) {
   EXPECT_EQ(LitOctets(scene.Fichier() + "~"), kNouveau);
   autre.Clique("MnuSave");
   EXPECT_EQ(scene.Noms().size(), 4U) << "its own work needs no copy";
-}
-
-// A process dies in its copy, the next one in its writing: the load after that names the copy that is whole,
-// with the file emptied and with the file cut.
-TEST(Sauvegarde, MortDansLaCopiePuisDansLEcriture) {
-  const auto rang = [](const Depart& depart, const std::string& appel) {
-    const auto faits = Scene(depart).Sauve({});
-    return static_cast<int>(std::ranges::find(faits, appel) - faits.begin()) + 1;
-  };
-  const int copie = rang(kDeparts[0], "write jeu.sud~");
-  const int ecriture = rang(kDeparts[1], "write jeu.sud");
-  for (const Panne panne : {Panne::kMortAvant, Panne::kMortPendant}) {
-    Scene scene(kDeparts[0]);
-    scene.SauveEtMeurt({Panne::kMortPendant, copie, 0});
-    EXPECT_EQ(LitOctets(scene.Fichier()), kAncien);
-    EXPECT_EQ(LitOctets(scene.Fichier() + "~"), kAncien.substr(0, (kAncien.size() + 1) / 2));
-    scene.SauveEtMeurt({panne, ecriture, 0});
-    EXPECT_EQ(LitOctets(scene.Fichier() + "~2"), kAncien);
-    const bool vide = panne == Panne::kMortAvant;
-    EXPECT_EQ(LitOctets(scene.Fichier()), vide ? "" : kNouveau.substr(0, (kNouveau.size() + 1) / 2));
-    Joueur suivant;
-    suivant.reponses.emplace_back([](Boite& boite) { ChoisitPartie(boite, 0); });
-    suivant.Demarre(scene.Fichier());
-    const std::string ou = "la version précédente est conservée dans " + scene.Fichier() + "~2";
-    EXPECT_TRUE(suivant.AVu(vide ? "62 - L'entrée dépasse la fin de fichier (" + ou + ")"
-                                 : "message \"Ce fichier semble incomplet : " + ou + "\""))
-        << suivant.Sortie();
-  }
 }
 
 }  // namespace
