@@ -269,12 +269,9 @@ inline void TrouveNeuf::Remplace(int cellule, Bits sequence) {
   TrouveVoies<3>::Remplace(cellule, sequence);
 }
 
-// Two of three neighbours, each three lanes of nine, or lanes three apart.
+// Two of three neighbours, each three lanes of nine.
 SUDOKU_EN_LIGNE bool DeuxVoisins(std::uint32_t bits) {
   return (bits & (bits >> 1) & 0333) != 0 || (bits & (bits >> 2) & 0111) != 0;
-}
-SUDOKU_EN_LIGNE bool DeuxEnPile(std::uint32_t bits) {
-  return (bits & ((bits >> 3) | (bits >> 6)) & 0777) != 0;
 }
 
 // The places of a symbol in the units of a kind, a lane a unit, put together in registers: what is loaded at
@@ -307,9 +304,8 @@ void TrouveNeuf::ChaqueFigure(F f) {
     };
     deLignes(colonnes, kColonne, releve.debuts & 0377, releve.deux & 0377);
     deLignes(lignes, kLigne, releve.debuts >> 8, releve.deux >> 8);
-    const V comptes = Comptes(carres);
-    const Bits peu = BitsEgales(comptes, Partout<3>(2)) | BitsEgales(comptes, Partout<3>(3));
-    if (DeuxVoisins(peu) || DeuxEnPile(peu)) DeCarres(carres, figure);
+    // The first of two blocks in two lines has two places, the other may have more.
+    if (BitsEgales(Comptes(carres), Partout<3>(2)) != 0) DeCarres(carres, figure);
   });
 }
 
