@@ -16,6 +16,34 @@ std::int32_t Juge(const Bloc& bloc, int cellule) {
   return bloc.alphabet->Egaux(bloc.sure[Rang(cellule)], bloc.saisie[Rang(cellule)]) ? kProuvee : kErronee;
 }
 
+// Cells side by side that GrilleCheck looks over together, without a branch.
+constexpr int kLot = 16;
+
+struct Survol {
+  int pleines = 0;             // given or proved
+  std::uint32_t aVisiter = 0;  // bit i: cell i has no candidate or an entry to judge
+};
+
+Survol Survole(const Bloc& bloc, int premiere) {
+  const std::int32_t* const etat = &bloc.etat[Rang(premiere)];
+  const Code* const saisie = &bloc.saisie[Rang(premiere)];
+  const Code* const possible = &bloc.possibleTexte[Rang(premiere)];
+  const std::uint64_t* const candidats = &bloc.candidats[Rang(premiere)];
+  bool visites[kLot];
+  int pleines = 0;
+  for (int i = 0; i < kLot; ++i) {
+    const auto mots =
+        static_cast<std::uint32_t>(candidats[i]) | static_cast<std::uint32_t>(candidats[i] >> 32);
+    const bool vide = (possible[i] == kVide) & (mots == 0);
+    const std::int32_t paire = etat[i] & ~1;
+    visites[i] = vide | (paire == kPossible);              // or kErronee
+    pleines += (paire == kDonnee) & (saisie[i] != kVide);  // or kProuvee
+  }
+  std::uint32_t aVisiter = 0;
+  for (int i = 0; i < kLot; ++i) aVisiter |= std::uint32_t{visites[i]} << i;
+  return {pleines, aVisiter};
+}
+
 }  // namespace
 
 bool Bloc::SansCandidat(int cellule) const {
@@ -32,9 +60,9 @@ bool Bloc::Compte(int cellule) const {
 }
 
 bool Bloc::Permet(int cellule, Code code) const {
-  if (code == kVide) return true;  // the empty text stands in every text
-  if (possibleTexte[Rang(cellule)] != kVide) {
-    const Code possible = possibleTexte[Rang(cellule)];
+  const Code possible = possibleTexte[Rang(cellule)];
+  if (code == kVide || code == possible) return true;  // the empty text stands in every text
+  if (possible != kVide) {
     if (!alphabet->Long(possible)) return alphabet->Egaux(possible, code);
     return Contient(alphabet->TexteDe(possible), alphabet->TexteDe(code));
   }
@@ -111,21 +139,21 @@ Visite VisiteCase(Bloc& bloc, int cellule, Revisions& revisions) {
 
 std::int32_t GrilleCheck(Grille& VpGrille, Revisions& revisions) {
   Bloc& bloc = VpGrille.Donnees();
+  const int derniere = VpGrille.Borne();
   int pleines = 0;
-  for (int i = 1; i <= VpGrille.Borne(); ++i) {
-    switch (VisiteCase(bloc, i, revisions)) {
-      case Visite::kSansCandidat:
-        return -1;
-      case Visite::kChange:
-        return kReevaluer;
-      case Visite::kPleine:
-        ++pleines;
-        break;
-      case Visite::kARemplir:
-        break;
+  for (int premiere = 1; premiere <= derniere; premiere += kLot) {
+    const int combien = std::min(kLot, derniere + 1 - premiere);
+    Survol survol{.aVisiter = (1U << combien) - 1};
+    if (bloc.mots == 1 && combien == kLot) survol = Survole(bloc, premiere);
+    pleines += survol.pleines;
+    for (std::uint32_t reste = survol.aVisiter; reste != 0; reste &= reste - 1) {
+      const Visite visite = VisiteCase(bloc, premiere + std::countr_zero(reste), revisions);
+      if (visite == Visite::kSansCandidat) return -1;
+      if (visite == Visite::kChange) return kReevaluer;
+      if (visite == Visite::kPleine) ++pleines;
     }
   }
-  return VpGrille.Borne() - pleines;
+  return derniere - pleines;
 }
 
 }  // namespace sudoku
