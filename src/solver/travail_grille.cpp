@@ -9,7 +9,9 @@ namespace {
 // A proved symbol replaces whatever the cell holds; one that rests on unproved entries goes into empty cells
 // only.
 bool EcritSure(const Bloc& bloc, int i) {
-  return bloc.sure[Rang(i)] != kVide && !bloc.alphabet->Egaux(bloc.saisie[Rang(i)], bloc.sure[Rang(i)]);
+  const Code sure = bloc.sure[Rang(i)];
+  const Code saisie = bloc.saisie[Rang(i)];
+  return sure != kVide && sure != saisie && !bloc.alphabet->Egaux(saisie, sure);
 }
 
 bool EcritPoss(const Bloc& bloc, int i) {
