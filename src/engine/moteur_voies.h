@@ -40,7 +40,6 @@ class MoteurVoies : public Moteur {
   using Bits = BitsDe<S>;
   static constexpr int kVoies = Largeur<S>::kVoies;
   static constexpr int kMots = Largeur<S>::kMots;
-  static constexpr int kDernierBit = 8 * sizeof(Bits) - 1;
 
   bool Convient(const Bloc& bloc);
   // Which contents count, and what units have of them. True if some cell has Etat 2.
@@ -137,6 +136,67 @@ void MoteurVoies<S>::AmorceCases(const Code* positions) {
   }
 }
 
+#if defined(__AVX2__)
+// The bit of each of eight symbols; what is shifted by more than there are bits, as by numbers below 0,
+// leaves nothing.
+template <class Bits>
+SUDOKU_EN_LIGNE auto HuitBits(const Code* positions) {
+  using Huit [[gnu::vector_size(8 * sizeof(Bits))]] = Bits;
+  const __m256i huit = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(positions));
+  if constexpr (sizeof(Bits) == 4) {
+    return reinterpret_cast<Huit>(_mm256_sllv_epi32(_mm256_set1_epi32(1), huit));
+  } else {
+    const auto quatre = [](__m128i p) {
+      return _mm256_sllv_epi64(_mm256_set1_epi64x(1), _mm256_cvtepi32_epi64(p));
+    };
+    const __m256i moities[2] = {quatre(_mm256_castsi256_si128(huit)),
+                                quatre(_mm256_extracti128_si256(huit, 1))};
+    Huit bits;
+    std::memcpy(&bits, moities, sizeof bits);
+    return bits;
+  }
+}
+#endif
+
+// A row's symbols as bits, none for an open cell, whose position is negative. Result: all of them.
+template <int S>
+SUDOKU_EN_LIGNE MotDe<S> BitsDeLigne(const Code* positions, MotDe<S>* bits) {
+  using Bits = BitsDe<S>;
+  const auto bit = [&](int c) {
+    return positions[c] < 0 ? 0 : Bits{1} << (positions[c] & static_cast<int>(8 * sizeof(Bits) - 1));
+  };
+  Bits tous = 0;
+  int c = 0;
+#if defined(__AVX2__)
+  decltype(HuitBits<Bits>(positions)) ensemble{};
+  if constexpr (S == 3 || S == 4) {
+    // Written at once: it is read at once.
+    decltype(ensemble) derniers{};
+    const auto premiers = HuitBits<Bits>(positions);
+    if constexpr (S == 4) derniers = HuitBits<Bits>(positions + 8);
+    if constexpr (S == 3) derniers[0] = bit(8);
+    ensemble = premiers | derniers;
+    const __m256i melees =
+        _mm256_packus_epi32(reinterpret_cast<__m256i>(premiers), reinterpret_cast<__m256i>(derniers));
+    _mm256_store_si256(reinterpret_cast<__m256i*>(bits), _mm256_permute4x64_epi64(melees, 0xD8));
+    c = S * S;
+  }
+  for (; c < S * S / 8 * 8; c += 8) {
+    const auto huit = HuitBits<Bits>(positions + c);
+    ensemble |= huit;
+    if constexpr (sizeof(MotDe<S>) == sizeof(Bits)) std::memcpy(bits + c, &huit, sizeof huit);
+  }
+  ensemble |= __builtin_shufflevector(ensemble, ensemble, 4, 5, 6, 7, 4, 5, 6, 7);
+  ensemble |= __builtin_shufflevector(ensemble, ensemble, 2, 3, 2, 3, 2, 3, 2, 3);
+  tous = ensemble[0] | ensemble[1];
+#endif
+  for (; c < S * S; ++c) {
+    bits[c] = static_cast<MotDe<S>>(bit(c));
+    tous |= bits[c];
+  }
+  return static_cast<MotDe<S>>(tous);
+}
+
 // Symbols and open cells of rows and columns, and the symbols of blocks.
 template <int S>
 void MoteurVoies<S>::AmorceLignes(const Code* positions) {
@@ -147,12 +207,7 @@ void MoteurVoies<S>::AmorceLignes(const Code* positions) {
   for (int b = 0; b < S; ++b) {
     // All rows of the band before the first is looked at as a whole: a load waits for smaller stores.
     for (int k = 0; k < S; ++k, positions += N) {
-      Mot ligne = 0;
-      for (int c = 0; c < N; ++c) {
-        bits[k][c] = static_cast<Mot>(positions[c] < 0 ? 0 : Bits{1} << (positions[c] & kDernierBit));
-        ligne |= bits[k][c];
-      }
-      contenus_.symboles[kLigne][S * b + k] = ligne;
+      contenus_.symboles[kLigne][S * b + k] = BitsDeLigne<S>(positions, bits[k]);
     }
     V carres{};
     for (int k = 0; k < S; ++k) {
@@ -193,20 +248,18 @@ void MoteurVoies<S>::AmorceUnites() {
   }
 }
 
-// What the first pass proved of cells whose content doesn't count or isn't that symbol. Rows without such a
-// cell are seen at once.
+// What the first pass proved of cells whose content doesn't count or isn't that symbol. That there is no such
+// cell is seen at once.
 template <int S>
 void MoteurVoies<S>::Prouve(const Bloc& bloc) {
-  const auto prouvee = [&bloc](std::size_t i) {
-    return bloc.sure[i] != kVide && bloc.sure[i] != bloc.possibleTexte[i];
-  };
-  for (std::size_t premiere = 1; premiere <= kCases; premiere += N) {
-    int quelques = 0;
-    for (std::size_t i = premiere; i < premiere + N; ++i) quelques |= static_cast<int>(prouvee(i));
-    if (quelques == 0) continue;
-    for (std::size_t i = premiere; i < premiere + N; ++i) {
-      if (prouvee(i)) deductions_.Prouve(static_cast<int>(i) - 1, alphabet_->Position(bloc.sure[i]));
-    }
+  const Code* const sures = bloc.sure.data() + 1;
+  const Code* const contenus = bloc.possibleTexte.data() + 1;
+  const auto autre = [&](std::size_t i) { return sures[i] == kVide ? 0 : sures[i] ^ contenus[i]; };
+  Code quelques = 0;
+  for (std::size_t i = 0; i < kCases; ++i) quelques |= autre(i);
+  if (quelques == 0) return;
+  for (std::size_t i = 0; i < kCases; ++i) {
+    if (autre(i) != 0) deductions_.Prouve(static_cast<int>(i), alphabet_->Position(sures[i]));
   }
 }
 
