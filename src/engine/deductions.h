@@ -28,9 +28,9 @@ struct Trouvaille {
 // What finds the deductions and keeps the tables they are found in. It calls f for each find, and may count
 // on f to act at once, by the last five.
 template <class T>
-concept Trouveur = requires(T t, typename T::Bits bits, Appui appui, Trouvaille<typename T::Bits> trouvaille,
-                            FigureDe<typename T::Bits> figure, void (*deuxEntiers)(int, int),
-                            void (*f)(const Trouvaille<typename T::Bits>&),
+concept Trouveur = requires(T t, decltype(t.Reste(0)) reste, typename T::Bits bits, Appui appui,
+                            Trouvaille<typename T::Bits> trouvaille, FigureDe<typename T::Bits> figure,
+                            void (*deuxEntiers)(int, int), void (*f)(const Trouvaille<typename T::Bits>&),
                             void (*fFigure)(const FigureDe<typename T::Bits>&)) {
   // The candidates that the contents leave; false where a cell has none. Then Deduit's tables, with all units
   // and symbols to be looked at.
@@ -38,14 +38,14 @@ concept Trouveur = requires(T t, typename T::Bits bits, Appui appui, Trouvaille<
   t.Transpose();
   // The next unit from number n on that has changed since it was looked at, and takes it as looked at; -1.
   { t.UniteSale(0) } -> std::same_as<int>;
-  // What is left to place in a unit. Symbols that have one place there: f(symbol, place).
-  t.ChaqueSeule(0, t.Reste(0), deuxEntiers);
+  // What is left to place in a unit, `reste`. Symbols that have one place there: f(symbol, place).
+  t.ChaqueSeule(0, reste, deuxEntiers);
   // Symbols that have all their places, two or more, in another unit too.
-  t.ChaqueConfinee(0, t.Reste(0), f);
+  t.ChaqueConfinee(0, reste, f);
   // Hidden sets, all as the places were when Reste saw them; perdants: places with other candidates.
-  t.ChaqueCachee(0, t.Reste(0), f);
+  t.ChaqueCachee(0, reste, f);
   // Naked sets, each on the candidates that the one before has left.
-  t.ChaqueNue(0, f);
+  t.ChaqueNue(0, reste, f);
   // Figures of the symbols whose places have changed since the last search.
   t.ChaqueFigure(fFigure);
   // Cells that came down to one candidate since the last call: f(cell, symbol).
@@ -195,7 +195,7 @@ bool DeductionsSur<T, U>::Balaye() {
 template <Trouveur T, Usage U>
 bool DeductionsSur<T, U>::TestSerie(int u) {
   bool change = false;
-  const auto reste = T::Reste(u);
+  auto reste = T::Reste(u);
   T::ChaqueSeule(u, reste, [&](int symbole, int place) { PoseSeule(u, symbole, T::Cellule(u, place)); });
   T::ChaqueConfinee(u, reste, [&](const Trouvaille<Bits>& t) {
     change = true;
@@ -205,7 +205,7 @@ bool DeductionsSur<T, U>::TestSerie(int u) {
     change = true;
     GardeCachee(u, t);
   });
-  T::ChaqueNue(u, [&](const Trouvaille<Bits>& t) {
+  T::ChaqueNue(u, reste, [&](const Trouvaille<Bits>& t) {
     change = true;
     RetireNue(u, t);
   });

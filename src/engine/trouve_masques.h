@@ -37,7 +37,7 @@ class TrouveMasques {
   template <class F>
   void ChaqueCachee(int u, const B& reste, F f);
   template <class F>
-  void ChaqueNue(int u, F f) {
+  void ChaqueNue(int u, const B&, F f) {
     Trouvaille<B> t;
     for (int depuis = 0; dos().Nue(u, depuis, t); depuis = Premier(t.lieux) + 1) f(t);
   }

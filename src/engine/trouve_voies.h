@@ -4,7 +4,7 @@
 
 #include "engine/bits_voies.h"
 #include "engine/deductions.h"
-#include "engine/ensembles.h"
+#include "engine/duo.h"
 #include "engine/suivi.h"
 #include "engine/tables_voies.h"
 
@@ -25,28 +25,25 @@ class TrouveVoies : public Suivi<S> {
   // The candidates of the N cells of a row.
   const MotDe<S>* CandidatsDeLigne(int ligne) const { return candidats_[Unite(kLigne, ligne)]; }
 
-  // The places of each symbol that is left to place in a unit, and how many.
+  // A unit as it is before it is run: the places of each symbol that is left to place, and the cells'
+  // candidates.
   struct EtatUnite {
-    V places;
-    V comptes;
-    V seules;  // lanes with one
-    // The places lie in `copie`, and zeros behind them, where they are not all that the table of the unit
-    // has.
-    bool copiees;
-    alignas(64) MotDe<S> copie[Taille(2 * Largeur<S>::kVoies)];
+    Duo<S> vues;
+    Bits seules = 0;  // symbols with one place
+    bool change = false;
   };
 
   bool Amorce(Appui appui);
   void Transpose();
-  EtatUnite Reste(int u) const;
+  EtatUnite Reste(int u);
   template <class F>
   void ChaqueSeule(int u, const EtatUnite& e, F f) const;
   template <class F>
   void ChaqueConfinee(int u, const EtatUnite& e, F f);
   template <class F>
-  void ChaqueCachee(int u, const EtatUnite& e, F f);
+  void ChaqueCachee(int u, EtatUnite& e, F f);
   template <class F>
-  void ChaqueNue(int u, F f) const;
+  void ChaqueNue(int u, EtatUnite& e, F f);
   template <class F>
   void ChaqueFigure(F f);
   template <class F>
@@ -70,21 +67,23 @@ class TrouveVoies : public Suivi<S> {
 
   void Tourne();
   template <class F>
-  static void DeLignes(const V& lignes, Bits debuts, TypeUnite type, F f);
+  static void FiguresDe(int s, const V& colonnes, const V& lignes, const V& carres, const Duo<S>& vues, F f);
+  template <class F>
+  static void DeLignes(const Duo<S>& vues, Vue vue, const V& lignes, TypeUnite type, F f);
   template <class F>
   static void DeCarres(const V& carres, F f);
 
-  // Candidates by unit and place, places by unit and symbol; lanes from N on stay 0. A search for sets reads
-  // on into the row behind (see ensembles.h), so that there is one more.
-  alignas(64) Mot candidats_[Taille(kUnites + 1)][Taille(kVoies)];
-  alignas(64) Mot places_[Taille(kUnites + 1)][Taille(kVoies)];
+  // Candidates by unit and place, places by unit and symbol; lanes from N on stay 0.
+  alignas(64) Mot candidats_[Taille(kUnites)][Taille(kVoies)];
+  alignas(64) Mot places_[Taille(kUnites)][Taille(kVoies)];
   // Places again, by kind, symbol and number of the unit, once `tournees_`.
-  alignas(64) Mot parSymbole_[3][Taille(N + 1)][Taille(kVoies)];
+  alignas(64) Mot parSymbole_[3][Taille(N)][Taille(kVoies)];
   bool tournees_ = false;
 
  private:
-  template <class F>
-  void FiguresDe(int s, F f) const;
+  // The places in a unit of what is left to place there, as Reste saw it.
+  alignas(64) Mot aPlacer_[Taille(kVoies)];
+
   template <class F>
   static void EnCarres(const V& voies, Bits debuts, TypeUnite type, TypeUnite type2, F f);
   bool EnleveTous(int cellule, Bits symboles);
@@ -123,37 +122,29 @@ void TrouveVoies<S>::Transpose() {
 }
 
 template <int S>
-SUDOKU_EN_LIGNE typename TrouveVoies<S>::EtatUnite TrouveVoies<S>::Reste(int u) const {
-  EtatUnite e;
-  e.places = Lit<S>(places_[u]);
-  e.copiees = prouves_[u] != 0;
-  if (e.copiees) {
-    Ecrit<S>(e.copie, e.places);
-    Ecrit<S>(e.copie + kVoies, V{});
-    Chaque(prouves_[u], [&](int s) { e.copie[s] = 0; });
-    e.places = Lit<S>(e.copie);
-  }
-  e.comptes = Comptes(e.places);
-  e.seules = Egales(e.comptes, Partout<S>(1));
+SUDOKU_EN_LIGNE typename TrouveVoies<S>::EtatUnite TrouveVoies<S>::Reste(int u) {
+  V places = Lit<S>(places_[u]);
+  Ecrit<S>(aPlacer_, places);
+  if (prouves_[u] != 0) Chaque(prouves_[u], [&](int s) { aPlacer_[s] = 0; });
+  EtatUnite e{Duo<S>(aPlacer_, candidats_[u])};
+  e.seules = e.vues.De(kPremiere, 1);
   return e;
 }
 
 template <int S>
 template <class F>
 SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueSeule(int u, const EtatUnite& e, F f) const {
-  const Bits symboles = EnBits(e.seules);
-  if (symboles == 0) return;
-  const Mot* const p = e.copiees ? e.copie : places_[u];
-  Chaque(symboles, [&](int s) { f(s, std::countr_zero(Bits{p[s]})); });
+  Chaque(e.seules, [&](int s) { f(s, std::countr_zero(Bits{places_[u][s]})); });
 }
 
 template <int S>
 template <class F>
 SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueConfinee(int u, const EtatUnite& e, F f) {
   // A part has S cells; in a large unit there is often no symbol with so few places.
-  if (S > 3 && Aucune(PlusDe(1, e.comptes) & ~PlusDe(S, e.comptes))) return;
+  if (S > 3 && e.vues.Entre(kPremiere, 2, S) == 0) return;
   const Croisements<S>& croisements = kLieux<S>.croisements[u];
-  const V places = e.places & ~e.seules;
+  V places = Lit<S>(aPlacer_);
+  if (e.seules != 0) places = places & ~Etale<S>(e.seules);
   const V ou = places | Nulles(places);  // a symbol without places isn't confined to anything
   const int n = TypeDe(u) == kCarre ? 2 * S : S;
   V perdants[Taille(2 * S)];
@@ -177,34 +168,39 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueConfinee(int u, const EtatUnite& e, F
 
 template <int S>
 template <class F>
-SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueCachee(int u, const EtatUnite& e, F f) {
-  const Bits debuts = Ensembles<S>(e.copiees ? e.copie : places_[u], e.places, e.comptes);
-  if (debuts == 0) return;
-  alignas(64) Mot places[Taille(kVoies)];
-  Ecrit<S>(places, e.places);
-  Chaque(debuts, [&](int premier) {
-    const Bits lieux = places[premier];
-    const Bits sequence = Depuis(BitsEgales(Lit<S>(places), Partout<S>(lieux)), premier);
+SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueCachee(int u, EtatUnite& e, F f) {
+  Chaque(e.vues.Debuts(kPremiere), [&](int premier) {
+    const Bits lieux = aPlacer_[premier];
+    const int combien = std::popcount(lieux);
+    if ((lieux & ~e.vues.De(kSeconde, combien)) == 0) return;
+    const Bits sequence = Depuis(BitsEgales(Lit<S>(aPlacer_), Partout<S>(lieux)), premier);
+    if (std::popcount(sequence) != combien) return;
     const Bits autres = lieux & ~BitsEgales(Lit<S>(candidats_[u]), Partout<S>(sequence));
-    if (autres != 0) f({.symboles = sequence, .lieux = lieux, .perdants = autres});
+    if (autres == 0) return;
+    e.change = true;
+    f({.symboles = sequence, .lieux = lieux, .perdants = autres});
   });
 }
 
 template <int S>
 template <class F>
-SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueNue(int u, F f) const {
-  V candidats = Lit<S>(candidats_[u]);
-  Bits debuts = Ensembles<S>(candidats_[u], candidats, Comptes(candidats));
+SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueNue(int u, EtatUnite& e, F f) {
+  if (e.change) e.vues = Duo<S>(places_[u], candidats_[u]);
+  Bits debuts = e.vues.Debuts(kSeconde);
   while (debuts != 0) {
     const int premier = std::countr_zero(debuts);
     debuts &= debuts - 1;
     const Bits sequence = candidats_[u][premier];
+    const int combien = std::popcount(sequence);
+    if ((sequence & ~e.vues.De(kPremiere, combien)) == 0) continue;
+    const V candidats = Lit<S>(candidats_[u]);
     const Bits egales = BitsEgales(candidats, Partout<S>(sequence));
+    const Bits lieux = Depuis(egales, premier);
     const Bits perdants = BitsNonNulles(candidats & Partout<S>(sequence)) & ~egales;
-    if (perdants == 0) continue;
-    f({.symboles = sequence, .lieux = Depuis(egales, premier), .perdants = perdants});
-    candidats = Lit<S>(candidats_[u]);
-    debuts = Ensembles<S>(candidats_[u], candidats, Comptes(candidats)) & ~((Bits{2} << premier) - 1);
+    if (perdants == 0 || std::popcount(lieux) != combien) continue;
+    f({.symboles = sequence, .lieux = lieux, .perdants = perdants});
+    e.vues = Duo<S>(places_[u], candidats_[u]);
+    debuts = e.vues.Debuts(kSeconde) & ~((Bits{2} << premier) - 1);
   }
 }
 

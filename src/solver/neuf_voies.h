@@ -2,88 +2,57 @@
 
 #include <cstring>
 
-#include "engine/voies.h"
+#include "engine/duo.h"
 
-// Nine lanes twice over, and what puts them together, where a unit is looked at by places and by candidates.
+// What puts nine lanes together.
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
-// Lane i of each half gets lane i + d of that half, and behind these the first one of that half of `suite`.
-template <int d>
-SUDOKU_EN_LIGNE Voies<3> Decale(const Voies<3>& v, const Voies<3>& suite) {
-  if constexpr (d == 8) return suite;
-#if defined(__AVX2__)
-  return {{reinterpret_cast<Voies<3>::Registre>(_mm256_alignr_epi8(
-      reinterpret_cast<__m256i>(suite.r[0]), reinterpret_cast<__m256i>(v.r[0]), 2 * d % 16))}};
-#elif defined(__SSE2__)
-  return Voies<3>::De([&](int i) {
-    return reinterpret_cast<Voies<3>::Registre>(
-        _mm_or_si128(_mm_srli_si128(reinterpret_cast<__m128i>(v.r[i]), 2 * d % 16),
-                     _mm_slli_si128(reinterpret_cast<__m128i>(suite.r[i]), 16 - 2 * d % 16)));
-  });
-#else
-  alignas(64) MotDe<3> mots[16];
-  alignas(64) MotDe<3> suivants[16];
-  Ecrit<3>(mots, v);
-  Ecrit<3>(suivants, suite);
-  for (int moitie = 0; moitie < 16; moitie += 8) {
-    for (int i = 0; i < 8; ++i) mots[moitie + i] = i + d < 8 ? mots[moitie + i + d] : 0;
-    mots[moitie + 8 - d] = suivants[moitie];
-  }
-  return Lit<3>(mots);
-#endif
-}
-
-// Two times nine lanes side by side, the first eight of each and then the ninth ones.
-struct DeuxFoisNeuf {
-  Voies<3> huit;
-  Voies<3> neuvieme;
-
-  SUDOKU_EN_LIGNE DeuxFoisNeuf(const MotDe<3>* a, const MotDe<3>* b)
-      : huit(Moities(a, b)), neuvieme(Moities(a + 8, b + 8)) {}
-#if defined(__AVX2__)
-  SUDOKU_EN_LIGNE DeuxFoisNeuf(const Voies<3>& a, const Voies<3>& b)
-      : huit(Moities<0x20>(a, b)), neuvieme(Moities<0x31>(a, b)) {}
-#else
-  SUDOKU_EN_LIGNE DeuxFoisNeuf(const Voies<3>& a, const Voies<3>& b)
-      : huit{{a.r[0], b.r[0]}}, neuvieme{{a.r[1], b.r[1]}} {}
-#endif
-
- private:
-#if defined(__AVX2__)
-  template <int moities>
-  SUDOKU_EN_LIGNE static Voies<3> Moities(const Voies<3>& a, const Voies<3>& b) {
-    return {{reinterpret_cast<Voies<3>::Registre>(_mm256_permute2x128_si256(
-        reinterpret_cast<__m256i>(a.r[0]), reinterpret_cast<__m256i>(b.r[0]), moities))}};
-  }
-#endif
-  SUDOKU_EN_LIGNE static Voies<3> Moities(const MotDe<3>* a, const MotDe<3>* b) {
-#if defined(__AVX2__)
-    const auto huit = [](const MotDe<3>* p) { return _mm_load_si128(reinterpret_cast<const __m128i*>(p)); };
-    return {{reinterpret_cast<Voies<3>::Registre>(_mm256_set_m128i(huit(b), huit(a)))}};
-#else
-    alignas(64) MotDe<3> mots[16];
-    std::memcpy(mots, a, 16);
-    std::memcpy(mots + 8, b, 16);
-    return Lit<3>(mots);
-#endif
-  }
+// What there is in four tables of nine lanes, those of two units: 8 bits a table, for its first eight lanes.
+struct Releve {
+  std::uint32_t seuls;      // lanes that hold one
+  std::uint32_t neuviemes;  // the same for the ninth lane, 8 times over
+  std::uint32_t debuts;  // lanes where a set of equal lanes begins, as many as each holds; some may be none
 };
 
-// What there is in two times nine lanes, bits by lane: of the first eight lanes of either, 8 bits each.
-struct Releve18 {
-  std::uint32_t seuls;   // lanes that hold one
-  std::uint32_t deux;    // lanes that hold two
-  std::uint32_t debuts;  // first ones of sets of equal lanes, as many as each holds
-};
-SUDOKU_EN_LIGNE Releve18 Regarde(const DeuxFoisNeuf& voies) {
-  const Voies<3> comptes = Comptes(voies.huit);
-  Voies<3> egales = Partout<3>(1);
-  ChaqueConstante<8>([&](auto d) SUDOKU_LAMBDA_EN_LIGNE {
-    egales = egales - Egales(voies.huit, Decale<d + 1>(voies.huit, voies.neuvieme));
-  });
-  const std::uint32_t seuls = BitsEgales(comptes, Partout<3>(1));
-  return {seuls, BitsEgales(comptes, Partout<3>(2)), BitsEgales(comptes, egales) & ~seuls};
+// Places and candidates of a unit, then of another. The low byte of a lane says which of those with the same
+// count are equal.
+SUDOKU_EN_LIGNE Releve Regarde(const MotDe<3>* const (&tables)[4]) {
+#if defined(__AVX2__)
+  const auto octets = [&](int i, auto f) SUDOKU_LAMBDA_EN_LIGNE {
+    const auto huit = [&](int k) { return _mm_load_si128(reinterpret_cast<const __m128i*>(tables[k] + i)); };
+    return _mm256_packus_epi16(f(_mm256_set_m128i(huit(2), huit(0))), f(_mm256_set_m128i(huit(3), huit(1))));
+  };
+  const auto bas = [](__m256i v) { return _mm256_and_si256(v, _mm256_set1_epi16(0xFF)); };
+  const auto haut = [](__m256i v) { return _mm256_srli_epi16(v, 8); };
+  const auto range = [](__m256i v) { return TrenteDeux{{reinterpret_cast<TrenteDeux::Registre>(v)}}; };
+  const auto partout = [&](__m256i v) {
+    const __m128i premier = _mm_setr_epi8(0, 0, 0, 0, 0, 0, 0, 0, 8, 8, 8, 8, 8, 8, 8, 8);
+    return range(_mm256_shuffle_epi8(v, _mm256_broadcastsi128_si256(premier)));
+  };
+  const __m256i mots = octets(0, bas);
+  const TrenteDeux cles = range(mots);
+  const TrenteDeux comptes = Comptes(cles) + range(octets(0, haut));
+  const TrenteDeux neuvieme = partout(octets(8, bas));
+  const TrenteDeux compteNeuvieme = Comptes(neuvieme) + partout(octets(8, haut));
+  const TrenteDeux un = TrenteDeux::Partout(1);
+  TrenteDeux egales = un - Egaux(cles, neuvieme);
+  const auto compare = [&](auto d) SUDOKU_LAMBDA_EN_LIGNE {
+    egales = egales - Egaux(cles, range(_mm256_srli_epi64(mots, 8 * (decltype(d)::value + 1))));
+  };
+  ChaqueConstante(compare, std::make_integer_sequence<int, 7>());
+  return {BitsDesOctets(Egaux(comptes, un)), BitsDesOctets(Egaux(compteNeuvieme, un)),
+          BitsDesOctets(AuMoins(egales, comptes) & AuMoins(comptes, un + un))};
+#else
+  Releve releve{};
+  for (int k = 0; k < 4; k += 2) {
+    const Duo<3> vues(tables[k], tables[k + 1]);
+    releve.seuls |= (vues.De(kPremiere, 1) & 0377) << 8 * k;
+    releve.neuviemes |= (vues.De(kPremiere, 1) >> 8) << 8 * k;
+    releve.debuts |= ((vues.Debuts(kPremiere) & 0377) | (vues.Debuts(kSeconde) & 0377) << 8) << 8 * k;
+  }
+  return releve;
+#endif
 }
 
 // Three times three lanes into nine. Each is read with the one behind it.

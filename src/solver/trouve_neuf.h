@@ -43,7 +43,7 @@ class TrouveNeuf : private TrouveVoies<3> {
   template <class F>
   void ChaqueCachee(int u, const Apercu& e, F f);
   template <class F>
-  void ChaqueNue(int u, F f);
+  void ChaqueNue(int u, const Apercu& e, F f);
   template <class F>
   void ChaqueFigure(F f);
 
@@ -137,9 +137,17 @@ SUDOKU_EN_LIGNE void TrouveNeuf::TransposePlaces() {
   TransposePlaces();
   ToutSale();
   confinees_ = aVoir_ = UnitesConfinees(cases_);
-  for (int u = 0; u < kUnites; ++u) {
-    etats_[u] = EtatDe(u, places_[u]);
-    aVoir_ |= std::uint32_t{etats_[u] != 0} << u;
+  for (int u = 0; u < kUnites; u += 2) {
+    const int v = std::min(u + 1, kUnites - 1);
+    const Releve releve = Regarde({places_[u], candidats_[u], places_[v], candidats_[v]});
+    const auto etat = [&](int k, int un) {
+      const std::uint32_t bits =
+          (releve.seuls >> k & 0377) | (releve.neuviemes >> k & 1) << 8 | (releve.debuts >> k & 0xFFFF) << 9;
+      etats_[un] = bits;
+      aVoir_ |= std::uint32_t{bits != 0} << un;
+    };
+    etat(0, u);
+    etat(16, v);
   }
   valables_ = ~0U;
 }
@@ -192,9 +200,8 @@ SUDOKU_EN_LIGNE int TrouveNeuf::UniteSale(int depuis) {
 }
 
 SUDOKU_EN_LIGNE std::uint32_t TrouveNeuf::EtatDe(int u, const MotDe<3>* places) const {
-  const Releve18 releve = Regarde({places, candidats_[u]});
-  const std::uint32_t neuvieme{std::popcount(places[8]) == 1};
-  return (releve.seuls & 0377) | neuvieme << 8 | releve.debuts << 9;
+  const Duo<3> vues(places, candidats_[u]);
+  return vues.De(kPremiere, 1) | (vues.Debuts(kPremiere) & 0377) << 9 | (vues.Debuts(kSeconde) & 0377) << 17;
 }
 
 SUDOKU_EN_LIGNE TrouveNeuf::Apercu TrouveNeuf::Reste(int u) {
@@ -239,12 +246,13 @@ SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueCachee(int u, const Apercu& e, F f) {
     const Bits memes = BitsEgales(places, Partout<3>(lieux)) & ~e.prouves;
     const Bits sequence = Depuis(memes, premier);
     const Bits autres = lieux & ~BitsEgales(Lit<3>(candidats_[u]), Partout<3>(sequence));
-    if (autres != 0) f(Trouvaille<Bits>{.symboles = sequence, .lieux = lieux, .perdants = autres});
+    if (autres != 0 && std::popcount(sequence) == std::popcount(lieux))
+      f(Trouvaille<Bits>{.symboles = sequence, .lieux = lieux, .perdants = autres});
   });
 }
 
 template <class F>
-SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueNue(int u, F f) {
+SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueNue(int u, const Apercu&, F f) {
   const auto nues = [](std::uint32_t etat) { return Apercu{etat, 0}.Nues(); };
   Bits debuts = nues((valables_ >> u & 1) != 0 ? etats_[u] : EtatDe(u, places_[u]));
   while (debuts != 0) {
@@ -254,8 +262,9 @@ SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueNue(int u, F f) {
     const Bits sequence = candidats_[u][premier];
     const Bits egales = BitsEgales(candidats, Partout<3>(sequence));
     const Bits perdants = BitsNonNulles(candidats & Partout<3>(sequence)) & ~egales;
-    if (perdants == 0) continue;
-    f(Trouvaille<Bits>{.symboles = sequence, .lieux = Depuis(egales, premier), .perdants = perdants});
+    const Bits lieux = Depuis(egales, premier);
+    if (perdants == 0 || std::popcount(lieux) != std::popcount(sequence)) continue;
+    f(Trouvaille<Bits>{.symboles = sequence, .lieux = lieux, .perdants = perdants});
     debuts = nues(EtatDe(u, places_[u])) & ~((Bits{2} << premier) - 1);
   }
 }
@@ -267,11 +276,6 @@ inline void TrouveNeuf::Remplace(int cellule, Bits sequence) {
   confinees_ |= unites;
   valables_ &= ~unites;
   TrouveVoies<3>::Remplace(cellule, sequence);
-}
-
-// Two of three neighbours, each three lanes of nine.
-SUDOKU_EN_LIGNE bool DeuxVoisins(std::uint32_t bits) {
-  return (bits & (bits >> 1) & 0333) != 0 || (bits & (bits >> 2) & 0111) != 0;
 }
 
 // The places of a symbol in the units of a kind, a lane a unit, put together in registers: what is loaded at
@@ -289,23 +293,9 @@ SUDOKU_EN_LIGNE Voies<3> TrouveNeuf::PlacesDe(int s, TypeUnite type) const {
 template <class F>
 void TrouveNeuf::ChaqueFigure(F f) {
   Chaque(SymbolesSales(), [&](int s) {
-    const auto figure = [&](TypeUnite type, Bits unites, TypeUnite type2, Bits cle) {
-      f({.symbole = s, .type = type, .unites = unites, .type2 = type2, .cle = cle});
-    };
     const V colonnes = PlacesDe(s, kColonne);
     const V lignes = PlacesDe(s, kLigne);
-    const V carres = PlacesDe(s, kCarre);
-    const Releve18 releve = Regarde({colonnes, lignes});
-    const auto deuxiemes = [&](TypeUnite type, std::uint32_t huit) {
-      return huit | std::uint32_t{std::popcount(places_[Unite(type, 8)][s]) == 2} << 8;
-    };
-    const auto deLignes = [&](const V& v, TypeUnite type, Bits debuts, std::uint32_t deux) {
-      if (debuts != 0 || DeuxVoisins(deuxiemes(type, deux))) DeLignes(v, debuts, type, figure);
-    };
-    deLignes(colonnes, kColonne, releve.debuts & 0377, releve.deux & 0377);
-    deLignes(lignes, kLigne, releve.debuts >> 8, releve.deux >> 8);
-    // The first of two blocks in two lines has two places, the other may have more.
-    if (BitsEgales(Comptes(carres), Partout<3>(2)) != 0) DeCarres(carres, figure);
+    FiguresDe(s, colonnes, lignes, PlacesDe(s, kCarre), Duo<3>(colonnes, lignes), f);
   });
 }
 
