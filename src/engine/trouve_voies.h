@@ -65,6 +65,12 @@ class TrouveVoies : public Suivi<S> {
 
   static Bits UnBit(int n) { return Bit<Bits>(n); }
 
+  // Hidden and naked sets of unit u among those that may begin at `debuts`. agit(symbols or places of one):
+  // something may be taken. encore(): where naked sets may begin after one has acted.
+  template <class A, class F>
+  void CacheesDe(int u, Bits debuts, A agit, F f) const;
+  template <class A, class E, class F>
+  void NuesDe(int u, Bits debuts, A agit, E encore, F f) const;
   void Tourne();
   template <class F>
   static void FiguresDe(int s, const V& colonnes, const V& lignes, const V& carres, const Duo<S>& vues, F f);
@@ -79,11 +85,10 @@ class TrouveVoies : public Suivi<S> {
   // Places again, by kind, symbol and number of the unit, once `tournees_`.
   alignas(64) Mot parSymbole_[3][Taille(N)][Taille(kVoies)];
   bool tournees_ = false;
-
- private:
   // The places in a unit of what is left to place there, as Reste saw it.
   alignas(64) Mot aPlacer_[Taille(kVoies)];
 
+ private:
   template <class F>
   static void EnCarres(const V& voies, Bits debuts, TypeUnite type, TypeUnite type2, F f);
   bool EnleveTous(int cellule, Bits symboles);
@@ -169,16 +174,12 @@ SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueConfinee(int u, const EtatUnite& e, F
 template <int S>
 template <class F>
 SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueCachee(int u, EtatUnite& e, F f) {
-  Chaque(e.vues.Debuts(kPremiere), [&](int premier) {
-    const Bits lieux = aPlacer_[premier];
-    const int combien = std::popcount(lieux);
-    if ((lieux & ~e.vues.De(kSeconde, combien)) == 0) return;
-    const Bits sequence = Depuis(BitsEgales(Lit<S>(aPlacer_), Partout<S>(lieux)), premier);
-    if (std::popcount(sequence) != combien) return;
-    const Bits autres = lieux & ~BitsEgales(Lit<S>(candidats_[u]), Partout<S>(sequence));
-    if (autres == 0) return;
+  const auto agit = [&](Bits lieux) SUDOKU_LAMBDA_EN_LIGNE {
+    return (lieux & ~e.vues.De(kSeconde, std::popcount(lieux))) != 0;
+  };
+  CacheesDe(u, e.vues.Debuts(kPremiere), agit, [&](const Trouvaille<Bits>& t) SUDOKU_LAMBDA_EN_LIGNE {
     e.change = true;
-    f({.symboles = sequence, .lieux = lieux, .perdants = autres});
+    f(t);
   });
 }
 
@@ -186,21 +187,44 @@ template <int S>
 template <class F>
 SUDOKU_EN_LIGNE void TrouveVoies<S>::ChaqueNue(int u, EtatUnite& e, F f) {
   if (e.change) e.vues = Duo<S>(places_[u], candidats_[u]);
-  Bits debuts = e.vues.Debuts(kSeconde);
+  const auto agit = [&](Bits symboles) SUDOKU_LAMBDA_EN_LIGNE {
+    return (symboles & ~e.vues.De(kPremiere, std::popcount(symboles))) != 0;
+  };
+  const auto encore = [&]() SUDOKU_LAMBDA_EN_LIGNE {
+    e.vues = Duo<S>(places_[u], candidats_[u]);
+    return e.vues.Debuts(kSeconde);
+  };
+  NuesDe(u, e.vues.Debuts(kSeconde), agit, encore, f);
+}
+
+template <int S>
+template <class A, class F>
+SUDOKU_EN_LIGNE void TrouveVoies<S>::CacheesDe(int u, Bits debuts, A agit, F f) const {
+  Chaque(debuts, [&](int premier) SUDOKU_LAMBDA_EN_LIGNE {
+    const Bits lieux = aPlacer_[premier];
+    if (!agit(lieux)) return;
+    const Bits sequence = Depuis(BitsEgales(Lit<S>(aPlacer_), Partout<S>(lieux)), premier);
+    if (std::popcount(sequence) != std::popcount(lieux)) return;
+    const Bits autres = lieux & ~BitsEgales(Lit<S>(candidats_[u]), Partout<S>(sequence));
+    if (autres != 0) f(Trouvaille<Bits>{.symboles = sequence, .lieux = lieux, .perdants = autres});
+  });
+}
+
+template <int S>
+template <class A, class E, class F>
+SUDOKU_EN_LIGNE void TrouveVoies<S>::NuesDe(int u, Bits debuts, A agit, E encore, F f) const {
   while (debuts != 0) {
     const int premier = std::countr_zero(debuts);
     debuts &= debuts - 1;
     const Bits sequence = candidats_[u][premier];
-    const int combien = std::popcount(sequence);
-    if ((sequence & ~e.vues.De(kPremiere, combien)) == 0) continue;
+    if (!agit(sequence)) continue;
     const V candidats = Lit<S>(candidats_[u]);
     const Bits egales = BitsEgales(candidats, Partout<S>(sequence));
     const Bits lieux = Depuis(egales, premier);
     const Bits perdants = BitsNonNulles(candidats & Partout<S>(sequence)) & ~egales;
-    if (perdants == 0 || std::popcount(lieux) != combien) continue;
-    f({.symboles = sequence, .lieux = lieux, .perdants = perdants});
-    e.vues = Duo<S>(places_[u], candidats_[u]);
-    debuts = e.vues.Debuts(kSeconde) & ~((Bits{2} << premier) - 1);
+    if (perdants == 0 || std::popcount(lieux) != std::popcount(sequence)) continue;
+    f(Trouvaille<Bits>{.symboles = sequence, .lieux = lieux, .perdants = perdants});
+    debuts = encore() & ~((Bits{2} << premier) - 1);
   }
 }
 

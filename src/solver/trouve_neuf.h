@@ -240,33 +240,17 @@ SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueConfinee(int u, const Apercu& e, F f) {
 template <class F>
 SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueCachee(int u, const Apercu& e, F f) {
   if (e.Cachees() == 0) return;
-  const V places = Lit<3>(places_[u]);
-  Chaque(e.Cachees(), [&](int premier) {
-    const Bits lieux = places.r[0][premier];
-    const Bits memes = BitsEgales(places, Partout<3>(lieux)) & ~e.prouves;
-    const Bits sequence = Depuis(memes, premier);
-    const Bits autres = lieux & ~BitsEgales(Lit<3>(candidats_[u]), Partout<3>(sequence));
-    if (autres != 0 && std::popcount(sequence) == std::popcount(lieux))
-      f(Trouvaille<Bits>{.symboles = sequence, .lieux = lieux, .perdants = autres});
-  });
+  Ecrit<3>(aPlacer_, Lit<3>(places_[u]) & ~Etale<3>(e.prouves));
+  CacheesDe(
+      u, e.Cachees(), [](Bits) { return true; }, f);
 }
 
 template <class F>
 SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueNue(int u, const Apercu&, F f) {
-  const auto nues = [](std::uint32_t etat) { return Apercu{etat, 0}.Nues(); };
-  Bits debuts = nues((valables_ >> u & 1) != 0 ? etats_[u] : EtatDe(u, places_[u]));
-  while (debuts != 0) {
-    const int premier = std::countr_zero(debuts);
-    debuts &= debuts - 1;
-    const V candidats = Lit<3>(candidats_[u]);
-    const Bits sequence = candidats_[u][premier];
-    const Bits egales = BitsEgales(candidats, Partout<3>(sequence));
-    const Bits perdants = BitsNonNulles(candidats & Partout<3>(sequence)) & ~egales;
-    const Bits lieux = Depuis(egales, premier);
-    if (perdants == 0 || std::popcount(lieux) != std::popcount(sequence)) continue;
-    f(Trouvaille<Bits>{.symboles = sequence, .lieux = lieux, .perdants = perdants});
-    debuts = nues(EtatDe(u, places_[u])) & ~((Bits{2} << premier) - 1);
-  }
+  const auto encore = [&] { return Apercu{EtatDe(u, places_[u]), 0}.Nues(); };
+  const bool valable = (valables_ >> u & 1) != 0;
+  NuesDe(
+      u, valable ? Apercu{etats_[u], 0}.Nues() : encore(), [](Bits) { return true; }, encore, f);
 }
 
 inline void TrouveNeuf::Remplace(int cellule, Bits sequence) {
