@@ -1,8 +1,8 @@
 #!/bin/sh
 # joue.sh PROGRAM SESSION.txt: plays a session in a fresh copy of files/, all of one age, and compares what it
 # prints with SESSION.expected. The folder that a file dialog prints is written "." there. What sessions do again and
-# again over a running game has a word: charge "FILE", nouvelle "SYMBOLS", recommence, and in the library's window prend
-# POSITION, nomme "NAME".
+# again has a word: vierge "SYMBOLS", ouvre "FILE" while there is no grid, nouvelle "SYMBOLS", charge "FILE", recommence
+# over a running game, sauve "FILE" for one that has no file, and in the library's window prend POSITION, nomme "NAME".
 set -eu
 programme=$1
 session=$2
@@ -16,9 +16,12 @@ chmod -R u+w "$dossier/jeu"
 find "$dossier/jeu" -type f -exec touch -d 2026-01-01 {} +
 cd "$dossier/jeu"
 ici=$(pwd)
-sed -E 's/^charge (".*")$/click MnuLoad\nanswer oui\nanswer \1/
+sed -E 's/^vierge (".*")$/click MnuInit\nanswer \1/
+        s/^ouvre (".*")$/click MnuLoad\nanswer \1/
+        s/^charge (".*")$/click MnuLoad\nanswer oui\nanswer \1/
         s/^nouvelle (".*")$/click MnuInit\nanswer oui\nanswer \1/
         s/^recommence$/click MnuRestart\nanswer oui/
+        s/^sauve (".*")$/click MnuSave\nanswer \1/
         s/^prend (.*)$/select LstLoad \1\nclick BtOK/
         s/^nomme (".*")$/edit LstSave \1\nclick BtOK/' "$session" > "$dossier/session"
 statut=0
