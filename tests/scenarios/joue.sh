@@ -1,8 +1,9 @@
 #!/bin/sh
 # joue.sh PROGRAM SESSION.txt: plays a session in a fresh copy of files/, all of one age, and compares what it
 # prints with SESSION.expected. The folder that a file dialog prints is written "." there. What sessions do again and
-# again has a word: vierge "SYMBOLS", ouvre "FILE" while there is no grid, nouvelle "SYMBOLS", charge "FILE", recommence
-# over a running game, sauve "FILE" for one that has no file, and in the library's window prend POSITION, nomme "NAME".
+# again has a word. Without a grid: vierge "SYMBOLS", ouvre "FILE". Over a running game: nouvelle "SYMBOLS", charge
+# "FILE", recommence, valide, parties (the library). Saving: sauve "FILE" (a name is asked for), ecrit "FILE" (none is;
+# shows that file). In the library's window: prend POSITION, nomme "NAME".
 set -eu
 programme=$1
 session=$2
@@ -21,7 +22,10 @@ sed -E 's/^vierge (".*")$/click MnuInit\nanswer \1/
         s/^charge (".*")$/click MnuLoad\nanswer oui\nanswer \1/
         s/^nouvelle (".*")$/click MnuInit\nanswer oui\nanswer \1/
         s/^recommence$/click MnuRestart\nanswer oui/
+        s/^valide$/click MnuReinit\nanswer oui/
         s/^sauve (".*")$/click MnuSave\nanswer \1/
+        s/^ecrit (".*")$/click MnuSave\nshow file \1/
+        s/^parties$/click MnuPartie\nanswer oui/
         s/^prend (.*)$/select LstLoad \1\nclick BtOK/
         s/^nomme (".*")$/edit LstSave \1\nclick BtOK/' "$session" > "$dossier/session"
 statut=0
