@@ -5,10 +5,6 @@
 namespace sudoku::plain {
 namespace {
 
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
 // Figures are rare. The engine finds boards that have one, of the two kinds of unit that are asked for if it
 // can; what they give is compared like all else.
 Plateau TireFigure(Hasard& hasard, int n) {

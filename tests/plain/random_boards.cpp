@@ -7,10 +7,6 @@
 namespace sudoku::plain {
 namespace {
 
-std::size_t At(int i) {
-  return static_cast<std::size_t>(i);
-}
-
 // N different symbols, none equal to another when case is ignored.
 Texte Distincts(int n) {
   Texte symboles = U"123456789";

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <random>
 #include <string>
@@ -8,6 +9,11 @@
 #include "text/texte.h"
 
 namespace sudoku::plain {
+
+// A number as an index.
+inline std::size_t At(int i) {
+  return static_cast<std::size_t>(i);
+}
 
 // Random numbers that are the same with every compiler and library.
 class Hasard {
