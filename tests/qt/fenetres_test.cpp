@@ -68,8 +68,7 @@ TEST(Fenetres, UneGrilleSaisieEtJoueeJusquAuxScores) {
   });
   const QString solution = QStringLiteral("1234341221434321");
   for (int i = 2; i <= 16; ++i) {
-    j.CliqueCase(i);
-    j.Tape(solution.mid(i - 1, 1));
+    j.Ecrit(i, solution.mid(i - 1, 1));
   }
   EXPECT_TRUE(j.ToutEstVenu());
   EXPECT_EQ(j.Grille(), solution.toStdString());
@@ -79,8 +78,7 @@ TEST(Fenetres, UneGrilleSaisieEtJoueeJusquAuxScores) {
 void SauveEtQuitte(const std::string& fichier) {
   JoueurQt j;
   j.Demarre(fichier);
-  j.CliqueCase(2);
-  j.Tape(QStringLiteral("2"));
+  j.Ecrit(2, QStringLiteral("2"));
   j.Quand("FRMParties", [&](QWidget& boite) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     boite.close();
@@ -114,8 +112,7 @@ TEST(Fenetres, SauveQuitteEtRouvreParLaLigneDeCommande) {
   EXPECT_EQ(j.Grille(), "12.43.1.2..3.3..");
   j.Quand("question", [&](QWidget&) { j.Touche(Qt::Key_O); });
   j.Menu(Qt::Key_J, Qt::Key_R);
-  j.CliqueCase(2);
-  j.Tape(QStringLiteral("2"));
+  j.Ecrit(2, QStringLiteral("2"));
   j.Quand("FRMParties", [&](QWidget& boite) {
     j.Touche(Qt::Key_Down);
     const auto* champ = boite.findChild<QLineEdit*>("LstSave.champ");

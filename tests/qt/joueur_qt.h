@@ -35,6 +35,11 @@ class JoueurQt {
   // A menu by its access key, then the item by its own.
   void Menu(Qt::Key menu, Qt::Key article);
   void CliqueCase(int i);
+  // What a player does to fill a cell.
+  void Ecrit(int i, const QString& texte) {
+    CliqueCase(i);
+    Tape(texte);
+  }
   // A new grid of these symbols.
   void NouvelleGrille(const QString& symboles);
 

@@ -73,8 +73,7 @@ TEST_F(UnPlateau, UneFrappeSeMontreUneFois) {
 
 TEST_F(UnPlateau, ChaqueFrappeEtChaqueCollageFaitUnChangement) {
   Ouvre(QStringLiteral("123456789"));
-  j.CliqueCase(1);
-  j.Tape(QStringLiteral("5"));
+  j.Ecrit(1, QStringLiteral("5"));
   EXPECT_EQ(Editeur().selectedText(), QStringLiteral("5")) << "the first character is selected again";
   j.Touche(Qt::Key_Delete);
   j.CliqueCase(2);
@@ -146,8 +145,7 @@ TEST_F(UnPlateau, UnClicACoteDesCasesLaisseLeClavierAuPlateau) {
 
 TEST_F(UnPlateau, LeClavierRevenuRemplaceLeSymbole) {
   Ouvre();
-  j.CliqueCase(1);
-  j.Tape(QStringLiteral("3"));
+  j.Ecrit(1, QStringLiteral("3"));
   j.Touche(Qt::Key_J, Qt::AltModifier);
   j.Touche(Qt::Key_Escape);
   j.Fenetre().findChild<QMenuBar*>()->setFocus();
@@ -167,15 +165,13 @@ TEST_F(UnPlateau, UneFrappeSansCaseVaALaPremiereLibre) {
   j.NouvelleGrille(QStringLiteral("12'4"));
   changements.clear();
   j.Tape(QStringLiteral("&"));
-  j.CliqueCase(6);
-  j.Tape(QStringLiteral("'"));
+  j.Ecrit(6, QStringLiteral("'"));
   EXPECT_EQ(changements, (Liste{{1, U"1"}, {6, U"'"}})) << "its digit, unless the character is a symbol";
 }
 
 TEST_F(UnPlateau, LesTouchesDeTousLesBureaux) {
   Ouvre();
-  j.CliqueCase(6);
-  j.Tape(QStringLiteral("1"));
+  j.Ecrit(6, QStringLiteral("1"));
   const auto va = [&](Qt::Key touche, Qt::KeyboardModifiers avec, int i) {
     j.Touche(touche, avec);
     EXPECT_EQ(j.LePlateau().Focus(), i);
@@ -401,8 +397,7 @@ class LecteurDEcran {
 
 TEST_F(UnPlateau, UnLecteurDEcranEntendChaqueCase) {
   Ouvre();
-  j.CliqueCase(1);
-  j.Tape(QStringLiteral("3"));
+  j.Ecrit(1, QStringLiteral("3"));
   const LecteurDEcran lecteur;
   j.Touche(Qt::Key_Down);
   j.Touche(Qt::Key_Up);
@@ -433,8 +428,7 @@ TEST_F(UnPlateau, UnLecteurDEcranEntendChaqueCase) {
 // What the assistant shows of an entry is said when it comes to be shown, and not before.
 TEST_F(UnPlateau, UnLecteurDEcranEntendCeQueMontreLAssistant) {
   Ouvre();
-  j.CliqueCase(1);
-  j.Tape(QStringLiteral("3"));
+  j.Ecrit(1, QStringLiteral("3"));
   j.Menu(Qt::Key_J, Qt::Key_D);
   j.Menu(Qt::Key_Question, Qt::Key_A);
   const LecteurDEcran lecteur;
