@@ -36,8 +36,6 @@ TEST(LitSud, ChaqueFormeEtCeQuiResteLu) {
       {"\r\n", "|-|scores -!62"},
       {"1\r\n 0", "1| 0|scores -"},
       {"1\r\n\r\n\0"s, "1||scores"},
-      {"1\n 0\nx- 0\n\0"s, "1| 0|x= 0|scores"},
-      {"1\r\n 0\r\n- 0\r\n\0"s, "1| 0|= 0|scores"},
       {"1\r\n 0\r\n-\r\n\0"s, "1| 0|=|scores"},
       {"1\r\n 0\r\nx- 0-y-z\r\n\0"s, "1| 0|x= 0|scores"},
       {"-1\r\n-0\r\na\x1F"
@@ -48,21 +46,12 @@ TEST(LitSud, ChaqueFormeEtCeQuiResteLu) {
       {"1\r\n 0\r\nbon- 0\r\nrien\r\n\0a-00:00:01\0"s, "1| 0|bon= 0|rien=|scores -!9"},
       {"1\r\n 0\r\n\r\n\0"s, "1| 0|=|scores -!9"},
       {"1\r\n 0\r\n\0a-00:00:01\0b-25:00:00\0"s, "1| 0|scores a=00:00:01 b=25:00:00"},
-      {"1\r\n 0\r\n\0a-00:00:01\0b-00:00"s, "1| 0|scores a=00:00:01"},
       {"1\r\n 0\r\n\0a-00:00:01"s, "1| 0|scores"},
       {"1\r\n 0\r\n\0a-00:00:01\0b\0c-00:00:03\0"s, "1| 0|scores a=00:00:01 b=00:00:00 =00:00:00!9"},
       {"1\r\n 0\r\n\0a-00:00:01\0b-00:60:00\0c-00:00:03\0"s,
        "1| 0|scores a=00:00:01 b=00:00:00 =00:00:00!13"},
-      {"1\r\n 0\r\n\0a-00:00:01-x\0\r\n"s, "1| 0|scores a=00:00:01"},
       {"1\r\n 0\r\n\0\0"s, "1| 0|scores =00:00:00!9"},
-      {"1\r\n 0\r\n\0a-00:00:01\0\r\nx- 0\r\n\0b-00:00:02\0"s, "1| 0|x= 0|scores b=00:00:02"},
       {"1\r\n 0\r\n\0a-00:00:01\0\r\n\0b\0"s, "1| 0|scores b=00:00:00!9"},
-      {"\xEF\xBB\xBF\xCE\xB1\r\n\xCE\xB1"
-       "0\r\n",
-       "α|α0|scores -"},
-      {"\xC9\r\n\xC9"
-       "0\r\n",
-       "É|É0|scores -"},
   };
   for (const auto& c : cas) EXPECT_EQ(Resume(LitSud(c.octets)), c.resume) << testing::PrintToString(c.octets);
 }
