@@ -35,7 +35,6 @@ essai 2 'option inconnue : --deduction' expliquer --deduction
 essai 2 'option inconnue : -x' resoudre -x
 essai 2 'option inconnue : --symbole' resoudre --symbole 1234
 essai 2 'attend une valeur' resoudre --symboles
-essai 2 'attend une valeur' expliquer --passes
 essai 2 'pas un nombre de 1 à 2' expliquer --passes 3
 essai 2 'pas un nombre de 1 à 2' expliquer --passes 1x
 essai 2 'pas un nombre de 1 à 2' expliquer --passes ''
@@ -46,15 +45,12 @@ essai 2 'options incorrectes' expliquer --texte=1
 essai 2 'option inconnue : -xyz' resoudre -xyz
 essai 2 'Choix incorrect : 0 symbole(s)' resoudre --symboles= 1234
 essai 2 "« xml » n'est ni texte" demontrer --format xml
-essai 2 'attend une valeur' demontrer --format
 essai 2 'option inconnue : --deduction' demontrer --deduction
 essai 2 'option inconnue : --supposer' resoudre --supposer
 essai 0 'Grille 1 : 1111111111111111' demontrer --symboles 1234
 essai 1 'rien: fichier introuvable' demontrer --format html --symboles 1234 rien
 essai 2 'un seul fichier' importer a b
 essai 2 'option inconnue : --symboles' exporter --symboles 1234 f.sud
-essai 2 'Choix incorrect' resoudre --symboles ''
-essai 2 'Choix incorrect' resoudre --symboles 12345
 essai 2 'Choix incorrect' resoudre --symboles $'\xff234'
 essai 2 'Choix incorrect' resoudre --symboles "$(printf '%0196d' 0)"
 essai 2 'Choix incorrect : une fin de ligne' importer --symboles $'12\n4'
