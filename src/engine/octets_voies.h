@@ -74,7 +74,7 @@ SUDOKU_EN_LIGNE std::uint32_t BitsEntre(const TrenteDeux& v, int bas, int haut) 
 // In each half byte i gets byte i + d, 0 behind the last one.
 template <int d>
 SUDOKU_EN_LIGNE TrenteDeux Avance(const TrenteDeux& v) {
-  using Registre = TrenteDeux::Registre;
+  using Registre [[maybe_unused]] = TrenteDeux::Registre;
 #if defined(__AVX2__)
   return {{reinterpret_cast<Registre>(_mm256_srli_si256(reinterpret_cast<__m256i>(v.r[0]), d))}};
 #elif defined(__SSE2__)
@@ -92,7 +92,7 @@ SUDOKU_EN_LIGNE TrenteDeux Avance(const TrenteDeux& v) {
 
 // How many bits each byte holds.
 SUDOKU_EN_LIGNE TrenteDeux Comptes(const TrenteDeux& octets) {
-  using Registre = TrenteDeux::Registre;
+  using Registre [[maybe_unused]] = TrenteDeux::Registre;
 #if defined(SUDOKU_VOIES_512)
   return {{reinterpret_cast<Registre>(_mm256_popcnt_epi8(reinterpret_cast<__m256i>(octets.r[0])))}};
 #elif defined(__AVX2__)
@@ -174,7 +174,7 @@ SUDOKU_EN_LIGNE TrenteDeux EnOctets(const Voies<S>& premieres, const Voies<S>& d
 
 // The lanes of 25, all below 256, as bytes.
 SUDOKU_EN_LIGNE TrenteDeux EnOctets(const Voies<5>& v) {
-  using Registre = TrenteDeux::Registre;
+  using Registre [[maybe_unused]] = TrenteDeux::Registre;
 #if defined(SUDOKU_VOIES_512)
   const auto seize = [&](int i) {
     return _mm512_maskz_cvtepi32_epi8(0xFFFF, reinterpret_cast<__m512i>(v.r[i]));
