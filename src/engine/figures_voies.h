@@ -114,7 +114,7 @@ SUDOKU_EN_LIGNE BitsDe<S> EnsemblesVoisins(const Voies<S>& cles, const Voies<S>&
   return BitsEgales(egales, comptes) & BitsNonNulles(comptes & ~Partout<S>(1));
 }
 
-// Two units side by side in a band are among these, or two in a stack.
+// Two units side by side in a band are among these.
 template <int S>
 SUDOKU_EN_LIGNE bool DeuxEnBande(BitsDe<S> unites) {
   BitsDe<S> deux = 0;
@@ -122,12 +122,6 @@ SUDOKU_EN_LIGNE bool DeuxEnBande(BitsDe<S> unites) {
     const BitsDe<S> bande = unites & kLieux<S>.groupe[k];
     deux |= bande & (bande - 1);
   }
-  return deux != 0;
-}
-template <int S>
-SUDOKU_EN_LIGNE bool DeuxEnPile(BitsDe<S> unites) {
-  BitsDe<S> deux = 0;
-  for (int k = 1; k < S; ++k) deux |= unites & (unites >> (k * S));
   return deux != 0;
 }
 

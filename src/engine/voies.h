@@ -154,10 +154,6 @@ SUDOKU_EN_LIGNE Voies<S, P> operator|(const Voies<S, P>& a, const Voies<S, P>& b
   return Voies<S, P>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE { return a.r[i] | b.r[i]; });
 }
 template <int S, int P>
-SUDOKU_EN_LIGNE Voies<S, P> operator^(const Voies<S, P>& a, const Voies<S, P>& b) {
-  return Voies<S, P>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE { return a.r[i] ^ b.r[i]; });
-}
-template <int S, int P>
 SUDOKU_EN_LIGNE Voies<S, P> operator-(const Voies<S, P>& a, const Voies<S, P>& b) {
   return Voies<S, P>::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE { return a.r[i] - b.r[i]; });
 }
