@@ -8,6 +8,68 @@
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
+// Four tables of nine lanes in bytes: the first eight lanes of each side by side, and its ninth eight times
+// over.
+struct QuatreTables {
+  TrenteDeux bas;   // the first eight numbers of a lane
+  TrenteDeux haut;  // 1 where it holds the ninth
+  TrenteDeux neuviemeBas;
+  TrenteDeux neuviemeHaut;
+
+  SUDOKU_EN_LIGNE explicit QuatreTables(const MotDe<3>* const (&tables)[4]) {
+#if defined(__AVX2__)
+    const auto octets = [&](int i, auto f) SUDOKU_LAMBDA_EN_LIGNE {
+      const auto huit = [&](int k) {
+        return _mm_load_si128(reinterpret_cast<const __m128i*>(tables[k] + i));
+      };
+      return _mm256_packus_epi16(f(_mm256_set_m128i(huit(2), huit(0))),
+                                 f(_mm256_set_m128i(huit(3), huit(1))));
+    };
+    const auto premiers = [](__m256i v) { return _mm256_and_si256(v, _mm256_set1_epi16(0xFF)); };
+    const auto dernier = [](__m256i v) { return _mm256_srli_epi16(v, 8); };
+    const auto range = [](__m256i v) { return TrenteDeux{{reinterpret_cast<TrenteDeux::Registre>(v)}}; };
+    const auto partout = [&](__m256i v) {
+      const __m128i premier = _mm_setr_epi8(0, 0, 0, 0, 0, 0, 0, 0, 8, 8, 8, 8, 8, 8, 8, 8);
+      return range(_mm256_shuffle_epi8(v, _mm256_broadcastsi128_si256(premier)));
+    };
+    bas = range(octets(0, premiers));
+    haut = range(octets(0, dernier));
+    neuviemeBas = partout(octets(8, premiers));
+    neuviemeHaut = partout(octets(8, dernier));
+#else
+    using Huit [[gnu::vector_size(16)]] = MotDe<3>;
+    using Octets [[gnu::vector_size(8)]] = std::uint8_t;
+    const auto octets = [&](auto huit) SUDOKU_LAMBDA_EN_LIGNE {
+      return TrenteDeux::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE {
+        const auto a = __builtin_convertvector(huit(tables[2 * i]), Octets);
+        const auto b = __builtin_convertvector(huit(tables[2 * i + 1]), Octets);
+        return __builtin_shufflevector(a, b, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
+      });
+    };
+    const auto premieres = [](const MotDe<3>* table) {
+      Huit huit;
+      std::memcpy(&huit, table, sizeof huit);
+      return huit;
+    };
+    bas = octets([&](const MotDe<3>* table) { return premieres(table) & 0xFF; });
+    haut = octets([&](const MotDe<3>* table) { return premieres(table) >> 8; });
+    neuviemeBas =
+        octets([](const MotDe<3>* table) { return Huit{} + static_cast<MotDe<3> >(table[8] & 0xFF); });
+    neuviemeHaut =
+        octets([](const MotDe<3>* table) { return Huit{} + static_cast<MotDe<3> >(table[8] >> 8); });
+#endif
+  }
+};
+
+// Byte i of each table gets byte i + d, 0 behind the eighth.
+template <int d>
+SUDOKU_EN_LIGNE TrenteDeux AvanceHuit(const TrenteDeux& v) {
+  using Mots [[gnu::vector_size(TrenteDeux::kOctets)]] = std::uint64_t;
+  return TrenteDeux::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE {
+    return reinterpret_cast<TrenteDeux::Registre>(reinterpret_cast<Mots>(v.r[i]) >> 8 * d);
+  });
+}
+
 // What there is in four tables of nine lanes, those of two units: 8 bits a table, for its first eight lanes.
 struct Releve {
   std::uint32_t seuls;      // lanes that hold one
@@ -17,42 +79,17 @@ struct Releve {
 
 // Places and candidates of a unit, then of another. The low byte of a lane says which of those with the same
 // count are equal.
-SUDOKU_EN_LIGNE Releve Regarde(const MotDe<3>* const (&tables)[4]) {
-#if defined(__AVX2__)
-  const auto octets = [&](int i, auto f) SUDOKU_LAMBDA_EN_LIGNE {
-    const auto huit = [&](int k) { return _mm_load_si128(reinterpret_cast<const __m128i*>(tables[k] + i)); };
-    return _mm256_packus_epi16(f(_mm256_set_m128i(huit(2), huit(0))), f(_mm256_set_m128i(huit(3), huit(1))));
-  };
-  const auto bas = [](__m256i v) { return _mm256_and_si256(v, _mm256_set1_epi16(0xFF)); };
-  const auto haut = [](__m256i v) { return _mm256_srli_epi16(v, 8); };
-  const auto range = [](__m256i v) { return TrenteDeux{{reinterpret_cast<TrenteDeux::Registre>(v)}}; };
-  const auto partout = [&](__m256i v) {
-    const __m128i premier = _mm_setr_epi8(0, 0, 0, 0, 0, 0, 0, 0, 8, 8, 8, 8, 8, 8, 8, 8);
-    return range(_mm256_shuffle_epi8(v, _mm256_broadcastsi128_si256(premier)));
-  };
-  const __m256i mots = octets(0, bas);
-  const TrenteDeux cles = range(mots);
-  const TrenteDeux comptes = Comptes(cles) + range(octets(0, haut));
-  const TrenteDeux neuvieme = partout(octets(8, bas));
-  const TrenteDeux compteNeuvieme = Comptes(neuvieme) + partout(octets(8, haut));
+SUDOKU_EN_LIGNE Releve Regarde(const QuatreTables& t) {
+  const TrenteDeux comptes = Comptes(t.bas) + t.haut;
+  const TrenteDeux compteNeuvieme = Comptes(t.neuviemeBas) + t.neuviemeHaut;
   const TrenteDeux un = TrenteDeux::Partout(1);
-  TrenteDeux egales = un - Egaux(cles, neuvieme);
+  TrenteDeux egales = un - Egaux(t.bas, t.neuviemeBas);
   const auto compare = [&](auto d) SUDOKU_LAMBDA_EN_LIGNE {
-    egales = egales - Egaux(cles, range(_mm256_srli_epi64(mots, 8 * (decltype(d)::value + 1))));
+    egales = egales - Egaux(t.bas, AvanceHuit<decltype(d)::value + 1>(t.bas));
   };
   ChaqueConstante(compare, std::make_integer_sequence<int, 7>());
   return {BitsDesOctets(Egaux(comptes, un)), BitsDesOctets(Egaux(compteNeuvieme, un)),
           BitsDesOctets(AuMoins(egales, comptes) & AuMoins(comptes, un + un))};
-#else
-  Releve releve{};
-  for (int k = 0; k < 4; k += 2) {
-    const Duo<3> vues(tables[k], tables[k + 1]);
-    releve.seuls |= (vues.De(kPremiere, 1) & 0377) << 8 * k;
-    releve.neuviemes |= (vues.De(kPremiere, 1) >> 8) << 8 * k;
-    releve.debuts |= ((vues.Debuts(kPremiere) & 0377) | (vues.Debuts(kSeconde) & 0377) << 8) << 8 * k;
-  }
-  return releve;
-#endif
 }
 
 // Three times three lanes into nine. Each is read with the one behind it.

@@ -139,7 +139,7 @@ SUDOKU_EN_LIGNE void TrouveNeuf::TransposePlaces() {
   confinees_ = aVoir_ = UnitesConfinees(cases_);
   for (int u = 0; u < kUnites; u += 2) {
     const int v = std::min(u + 1, kUnites - 1);
-    const Releve releve = Regarde({places_[u], candidats_[u], places_[v], candidats_[v]});
+    const Releve releve = Regarde(QuatreTables({places_[u], candidats_[u], places_[v], candidats_[v]}));
     const auto etat = [&](int k, int un) {
       const std::uint32_t bits =
           (releve.seuls >> k & 0377) | (releve.neuviemes >> k & 1) << 8 | (releve.debuts >> k & 0xFFFF) << 9;
