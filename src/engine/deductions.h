@@ -66,20 +66,27 @@ concept Trouveur = requires(T t, decltype(t.Reste(0)) reste, typename T::Bits bi
 };
 
 // What the deductions are wanted for.
-//   kFaits            each is written down (NoteArgument gives its number, NoteFait a cell that it changed),
-//                     and all are made, also on a board that has lost all candidates of a cell already.
-//                     Without it such a board is given up: that cell stays so.
+//   kFaits            each is written down, and all are made, also on a board that has lost all candidates of
+//                     a cell already.
 //   Vide(cell)        the open cell holds nothing at all: a solution for it is one to fill in.
+// With facts, NoteArgument gives the number of one, NoteFait takes a cell that it changed. Without:
+//   Abandonne()       a board that has lost all candidates of a cell is given up; that cell stays so.
+template <class U>
+concept UsageAvecFaits = requires(U u, Argument argument) {
+  { u.NoteArgument(argument, std::uint32_t{}, std::uint32_t{}) } -> std::same_as<std::uint32_t>;
+  u.NoteFait(0, std::uint32_t{});
+  u.NoteFait(0, std::uint32_t{}, std::uint32_t{});
+};
+template <class U>
+concept UsageSansFaits = requires(U u) {
+  { u.Abandonne() } -> std::same_as<bool>;
+};
 template <class U>
 concept Usage = requires(U u) {
   { U::kFaits } -> std::convertible_to<bool>;
   { u.Vide(0) } -> std::same_as<bool>;
-}
-&&(!U::kFaits || requires(U u, Argument argument) {
-  { u.NoteArgument(argument, std::uint32_t{}, std::uint32_t{}) } -> std::same_as<std::uint32_t>;
-  u.NoteFait(0, std::uint32_t{});
-  u.NoteFait(0, std::uint32_t{}, std::uint32_t{});
-});
+  requires(U::kFaits ? UsageAvecFaits<U> : UsageSansFaits<U>);
+};
 
 template <Trouveur T, Usage U>
 class DeductionsSur : public T {
@@ -94,6 +101,7 @@ class DeductionsSur : public T {
   std::uint64_t tours = 0;  // turns of Deduit
 
   // What the contents leave to each cell, and the cells with one candidate. kSolutions: a cell can be filled.
+  // kContradiction comes in place of it and, from Deduit, of kRien too; without kFaits only.
   Suite Candidats(Appui appui);
   // Series and figures, from the simplest again after each removal, until a cell can be filled or nothing
   // goes.
@@ -140,6 +148,13 @@ class DeductionsSur : public T {
   }
   // Something went from a cell, and this says whether anything is left.
   void Change(bool reste) { contradiction_ |= !U::kFaits && !reste; }
+  bool Arrete() const {
+    if constexpr (U::kFaits)
+      return false;
+    else
+      return contradiction_ && usage_.Abandonne();
+  }
+  Suite Fin() const { return contradiction_ ? kContradiction : aRemplir_ ? kSolutions : kRien; }
 
   U& usage_;
   std::vector<Figure> figures_;  // found, and not acted on yet
@@ -150,23 +165,22 @@ class DeductionsSur : public T {
 template <Trouveur T, Usage U>
 typename DeductionsSur<T, U>::Suite DeductionsSur<T, U>::Candidats(Appui appui) {
   aRemplir_ = false;
-  const bool complets = T::Amorce(appui);
-  if (!U::kFaits && !complets) return kContradiction;
+  contradiction_ = false;
+  Change(T::Amorce(appui));
+  if (Arrete()) return kContradiction;
   PoseReduites();
-  return aRemplir_ ? kSolutions : kRien;
+  return aRemplir_ ? Fin() : kRien;
 }
 
 template <Trouveur T, Usage U>
 typename DeductionsSur<T, U>::Suite DeductionsSur<T, U>::Deduit() {
   T::Transpose();
-  contradiction_ = false;
   for (;;) {
     ++tours;
-    const bool change = Balaye() || (!contradiction_ && !aRemplir_ && NxN());
-    if (contradiction_) return kContradiction;
+    const bool change = Balaye() || (!Arrete() && !aRemplir_ && NxN());
+    if (Arrete()) return kContradiction;
     if (change) PoseReduites();
-    if (aRemplir_) return kSolutions;
-    if (!change) return kRien;
+    if (aRemplir_ || !change) return Fin();
   }
 }
 
@@ -186,7 +200,7 @@ void DeductionsSur<T, U>::PoseSolution(int cellule, int symbole) {
 template <Trouveur T, Usage U>
 bool DeductionsSur<T, U>::Balaye() {
   bool change = false;
-  for (int u = T::UniteSale(0); u >= 0 && !contradiction_; u = T::UniteSale(u + 1)) change |= TestSerie(u);
+  for (int u = T::UniteSale(0); u >= 0 && !Arrete(); u = T::UniteSale(u + 1)) change |= TestSerie(u);
   return change;
 }
 

@@ -15,6 +15,8 @@ namespace sudoku {
 // What a solve pass made of a board.
 template <int S>
 struct Passe {
+  // A board with a contradiction is to have its candidates too. Given by the caller.
+  bool possibles = false;
   // As of GrilleCheck: -1, 0, or the number of empty cells.
   std::int16_t verdict = 0;
   // Cells that got a symbol which their candidates had lost (a contradictory board): they hold it in `cases`,
@@ -22,7 +24,7 @@ struct Passe {
   // and the general engine has to go on from there.
   bool erronee = false;
   bool erronees[Taille(S * S * S * S)] = {};
-  // Candidates of the empty cells after the last evaluation; for a verdict above 0 only.
+  // Candidates of the empty cells after the last evaluation; for a verdict above 0, or -1 with `possibles`.
   typename Largeur<S>::Mot candidats[Taille(S * S * S * S)];
 };
 

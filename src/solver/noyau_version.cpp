@@ -12,6 +12,9 @@ namespace {
 struct Recherche {
   static constexpr bool kFaits = false;
 
+  bool abandonne;
+
+  bool Abandonne() const { return abandonne; }
   static bool Vide(int) { return true; }
 };
 template <int S>
@@ -39,25 +42,17 @@ void Resout(Cases<S>& cases, Appui appui, Passe<S>& passe) {
   constexpr int N = S * S;
   using D = DeductionsDuNoyau<S>;
   passe.erronee = false;
-  Recherche usage;
+  Recherche usage{.abandonne = !passe.possibles};
   D deductions(cases, usage);
+  typename D::Suite suite;
   for (;;) {
-    if constexpr (S == 3) {
-      if (!PoseSeules(cases)) {
-        passe.verdict = -1;
-        return;
-      }
-    }
-    typename D::Suite suite = deductions.Candidats(appui);
+    suite = deductions.Candidats(appui);
     if (suite == D::kRien && cases.remplies < N * N) suite = deductions.Deduit();
-    if (suite == D::kContradiction) {
-      passe.verdict = -1;
-      return;
-    }
-    if (suite == D::kRien) break;
+    if (suite != D::kSolutions) break;
     if (!Ecrit(cases, appui, deductions, passe)) return;
   }
-  passe.verdict = static_cast<std::int16_t>(N * N - cases.remplies);
+  passe.verdict = suite == D::kContradiction ? -1 : static_cast<std::int16_t>(N * N - cases.remplies);
+  if (passe.verdict < 0 && !passe.possibles) return;
   for (int l = 0; l < N; ++l) {
     std::memcpy(passe.candidats + N * l, deductions.CandidatsDeLigne(l), N * sizeof(MotDe<S>));
   }

@@ -109,11 +109,10 @@ void TravailVoies<S>::Ecrit(Grille& grille) const {
 template <int S>
 std::int16_t TravailVoies<S>::JeuSolve(bool possibles) {
   if (!auGeneral_) {
+    passe_.possibles = possibles;
     noyau_(cases_, base_ ? Appui::kPossible : Appui::kSur, passe_);
     candidats_ = passe_.candidats;
-    // The kernel stops at the first cell without candidates; the engine then says what is left to the others.
-    const bool complete = !passe_.erronee && (passe_.verdict >= 0 || !possibles);
-    if (complete) return passe_.verdict;
+    if (!passe_.erronee) return passe_.verdict;
     PasseAuGeneral();
   }
   return general_.JeuSolve(possibles);

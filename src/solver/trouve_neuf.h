@@ -8,14 +8,15 @@
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
-// A Trouveur as TrouveVoies<3>, for boards on which PoseSeules has been. It looks at hidden and naked sets of
-// a unit together, at all units before the first sweep, and goes only to those in which there is something.
-// What it has from TrouveVoies<3> as it is stands in the using-declarations.
+// A Trouveur as TrouveVoies<3>, which fills on the board itself what PoseSeules can, and has nothing to do
+// with those cells then. It looks at hidden and naked sets of a unit together, at all units before the first
+// sweep, and goes only to those in which there is something. What it has from TrouveVoies<3> as it is stands
+// in the using-declarations.
 class TrouveNeuf : private TrouveVoies<3> {
  public:
   using TrouveVoies<3>::Bits, TrouveVoies<3>::CandidatsDe, TrouveVoies<3>::CandidatsDeLigne;
-  using TrouveVoies<3>::Cellule, TrouveVoies<3>::ChaqueReduite, TrouveVoies<3>::ChaqueSolution;
-  using TrouveVoies<3>::Dedans, TrouveVoies<3>::HorsDe, TrouveVoies<3>::Places;
+  using TrouveVoies<3>::Cellule, TrouveVoies<3>::ChaqueSolution, TrouveVoies<3>::Dedans;
+  using TrouveVoies<3>::HorsDe, TrouveVoies<3>::Places;
 
   // What is to be found in a unit without what is proved, bits by symbol; then, by place, where naked sets
   // begin.
@@ -28,7 +29,7 @@ class TrouveNeuf : private TrouveVoies<3> {
     Bits Nues() const { return bits >> 17; }
   };
 
-  explicit TrouveNeuf(const Cases<3>& cases) : TrouveVoies<3>(lignes_), cases_(cases) {}
+  explicit TrouveNeuf(Cases<3>& cases) : TrouveVoies<3>(lignes_), cases_(cases) {}
 
   bool Amorce(Appui appui);
   void Transpose();
@@ -46,6 +47,8 @@ class TrouveNeuf : private TrouveVoies<3> {
   void ChaqueNue(int u, const Apercu& e, F f);
   template <class F>
   void ChaqueFigure(F f);
+  template <class F>
+  void ChaqueReduite(F f);
 
   bool Enleve(int cellule, int symbole) { return EnleveTous(cellule, UnBit(symbole)); }
   bool EnleveNue(int cellule, const Trouvaille<Bits>& t) {
@@ -67,9 +70,10 @@ class TrouveNeuf : private TrouveVoies<3> {
   V PlacesDe(int s, TypeUnite type) const;
   bool EnleveTous(int cellule, Bits symboles);
 
-  const Cases<3>& cases_;
+  Cases<3>& cases_;
   Contenus<3> lignes_;  // what Transpose wants of the contents
   bool prouve_ = false;
+  bool aNoter_ = false;  // the contents leave a cell nothing, and what they leave others isn't known yet
   // Sets of units: to be looked at; of these, where there may be a locked candidate; whose state holds.
   std::uint32_t aVoir_ = 0;
   std::uint32_t confinees_ = 0;
@@ -81,10 +85,11 @@ inline bool TrouveNeuf::Amorce(Appui appui) {
   Suivi<3>::Commence(appui);
   for (int l = 0; l < N; ++l) Suivi<3>::NoteSeuls(l, 0);
   prouve_ = appui == Appui::kSur;
-  return true;
+  aNoter_ = !PoseSeules(cases_);
+  return !aNoter_;
 }
 
-SUDOKU_EN_LIGNE void TrouveNeuf::TransposeCandidats() {
+inline void TrouveNeuf::TransposeCandidats() {
   std::memcpy(lignes_.symboles, cases_.symboles, sizeof lignes_.symboles);
   for (int n = 0; n < N; ++n) {
     lignes_.ouvertes[kLigne][n] = cases_.libres.mots[n / 3] >> n % 3 * 9 & 0777;
@@ -272,6 +277,17 @@ SUDOKU_EN_LIGNE Voies<3> TrouveNeuf::PlacesDe(int s, TypeUnite type) const {
 #else
   return {{R{place(0), place(1), place(2), place(3), place(4), place(5), place(6), place(7)}, R{place(8)}}};
 #endif
+}
+
+// A search nearly always ends where Amorce gave false; only where it goes on it comes here.
+template <class F>
+void TrouveNeuf::ChaqueReduite(F f) {
+  if (aNoter_) {
+    aNoter_ = false;
+    TransposeCandidats();
+    for (int l = 0; l < N; ++l) NoteSeuls(l, EnBits(SUDOKU_MOTEUR::Seules(Lit<3>(CandidatsDeLigne(l)))));
+  }
+  TrouveVoies<3>::ChaqueReduite(f);
 }
 
 template <class F>
