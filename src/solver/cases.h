@@ -8,9 +8,27 @@
 
 namespace sudoku {
 
+// Wrong entries (Etat 3) of a board: their cells are open as far as contents go, and aren't filled.
+template <int N>
+struct Fausses {
+  std::uint8_t fausse[Taille(N * N)];  // by cell, 0 or the symbol + 1
+  std::uint16_t fausses;               // how many there are
+
+  // Always inline, so that no version of the hot code makes one that others would share; as Pose below.
+  [[gnu::always_inline]] void PoseFausse(int cellule, int symbole) {
+    OteFausse(cellule);
+    fausse[cellule] = static_cast<std::uint8_t>(symbole + 1);
+    ++fausses;
+  }
+  [[gnu::always_inline]] void OteFausse(int cellule) {
+    if (fausse[cellule] != 0) --fausses;
+    fausse[cellule] = 0;
+  }
+};
+
 // A board of blocks of side S that a search writes on. Cells and symbols count from 0.
 template <int S>
-struct Cases : Contenus<S> {
+struct Cases : Contenus<S>, Fausses<S * S> {
   using typename Contenus<S>::Mot;
   using Contenus<S>::N;
 
@@ -19,8 +37,7 @@ struct Cases : Contenus<S> {
 
   // All cells are open.
   void Efface();
-  // The cell, an open one, holds the symbol. Always inline, so that no version of the hot code makes one that
-  // others would share.
+  // The cell, an open one, holds the symbol.
   [[gnu::always_inline]] void Pose(int cellule, int symbole) {
     const auto bit = [](int n) { return static_cast<Mot>(Mot{1} << n); };
     const Lieu<S>& lieu = kLieux<S>.lieux[cellule];
@@ -37,7 +54,7 @@ struct Cases : Contenus<S> {
 
 // The same for side 9, of which another search wants other tables.
 template <>
-struct Cases<3> {
+struct Cases<3> : Fausses<9> {
   using Mot = Largeur<3>::Mot;
   static constexpr int N = 9;
 

@@ -7,10 +7,9 @@
 
 namespace sudoku {
 
-// The solve pass for grids of blocks of side 3 to 8 whose cells hold single symbols, none wrong (Etat 3), and
-// none typed and unproved (Etat 2) but for those that the solver supposed: what a search does by the
-// thousand, without facts. It gives what TravailGrille::JeuSolve and the engine give on such a board,
-// deduction for deduction.
+// The solve pass for grids of blocks of side 3 to 8 whose cells hold single symbols, none typed and unproved
+// (Etat 2) or wrong (Etat 3) but for those that the solver wrote: what a search does by the thousand, without
+// facts. It gives what TravailGrille::JeuSolve and the engine give on such a board, deduction for deduction.
 
 // What a solve pass made of a board.
 template <int S>
@@ -19,11 +18,6 @@ struct Passe {
   bool possibles = false;
   // As of GrilleCheck: -1, 0, or the number of empty cells.
   std::int16_t verdict = 0;
-  // Cells that got a symbol which their candidates had lost (a contradictory board): they hold it in `cases`,
-  // with Etat 3. Where there is one, the pass stopped before the evaluation that follows, without a verdict,
-  // and the general engine has to go on from there.
-  bool erronee = false;
-  bool erronees[Taille(S * S * S * S)] = {};
   // Candidates of the empty cells after the last evaluation; for a verdict above 0, or -1 with `possibles`.
   typename Largeur<S>::Mot candidats[Taille(S * S * S * S)];
 };

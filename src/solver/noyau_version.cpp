@@ -12,27 +12,44 @@ namespace {
 struct Recherche {
   static constexpr bool kFaits = false;
 
-  bool abandonne;
+  const std::uint8_t* fausse;  // of the board
+  bool abandonne = true;
 
   bool Abandonne() const { return abandonne; }
-  static bool Vide(int) { return true; }
+  bool Vide(int cellule) const { return fausse[cellule] == 0; }
 };
 template <int S>
 using DeductionsDuNoyau = DeductionsSur<std::conditional_t<S == 3, TrouveNeuf, TrouveurDe<S>>, Recherche>;
 
-// Writes all solutions. A symbol that the cell's candidates have lost since it was found is a wrong entry:
-// false then.
+// Writes all solutions into empty cells. A symbol that the cell's candidates have lost since it was found is
+// a wrong entry.
 template <int S>
-bool Ecrit(Cases<S>& cases, Appui appui, const DeductionsDuNoyau<S>& deductions, Passe<S>& passe) {
+void Ecrit(Cases<S>& cases, Appui appui, const DeductionsDuNoyau<S>& deductions) {
   deductions.ChaqueSolution([&](int cellule, int symbole) {
+    if (cases.fausse[cellule] != 0) return;
     if (appui == Appui::kPossible && (deductions.CandidatsDe(cellule) >> symbole & 1) == 0) {
-      if (!passe.erronee) std::memset(passe.erronees, 0, sizeof passe.erronees);
-      passe.erronee = true;
-      passe.erronees[cellule] = true;
+      cases.PoseFausse(cellule, symbole);
+    } else {
+      cases.Pose(cellule, symbole);
     }
-    cases.Pose(cellule, symbole);
   });
-  return !passe.erronee;
+}
+
+// As GrilleCheck: the first wrong entry that has become a candidate of its cell counts again, unless a cell
+// before it has none. True if there is one.
+template <int S>
+[[gnu::noinline]] bool LeveFausse(Cases<S>& cases, const DeductionsDuNoyau<S>& deductions) {
+  for (int i = 0; i < S * S * S * S; ++i) {
+    if (cases.valeur[i] != 0) continue;
+    const auto candidats = deductions.CandidatsDe(i);
+    if (candidats == 0) return false;
+    const int symbole = cases.fausse[i] - 1;
+    if (symbole < 0 || (candidats >> symbole & 1) == 0) continue;
+    cases.OteFausse(i);
+    cases.Pose(i, symbole);
+    return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -41,15 +58,16 @@ template <int S>
 void Resout(Cases<S>& cases, Appui appui, Passe<S>& passe) {
   constexpr int N = S * S;
   using D = DeductionsDuNoyau<S>;
-  passe.erronee = false;
-  Recherche usage{.abandonne = !passe.possibles};
+  Recherche usage{.fausse = cases.fausse};
   D deductions(cases, usage);
   typename D::Suite suite;
   for (;;) {
+    usage.abandonne = !passe.possibles && cases.fausses == 0;
     suite = deductions.Candidats(appui);
     if (suite == D::kRien && cases.remplies < N * N) suite = deductions.Deduit();
+    if (cases.fausses != 0 && LeveFausse(cases, deductions)) continue;
     if (suite != D::kSolutions) break;
-    if (!Ecrit(cases, appui, deductions, passe)) return;
+    Ecrit(cases, appui, deductions);
   }
   passe.verdict = suite == D::kContradiction ? -1 : static_cast<std::int16_t>(N * N - cases.remplies);
   if (passe.verdict < 0 && !passe.possibles) return;

@@ -30,12 +30,6 @@ Grille TravailGrille::Rend(bool /*contenus*/) {
   return std::exchange(travail_, Grille());
 }
 
-void TravailGrille::Charge(int cellule, Code symbole, std::int32_t etat) {
-  Bloc& bloc = travail_.Donnees();
-  bloc.saisie[Rang(cellule)] = symbole;
-  bloc.etat[Rang(cellule)] = etat;
-}
-
 // It ends: a cell is written at most twice, once in each way and in that order.
 std::int16_t TravailGrille::JeuSolve(bool /*possibles*/) {
   const Bloc& bloc = travail_.Donnees();

@@ -14,9 +14,6 @@ class TravailGrille : public Travail {
   explicit TravailGrille(Evaluateur& evaluateur, Auditeur* auditeur = nullptr)
       : evaluateur_(evaluateur), auditeur_(auditeur) {}
 
-  // Puts a cell of the board at this content and Etat, unjudged.
-  void Charge(int cellule, Code symbole, std::int32_t etat);
-
   void Commence(const Grille& grille) override;
   Grille Rend(bool contenus) override;
 

@@ -6,7 +6,6 @@
 #include "engine/lieux.h"
 #include "grid/game_state.h"
 #include "solver/noyau.h"
-#include "solver/travail_grille.h"
 
 namespace sudoku {
 namespace {
@@ -15,7 +14,7 @@ template <int S>
 class TravailVoies : public Travail {
  public:
   explicit TravailVoies(Evaluateur& evaluateur)
-      : evaluateur_(evaluateur), general_(evaluateur), noyau_(VersionsNoyau<S>().front()) {}
+      : evaluateur_(evaluateur), noyau_(VersionsNoyau<S>().front()) {}
 
   void Commence(const Grille& grille) override;
   Grille Rend(bool contenus) override;
@@ -39,11 +38,8 @@ class TravailVoies : public Travail {
   void Ecrit(Grille& grille) const;
   // The base's contents go to the player's grid.
   void EcritBase();
-  void PasseAuGeneral();
 
   Evaluateur& evaluateur_;
-  TravailGrille general_;  // takes over an attempt in which a wrong entry comes up
-  bool auGeneral_ = false;
   Noyau<S> noyau_;
   Grille grille_;  // the player's: what was given, then the base
   Grille copie_;   // what the last attempt is delivered in
@@ -60,7 +56,7 @@ class TravailVoies : public Travail {
 template <int S>
 void TravailVoies<S>::Commence(const Grille& grille) {
   grille_ = grille;
-  auGeneral_ = detachee_ = montree_ = base_ = false;
+  detachee_ = montree_ = base_ = false;
   cases_.Efface();
   const Bloc& bloc = grille.Donnees();
   for (int i = 1; i <= kCases; ++i) {
@@ -83,12 +79,8 @@ Grille TravailVoies<S>::Rend(bool contenus) {
     // run.
     copie_ = grille_;
   }
-  if (auGeneral_) {
-    rendue = general_.Rend(contenus);
-  } else {
-    Ecrit(rendue);
-    if (!contenus) evaluateur_.Evaluation(rendue, 2);
-  }
+  Ecrit(rendue);
+  if (!contenus) evaluateur_.Evaluation(rendue, 2);
   rendue.Donnees().jeu->VgEtat = kJeu;
   grille_ = Grille();
   return rendue;
@@ -100,22 +92,21 @@ template <int S>
 void TravailVoies<S>::Ecrit(Grille& grille) const {
   Bloc& bloc = grille.Donnees();
   for (int i = 1; i <= kCases; ++i) {
-    if (bloc.saisie[Rang(i)] != kVide || cases_.valeur[i - 1] == 0) continue;
-    bloc.saisie[Rang(i)] = cases_.valeur[i - 1] - 1;
-    bloc.etat[Rang(i)] = !base_ || casesBase_.valeur[i - 1] != 0 ? kProuvee : kPossible;
+    const int symbole = cases_.valeur[i - 1] - 1;
+    const int fausse = cases_.fausse[i - 1] - 1;
+    if (bloc.saisie[Rang(i)] != kVide || std::max(symbole, fausse) < 0) continue;
+    bloc.saisie[Rang(i)] = std::max(symbole, fausse);
+    const bool prouvee = !base_ || casesBase_.valeur[i - 1] != 0;
+    bloc.etat[Rang(i)] = fausse >= 0 ? kErronee : prouvee ? kProuvee : kPossible;
   }
 }
 
 template <int S>
 std::int16_t TravailVoies<S>::JeuSolve(bool possibles) {
-  if (!auGeneral_) {
-    passe_.possibles = possibles;
-    noyau_(cases_, base_ ? Appui::kPossible : Appui::kSur, passe_);
-    candidats_ = passe_.candidats;
-    if (!passe_.erronee) return passe_.verdict;
-    PasseAuGeneral();
-  }
-  return general_.JeuSolve(possibles);
+  passe_.possibles = possibles;
+  noyau_(cases_, base_ ? Appui::kPossible : Appui::kSur, passe_);
+  candidats_ = passe_.candidats;
+  return passe_.verdict;
 }
 
 template <int S>
@@ -127,43 +118,22 @@ void TravailVoies<S>::PrendBase() {
 
 template <int S>
 void TravailVoies<S>::Reconstruit() {
-  auGeneral_ = false;
   cases_ = casesBase_;
   candidats_ = candidatsBase_;
-  passe_.erronee = false;
 }
 
 template <int S>
 void TravailVoies<S>::Suppose(int cellule, Code symbole) {
-  if (!auGeneral_ && (candidats_[cellule - 1] >> symbole & 1) != 0) {
+  if ((candidats_[cellule - 1] >> symbole & 1) != 0) {
+    cases_.OteFausse(cellule - 1);
     cases_.Pose(cellule - 1, symbole);
-    return;
+  } else {
+    cases_.PoseFausse(cellule - 1, symbole);
   }
-  if (!auGeneral_) PasseAuGeneral();
-  general_.Suppose(cellule, symbole);
-}
-
-// The attempt goes on with the engine: the base, evaluated, with what the attempt has written since.
-template <int S>
-void TravailVoies<S>::PasseAuGeneral() {
-  Montre();
-  Grille grille;
-  GrilleCopy(grille_, grille);
-  general_.Commence(grille);
-  general_.PrendBase();
-  general_.Detache();
-  grille = Grille();
-  for (int i = 1; i <= kCases; ++i) {
-    if (casesBase_.valeur[i - 1] != 0 || cases_.valeur[i - 1] == 0) continue;
-    const bool erronee = passe_.erronee && passe_.erronees[i - 1];
-    general_.Charge(i, cases_.valeur[i - 1] - 1, erronee ? kErronee : kPossible);
-  }
-  auGeneral_ = true;
 }
 
 template <int S>
 int TravailVoies<S>::CelluleOuverte(int cellule, Essai& Possible) {
-  if (auGeneral_) return general_.CelluleOuverte(cellule, Possible);
   for (int i = cellule + 1; i <= kCases; ++i) {
     Bits candidats = candidats_[i - 1];
     if (cases_.valeur[i - 1] != 0 || std::popcount(candidats) < 2) continue;
@@ -176,7 +146,6 @@ int TravailVoies<S>::CelluleOuverte(int cellule, Essai& Possible) {
 
 template <int S>
 bool TravailVoies<S>::SymboleEnDouble() {
-  if (auGeneral_) return general_.SymboleEnDouble();
   for (int u = 0; u < N; ++u) {
     const auto& symboles = cases_.symboles;
     if ((symboles[0][u] & symboles[1][u] & symboles[2][u]) != kLieux<S>.tous) return true;
@@ -184,11 +153,10 @@ bool TravailVoies<S>::SymboleEnDouble() {
   return false;
 }
 
-// The base has no wrong entries, and every cell that is open after a pass has several candidates, so that the
-// kernel itself never comes here.
+// The base has no wrong entries, and another pass would do nothing that the last one didn't.
 template <int S>
 std::int16_t TravailVoies<S>::Acheve() {
-  return auGeneral_ ? general_.Acheve() : passe_.verdict;
+  return passe_.verdict;
 }
 
 template <int S>

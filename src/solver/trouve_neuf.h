@@ -64,6 +64,7 @@ class TrouveNeuf : private TrouveVoies<3> {
   static std::uint32_t Unites(int cellule) {
     return static_cast<std::uint32_t>(kLieux<3>.lieux[cellule].unites[0]);
   }
+  bool NoteContenus();
   void TransposeCandidats();
   void TransposePlaces();
   std::uint32_t EtatDe(int u, const MotDe<3>* places) const;
@@ -83,10 +84,24 @@ class TrouveNeuf : private TrouveVoies<3> {
 
 inline bool TrouveNeuf::Amorce(Appui appui) {
   Suivi<3>::Commence(appui);
-  for (int l = 0; l < N; ++l) Suivi<3>::NoteSeuls(l, 0);
   prouve_ = appui == Appui::kSur;
+  if (cases_.fausses != 0) return NoteContenus();
+  for (int l = 0; l < N; ++l) Suivi<3>::NoteSeuls(l, 0);
   aNoter_ = !PoseSeules(cases_);
   return !aNoter_;
+}
+
+// What the contents leave. False: nothing to a cell.
+[[gnu::noinline]] inline bool TrouveNeuf::NoteContenus() {
+  aNoter_ = false;
+  TransposeCandidats();
+  bool complets = true;
+  for (int l = 0; l < N; ++l) {
+    const V candidats = Lit<3>(CandidatsDeLigne(l));
+    complets &= BitsNonNulles(candidats) == Bits{lignes_.ouvertes[kLigne][l]};
+    Suivi<3>::NoteSeuls(l, EnBits(SUDOKU_MOTEUR::Seules(candidats)));
+  }
+  return complets;
 }
 
 inline void TrouveNeuf::TransposeCandidats() {
@@ -211,9 +226,9 @@ SUDOKU_EN_LIGNE std::uint32_t TrouveNeuf::EtatDe(int u, const MotDe<3>* places) 
 
 SUDOKU_EN_LIGNE TrouveNeuf::Apercu TrouveNeuf::Reste(int u) {
   if ((valables_ >> u & 1) != 0) return {etats_[u], prouves_[u]};
+  valables_ |= std::uint32_t{1} << u;
   alignas(64) MotDe<3> places[16];
   Ecrit<3>(places, Lit<3>(places_[u]) & ~Etale<3>(prouves_[u]));
-  valables_ |= std::uint32_t{1} << u;
   return {etats_[u] = EtatDe(u, places), prouves_[u]};
 }
 
@@ -281,12 +296,8 @@ SUDOKU_EN_LIGNE Voies<3> TrouveNeuf::PlacesDe(int s, TypeUnite type) const {
 
 // A search nearly always ends where Amorce gave false; only where it goes on it comes here.
 template <class F>
-void TrouveNeuf::ChaqueReduite(F f) {
-  if (aNoter_) {
-    aNoter_ = false;
-    TransposeCandidats();
-    for (int l = 0; l < N; ++l) NoteSeuls(l, EnBits(SUDOKU_MOTEUR::Seules(Lit<3>(CandidatsDeLigne(l)))));
-  }
+SUDOKU_EN_LIGNE void TrouveNeuf::ChaqueReduite(F f) {
+  if (aNoter_) NoteContenus();
   TrouveVoies<3>::ChaqueReduite(f);
 }
 
