@@ -227,6 +227,7 @@ SUDOKU_EN_LIGNE std::uint32_t TrouveNeuf::EtatDe(int u, const MotDe<3>* places) 
 SUDOKU_EN_LIGNE TrouveNeuf::Apercu TrouveNeuf::Reste(int u) {
   if ((valables_ >> u & 1) != 0) return {etats_[u], prouves_[u]};
   valables_ |= std::uint32_t{1} << u;
+  if (!prouve_) return {etats_[u] = EtatDe(u, places_[u]), 0};
   alignas(64) MotDe<3> places[16];
   Ecrit<3>(places, Lit<3>(places_[u]) & ~Etale<3>(prouves_[u]));
   return {etats_[u] = EtatDe(u, places), prouves_[u]};
