@@ -71,6 +71,7 @@ concept Trouveur = requires(T t, decltype(t.Reste(0)) reste, typename T::Bits bi
 //   Vide(cell)        the open cell holds nothing at all: a solution for it is one to fill in.
 // With facts, NoteArgument gives the number of one, NoteFait takes a cell that it changed. Without:
 //   Abandonne()       a board that has lost all candidates of a cell is given up; that cell stays so.
+//   NoteEnsemble(n)   a set of so many cells, symbols or units took something.
 template <class U>
 concept UsageAvecFaits = requires(U u, Argument argument) {
   { u.NoteArgument(argument, std::uint32_t{}, std::uint32_t{}) } -> std::same_as<std::uint32_t>;
@@ -80,6 +81,7 @@ concept UsageAvecFaits = requires(U u, Argument argument) {
 template <class U>
 concept UsageSansFaits = requires(U u) {
   { u.Abandonne() } -> std::same_as<bool>;
+  u.NoteEnsemble(0);
 };
 template <class U>
 concept Usage = requires(U u) {
@@ -145,6 +147,9 @@ class DeductionsSur : public T {
   template <class... B>
   void NoteFait(int cellule, std::uint32_t argument, const B&... exclus) {
     if constexpr (U::kFaits) usage_.NoteFait(cellule, argument, exclus...);
+  }
+  void NoteEnsemble(const Bits& ensemble) {
+    if constexpr (!U::kFaits) usage_.NoteEnsemble(Nombre(ensemble));
   }
   // Something went from a cell, and this says whether anything is left.
   void Change(bool reste) { contradiction_ |= !U::kFaits && !reste; }
@@ -252,6 +257,7 @@ void DeductionsSur<T, U>::GardeCachee(int u, const Trouvaille<Bits>& t) {
   Argument argument = De(Genre::kCachee, u);
   argument.fois = static_cast<std::int16_t>(t.fois);
   const std::uint32_t note = NoteArgument(argument, t.symboles, t.lieux);
+  NoteEnsemble(t.symboles);
   Chaque(t.perdants, [&](int place) {
     const int cellule = T::Cellule(u, place);
     const Bits exclus = T::HorsDe(cellule, t.symboles);
@@ -266,6 +272,7 @@ void DeductionsSur<T, U>::RetireNue(int u, const Trouvaille<Bits>& t) {
   Argument argument = De(Genre::kNue, u);
   argument.symbole = t.texte;
   const std::uint32_t note = NoteArgument(argument, t.symboles, t.lieux);
+  NoteEnsemble(t.symboles);
   Chaque(t.perdants, [&](int place) {
     const int cellule = T::Cellule(u, place);
     Change(T::EnleveNue(cellule, t));
@@ -307,6 +314,7 @@ bool DeductionsSur<T, U>::RetireFigure(const Figure& figure) {
       note = NoteArgument(
           {.genre = Genre::kFigure, .type = figure.type, .type2 = figure.type2, .symbole = figure.symbole},
           figure.unites, figure.cle);
+      NoteEnsemble(figure.unites);
     }
     change = true;
     Chaque(perdants, [&](int place) {

@@ -43,6 +43,9 @@ SUDOKU_EN_LIGNE TrenteDeux operator-(const TrenteDeux& a, const TrenteDeux& b) {
 SUDOKU_EN_LIGNE TrenteDeux operator&(const TrenteDeux& a, const TrenteDeux& b) {
   return TrenteDeux::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE { return a.r[i] & b.r[i]; });
 }
+SUDOKU_EN_LIGNE TrenteDeux operator~(const TrenteDeux& a) {
+  return TrenteDeux::De([&](int i) SUDOKU_LAMBDA_EN_LIGNE { return ~a.r[i]; });
+}
 // Bytes all ones where that is so, 0 elsewhere.
 SUDOKU_EN_LIGNE TrenteDeux Egaux(const TrenteDeux& a, const TrenteDeux& b) {
   return TrenteDeux::De(

@@ -122,8 +122,9 @@ bool AutoDriver::Guess(Travail& travail) {
   }
   // The board of the last attempt won't do: what it wrote before its last supposition was found without it,
   // and the deduction depends on its order. It will where that supposition was made on the very board of the
-  // base; who listens hears that pass all the same.
+  // base, or where the order is seen to make no difference; who listens hears that pass all the same.
   const bool surLaBase = VlSupp_.Niveaux() == 0;
+  rejouee_ |= travail.CommeRejouee();
   if (!rejouee_ || (auditeur_ != nullptr && !surLaBase)) {
     if (auditeur_ != nullptr) auditeur_->Reprend();
     Rejoue(travail);

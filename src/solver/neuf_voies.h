@@ -92,6 +92,26 @@ SUDOKU_EN_LIGNE Releve Regarde(const QuatreTables& t) {
           BitsDesOctets(AuMoins(egales, comptes) & AuMoins(comptes, un + un))};
 }
 
+// The lanes that hold something, three numbers at most with each of two lanes behind them: 8 bits a table.
+SUDOKU_EN_LIGNE std::uint32_t TroisEnTrois(const QuatreTables& t) {
+  const TrenteDeux un = TrenteDeux::Partout(1);
+  // What the lanes lack; an empty one is to lack nothing, as one that holds all does.
+  const TrenteDeux pleines = ~Egaux(t.bas + t.haut, TrenteDeux{});
+  const TrenteDeux bas = ~t.bas & pleines;
+  const TrenteDeux haut = (un - t.haut) & pleines;
+  const TrenteDeux neuviemes = ~Egaux(t.neuviemeBas + t.neuviemeHaut, TrenteDeux{});
+  TrenteDeux proches{};
+  const auto compare = [&](const TrenteDeux& autreBas, const TrenteDeux& autreHaut) SUDOKU_LAMBDA_EN_LIGNE {
+    proches = proches - AuMoins(Comptes(bas & autreBas) + (haut & autreHaut), TrenteDeux::Partout(6));
+  };
+  compare(~t.neuviemeBas & neuviemes, (un - t.neuviemeHaut) & neuviemes);
+  const auto avance = [&](auto d) SUDOKU_LAMBDA_EN_LIGNE {
+    compare(AvanceHuit<decltype(d)::value + 1>(bas), AvanceHuit<decltype(d)::value + 1>(haut));
+  };
+  ChaqueConstante(avance, std::make_integer_sequence<int, 7>());
+  return BitsDesOctets(AuMoins(proches, un + un));
+}
+
 // Three times three lanes into nine. Each is read with the one behind it.
 SUDOKU_EN_LIGNE void RangeTrois(MotDe<3>* p, const MotDe<3>* a, const MotDe<3>* b, const MotDe<3>* c) {
 #if defined(__SSE2__)

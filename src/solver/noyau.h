@@ -16,8 +16,15 @@ template <int S>
 struct Passe {
   // A board with a contradiction is to have its candidates too. Given by the caller.
   bool possibles = false;
+  // The board was left by an earlier pass of this attempt: `sansOrdre` is wanted. Given by the caller.
+  bool suite = false;
+  // By ordre_voies.h, in this pass and, by the caller's word, on the way to it: what was filled took sets of
+  // two at most, and nothing was wrong.
+  bool paires = true;
   // As of GrilleCheck: -1, 0, or the number of empty cells.
   std::int16_t verdict = 0;
+  // For a verdict above 0: one pass from the attempt's beginning would fill the same cells, by ordre_voies.h.
+  bool sansOrdre = false;
   // Candidates of the empty cells after the last evaluation; for a verdict above 0, or -1 with `possibles`.
   typename Largeur<S>::Mot candidats[Taille(S * S * S * S)];
 };

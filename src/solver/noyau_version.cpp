@@ -8,14 +8,16 @@
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
-// What a search wants of the deductions: their result.
+// What a search wants of the deductions: their result, and how large the sets were.
 struct Recherche {
   static constexpr bool kFaits = false;
 
   const std::uint8_t* fausse;  // of the board
   bool abandonne = true;
+  bool paires = true;
 
   bool Abandonne() const { return abandonne; }
+  void NoteEnsemble(int taille) { paires &= taille <= 2; }
   bool Vide(int cellule) const { return fausse[cellule] == 0; }
 };
 template <int S>
@@ -24,11 +26,12 @@ using DeductionsDuNoyau = DeductionsSur<std::conditional_t<S == 3, TrouveNeuf, T
 // Writes all solutions into empty cells. A symbol that the cell's candidates have lost since it was found is
 // a wrong entry.
 template <int S>
-void Ecrit(Cases<S>& cases, Appui appui, const DeductionsDuNoyau<S>& deductions) {
+void Ecrit(Cases<S>& cases, Appui appui, const DeductionsDuNoyau<S>& deductions, Passe<S>& passe) {
   deductions.ChaqueSolution([&](int cellule, int symbole) {
     if (cases.fausse[cellule] != 0) return;
     if (appui == Appui::kPossible && (deductions.CandidatsDe(cellule) >> symbole & 1) == 0) {
       cases.PoseFausse(cellule, symbole);
+      passe.paires = false;
     } else {
       cases.Pose(cellule, symbole);
     }
@@ -67,9 +70,15 @@ void Resout(Cases<S>& cases, Appui appui, Passe<S>& passe) {
     if (suite == D::kRien && cases.remplies < N * N) suite = deductions.Deduit();
     if (cases.fausses != 0 && LeveFausse(cases, deductions)) continue;
     if (suite != D::kSolutions) break;
-    Ecrit(cases, appui, deductions);
+    Ecrit(cases, appui, deductions, passe);
+    passe.paires &= usage.paires;
+    usage.paires = true;
   }
   passe.verdict = suite == D::kContradiction ? -1 : static_cast<std::int16_t>(N * N - cases.remplies);
+  passe.sansOrdre = false;
+  if constexpr (S == 3) {
+    if (passe.suite && passe.paires && passe.verdict > 0) passe.sansOrdre = deductions.SansOrdre();
+  }
   if (passe.verdict < 0 && !passe.possibles) return;
   for (int l = 0; l < N; ++l) {
     std::memcpy(passe.candidats + N * l, deductions.CandidatsDeLigne(l), N * sizeof(MotDe<S>));

@@ -30,6 +30,9 @@ class Travail {
   virtual void Detache() = 0;
   // Supposes a symbol in a cell, as an entry in play.
   virtual void Suppose(int cellule, Code symbole) = 0;
+  // The board that the last solve pass left open is the one that a pass from the base and all suppositions
+  // would leave.
+  virtual bool CommeRejouee() const = 0;
   // First cell behind `cellule` with several candidates, which go to `Possible`; 0 if there is none.
   virtual int CelluleOuverte(int cellule, Essai& Possible) = 0;
   // A symbol stands twice in a unit.

@@ -22,6 +22,7 @@ class TravailGrille : public Travail {
   void Reconstruit() override { GrilleCopy(base_, travail_); }
   void Detache() override;
   void Suppose(int cellule, Code symbole) override;
+  bool CommeRejouee() const override { return false; }
   int CelluleOuverte(int cellule, Essai& Possible) override;
   bool SymboleEnDouble() override { return sudoku::SymboleEnDouble(travail_); }
   std::int16_t Acheve() override;

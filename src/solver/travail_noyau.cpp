@@ -24,6 +24,7 @@ class TravailVoies : public Travail {
   void Reconstruit() override;
   void Detache() override { detachee_ = true; }
   void Suppose(int cellule, Code symbole) override;
+  bool CommeRejouee() const override { return passe_.sansOrdre; }
   int CelluleOuverte(int cellule, Essai& Possible) override;
   bool SymboleEnDouble() override;
   std::int16_t Acheve() override;
@@ -35,6 +36,11 @@ class TravailVoies : public Travail {
   using Mot = typename Largeur<S>::Mot;
   using Bits = typename Largeur<S>::Bits;
 
+  // The board is the base.
+  void CommenceTentative() {
+    passe_.suite = false;
+    passe_.paires = true;
+  }
   void Ecrit(Grille& grille) const;
   // The base's contents go to the player's grid.
   void EcritBase();
@@ -57,6 +63,7 @@ template <int S>
 void TravailVoies<S>::Commence(const Grille& grille) {
   grille_ = grille;
   detachee_ = montree_ = base_ = false;
+  CommenceTentative();
   cases_.Efface();
   const Bloc& bloc = grille.Donnees();
   for (int i = 1; i <= kCases; ++i) {
@@ -105,6 +112,7 @@ template <int S>
 std::int16_t TravailVoies<S>::JeuSolve(bool possibles) {
   passe_.possibles = possibles;
   noyau_(cases_, base_ ? Appui::kPossible : Appui::kSur, passe_);
+  passe_.suite = true;
   candidats_ = passe_.candidats;
   return passe_.verdict;
 }
@@ -112,12 +120,14 @@ std::int16_t TravailVoies<S>::JeuSolve(bool possibles) {
 template <int S>
 void TravailVoies<S>::PrendBase() {
   base_ = true;
+  CommenceTentative();
   casesBase_ = cases_;
   std::ranges::copy(passe_.candidats, candidatsBase_);
 }
 
 template <int S>
 void TravailVoies<S>::Reconstruit() {
+  CommenceTentative();
   cases_ = casesBase_;
   candidats_ = candidatsBase_;
 }
@@ -129,6 +139,7 @@ void TravailVoies<S>::Suppose(int cellule, Code symbole) {
     cases_.Pose(cellule - 1, symbole);
   } else {
     cases_.PoseFausse(cellule - 1, symbole);
+    passe_.paires = false;
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include "engine/trouve.h"
 #include "solver/neuf_voies.h"
+#include "solver/ordre_voies.h"
 #include "solver/planches_voies.h"
 
 // What the search finds on boards of side 9, where time goes by millions of units in which there is nothing.
@@ -55,6 +56,8 @@ class TrouveNeuf : private TrouveVoies<3> {
     return EnleveTous(cellule, CandidatsDe(cellule) & t.symboles);
   }
   void Remplace(int cellule, Bits sequence);
+  // What ordre_voies.h asks of the board where nothing is left to deduce.
+  bool SansOrdre() const;
   void PoseSolution(int cellule, int symbole) {
     if (prouve_) valables_ &= ~Unites(cellule);
     TrouveVoies<3>::PoseSolution(cellule, symbole);
@@ -309,6 +312,36 @@ void TrouveNeuf::ChaqueFigure(F f) {
     const V lignes = PlacesDe(s, kLigne);
     FiguresDe(s, colonnes, lignes, PlacesDe(s, kCarre), Duo<3>(colonnes, lignes), f);
   });
+}
+
+// Tables with lanes enough for an active set, two by two: of units, then of symbols.
+[[gnu::noinline]] inline bool TrouveNeuf::SansOrdre() const {
+  const Mot* tables[kUnites + N][2];
+  int combien = 0;
+  for (int u = 0; u < kUnites; ++u) {
+    const Bits symboles = cases_.symboles[TypeDe(u)][NumeroDe(u)];
+    const int ouvertes = std::popcount(BitsNonNulles(Lit<3>(candidats_[u])));
+    if (ouvertes + std::popcount(symboles) != N) return false;
+    if ((BitsNonNulles(Lit<3>(places_[u])) | symboles) != kLieux<3>.tous) return false;
+    tables[combien][0] = candidats_[u];
+    tables[combien][1] = places_[u];
+    combien += ouvertes < kVoiesDUnEnsemble ? 0 : 1;
+  }
+  V lignes{};  // in how many of them each symbol has places
+  for (int l = 0; l < N; ++l) lignes = lignes - NonNulles(Lit<3>(places_[Unite(kLigne, l)]));
+  alignas(64) Mot places[N][2][Taille(kVoies)];
+  Chaque(EnBits(PlusDe(kVoiesDUnEnsemble - 1, lignes)), [&](int s) {
+    Ecrit<3>(places[s][0], PlacesDe(s, kLigne));
+    Ecrit<3>(places[s][1], PlacesDe(s, kColonne));
+    tables[combien][0] = places[s][0];
+    tables[combien++][1] = places[s][1];
+  });
+  for (int i = 0; i < combien; i += 2) {
+    const auto& a = tables[i];
+    const auto& b = tables[std::min(i + 1, combien - 1)];
+    if (EnsembleActif({a[0], a[1], b[0], b[1]})) return false;
+  }
+  return true;
 }
 
 }  // namespace

@@ -49,6 +49,7 @@ void CompareNoyaux(int tours, int voulues) {
     for (const Appui appui : {Appui::kSur, Appui::kPossible}) {
       Passe<S> attendue;
       attendue.possibles = tour % 2 == 0;
+      attendue.suite = true;
       const Passe<S> demande = attendue;
       Cases<S> attendues = depart;
       versions.back()(attendues, appui, attendue);
@@ -60,6 +61,7 @@ void CompareNoyaux(int tours, int voulues) {
         ASSERT_EQ(std::memcmp(cases.valeur, attendues.valeur, sizeof cases.valeur), 0) << tour;
         ASSERT_EQ(std::memcmp(cases.fausse, attendues.fausse, sizeof cases.fausse), 0) << tour;
         ASSERT_EQ(passe.verdict, attendue.verdict) << tour;
+        ASSERT_EQ(passe.sansOrdre, attendue.sansOrdre) << tour;
         if (passe.verdict == 0 || (passe.verdict < 0 && !passe.possibles)) continue;
         for (int i = 0; i < N * N; ++i) {
           const bool egaux = cases.valeur[i] != 0 || passe.candidats[i] == attendue.candidats[i];
@@ -78,6 +80,50 @@ TEST(Noyau, ToutesLesVersionsDonnentLeMeme) {
   CompareNoyaux<6>(100, 10);
   CompareNoyaux<7>(50, 10);
   CompareNoyaux<8>(50, 10);
+}
+
+// A candidate of an open cell, in both boards.
+void Suppose(std::mt19937& suite, const Passe<3>& passe, Cases<3>& cases, Cases<3>& depart) {
+  int cellule = 0;
+  do cellule = static_cast<int>(suite() % 81);
+  while (cases.valeur[cellule] != 0);
+  int symbole = 0;
+  do symbole = static_cast<int>(suite() % 9);
+  while ((passe.candidats[cellule] >> symbole & 1) == 0);
+  cases.Pose(cellule, symbole);
+  depart.Pose(cellule, symbole);
+}
+
+// Where a pass says that the order makes no difference, suppositions made at once leave the same board.
+TEST(Noyau, SansOrdre) {
+  const Noyau<3> noyau = VersionsNoyau<3>().front();
+  std::mt19937 suite(3);
+  int dites = 0;
+  int differents = 0;
+  for (int tour = 0; tour < 25'000; ++tour) {
+    Cases<3> depart;
+    depart.Efface();
+    Cases<3> cases = depart;
+    Passe<3> passe;
+    noyau(cases, Appui::kPossible, passe);
+    while (passe.verdict > 0) {
+      passe.suite = true;
+      Suppose(suite, passe, cases, depart);
+      noyau(cases, Appui::kPossible, passe);
+      Cases<3> aLaFois = depart;
+      Passe<3> attendue;
+      noyau(aLaFois, Appui::kPossible, attendue);
+      const bool memes = std::memcmp(cases.valeur, aLaFois.valeur, sizeof cases.valeur) == 0;
+      ASSERT_TRUE(memes || !passe.sansOrdre) << tour;
+      dites += passe.sansOrdre ? 1 : 0;
+      differents += memes ? 0 : 1;
+      // On with what a search goes on with.
+      cases = aLaFois;
+      passe = attendue;
+    }
+  }
+  EXPECT_GT(dites, 0);
+  EXPECT_GT(differents, 0) << "the order never makes a difference here";
 }
 
 TEST(Moteur, ToutesLesVersionsDonnentLeMeme) {
