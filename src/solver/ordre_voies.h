@@ -14,7 +14,8 @@
 // least that afterwards. Where it has come to its own end, go the way again that was gone here. A locked
 // candidate or a single is still one then, for it keeps at least what it has in the end here. Two equal lanes
 // are as they were, or one has lost a number, so that both are singles by now, and filled: all that the two
-// take has gone (1). So both fill the same cells.
+// take has gone (1). So both fill the same cells. A kind of deduction that comes in has to have its place in
+// this: what it does on fewer candidates, in 1, and how one that is left is seen, in 2.
 namespace sudoku::SUDOKU_MOTEUR {
 namespace {
 
