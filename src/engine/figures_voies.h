@@ -37,7 +37,7 @@ SUDOKU_EN_LIGNE void TourneBloc(De de, A a) {
         melees[2 * k + 1] = __builtin_shufflevector(r[k], r[k + 2], 2, 6, 3, 7);
       }
     }
-    std::memcpy(r, melees, sizeof r);
+    for (int k = 0; k < K; ++k) r[k] = melees[k];  // a copy of all would be stored and loaded as a whole
   }
   for (int j = 0; j < K; ++j) std::memcpy(a(j), &r[j], sizeof r[j]);
 }
