@@ -190,12 +190,14 @@ void TrouveMasques<Dos, B>::ChaqueCachee(int u, const B& reste, F f) {
   const Octets<B>& nombres = dos().NombresDePlaces(u);
   const B assez = Assez(nombres, Entre(nombres, 2, dos().N()) & reste);
   if (Vide(assez)) return;
-  B notes{};
-  Chaque(assez, [&](int s) {
-    const int premiere = dos().Premiere(s);
-    if (Contient(notes, premiere)) return;
-    notes |= Bit<B>(premiere);
-    liste_.elements.push_back({premiere, nombres.n[s] * dos().Fois(reste, s), dos().Places(u, s)});
+  // Equal symbols stand where the first of them does, also where that one is placed and another isn't.
+  B premieres = assez;
+  if constexpr (!Dos::kDifferents) {
+    premieres = B{};
+    Chaque(assez, [&](int s) { premieres |= Bit<B>(dos().Premiere(s)); });
+  }
+  Chaque(premieres, [&](int s) {
+    liste_.elements.push_back({s, nombres.n[s] * dos().Fois(reste, s), dos().Places(u, s)});
   });
   liste_.ChaqueEnsemble([&](const Element& e, const B& symboles) {
     const B autres = dos().Autres(u, e.masque, symboles);

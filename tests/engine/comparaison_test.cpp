@@ -76,6 +76,11 @@ TEST(Comparaison, PartiesConnues) {
                               U"...................G........GfG...............GfffGffffGffGGfGff"
                               U".......................................................f..G....."
                               U"....G.....................................f.....GGf..GG...Gf...G");
+  // The same where another symbol stands between the two.
+  Plateau entreDeux = Lit(U"DcBACaebd",
+                          U".D.........D...D....D.............D.D.DDD...D"
+                          U"D.DDD...DD.DDD...DD.DDD...D.........");
+  entreDeux.cases[16] = {U"C", 2};
   const auto joue = [](const Plateau& plateau, auto pas) {
     Paire paire;
     EXPECT_EQ(paire.Charge(plateau), "");
@@ -87,6 +92,7 @@ TEST(Comparaison, PartiesConnues) {
   joue(deuxFois, [](Paire& p) { return p.Joue({.reset = true, .silence = true}); });
   joue(echec, [](Paire& p) { return p.Joue({.guess = true, .silence = true, .contenus = true}); });
   joue(lettres, [](Paire& p) { return p.Saisit(110, U"EB"); });
+  joue(entreDeux, [](Paire& p) { return p.Saisit(61, U"BA"); });
 }
 
 }  // namespace
