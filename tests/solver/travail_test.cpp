@@ -81,18 +81,30 @@ std::string Resous(TexteVue symboles, const Texte& cases, Auditeur* auditeur, in
   return champs;
 }
 
+void Compare(TexteVue symboles, const Texte& cases, int& erronees) {
+  Sourd sourd;
+  EXPECT_EQ(Resous(symboles, cases, nullptr, erronees), Resous(symboles, cases, &sourd, erronees))
+      << VersUtf8(cases);
+}
+
 TEST(Travail, LeNoyauTrouveCeQueLeMoteurTrouve) {
   std::mt19937 suite(16);
-  Sourd sourd;
   int erronees = 0;
-  for (int tour = 0; tour < 4000; ++tour) {
+  for (int tour = 0; tour < 4000 && !HasFailure(); ++tour) {
     const TexteVue symboles = tour % 10 == 0 ? U"123456789ABCDEFG" : U"123456789";
     const std::size_t donnees = (symboles.size() == 9 ? 30 : 150) + suite() % 40;
-    const Texte cases = GrilleAuHasard(suite, symboles, donnees);
-    ASSERT_EQ(Resous(symboles, cases, nullptr, erronees), Resous(symboles, cases, &sourd, erronees))
-        << tour << ' ' << VersUtf8(cases);
+    Compare(symboles, GrilleAuHasard(suite, symboles, donnees), erronees);
   }
   EXPECT_GT(erronees, 0) << "no board is left with a wrong entry";
+  // Rare: a cell without candidates before a wrong entry that has become one, and behind one; a supposition
+  // that the base's candidates don't have; a replay into a cell that the contents leave nothing.
+  for (const TexteVue cases :
+       {U"     8 6    54  8 92     146  7  9       4      2  136  4        8  1   21      5",
+        U"7  1      18 6     23   1    4 7  819  4    5  28     3   1 9  2          5    27",
+        U" 3         9   6      1   2  1   84 68  4      576         5    1   2  5     83  ",
+        U"  69    3   1   9    85 264 3   5    5 3 4  7   78     4    8          2      4  "}) {
+    Compare(U"123456789", Texte(cases), erronees);
+  }
 }
 
 }  // namespace
