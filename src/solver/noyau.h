@@ -11,15 +11,15 @@ namespace sudoku {
 // (Etat 2) or wrong (Etat 3) but for those that the solver wrote: what a search does by the thousand, without
 // facts. It gives what TravailGrille::JeuSolve and the engine give on such a board, deduction for deduction.
 
-// What a solve pass made of a board.
+// What a solve pass is asked about a board, and what it made of it.
 template <int S>
 struct Passe {
-  // A board with a contradiction is to have its candidates too. Given by the caller.
+  // Asked: a board with a contradiction is to have its candidates too.
   bool possibles = false;
-  // The board was left by an earlier pass of this attempt: `sansOrdre` is wanted. Given by the caller.
+  // Asked: the board was left by an earlier pass of this attempt, and `sansOrdre` is wanted.
   bool suite = false;
-  // By ordre_voies.h, in this pass and, by the caller's word, on the way to it: what was filled took sets of
-  // two at most, and nothing was wrong.
+  // By ordre_voies.h: on the whole way to this board what was filled took sets of two at most, and nothing
+  // was wrong. Of the way before the pass the caller tells it.
   bool paires = true;
   // As of GrilleCheck: -1, 0, or the number of empty cells.
   std::int16_t verdict = 0;
