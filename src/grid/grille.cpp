@@ -24,17 +24,20 @@ struct Survol {
   std::uint32_t aVisiter = 0;  // bit i: cell i has no candidate or an entry to judge
 };
 
+// The cells have that many words of candidates.
+template <int kMots>
 Survol Survole(const Bloc& bloc, int premiere) {
   const std::int32_t* const etat = &bloc.etat[Rang(premiere)];
   const Code* const saisie = &bloc.saisie[Rang(premiere)];
   const Code* const possible = &bloc.possibleTexte[Rang(premiere)];
-  const std::uint64_t* const candidats = &bloc.candidats[Rang(premiere)];
+  const std::uint64_t* const candidats = &bloc.candidats[Rang(premiere * kMots)];
   bool visites[kLot];
   int pleines = 0;
   for (int i = 0; i < kLot; ++i) {
-    const auto mots =
-        static_cast<std::uint32_t>(candidats[i]) | static_cast<std::uint32_t>(candidats[i] >> 32);
-    const bool vide = (possible[i] == kVide) & (mots == 0);
+    std::uint64_t mots = 0;
+    for (int m = 0; m < kMots; ++m) mots |= candidats[i * kMots + m];
+    const auto moities = static_cast<std::uint32_t>(mots) | static_cast<std::uint32_t>(mots >> 32);
+    const bool vide = (possible[i] == kVide) & (moities == 0);
     const std::int32_t paire = etat[i] & ~1;
     visites[i] = vide | (paire == kPossible);              // or kErronee
     pleines += (paire == kDonnee) & (saisie[i] != kVide);  // or kProuvee
@@ -137,14 +140,15 @@ Visite VisiteCase(Bloc& bloc, int cellule, Revisions& revisions) {
   return Visite::kChange;
 }
 
-std::int32_t GrilleCheck(Grille& VpGrille, Revisions& revisions) {
-  Bloc& bloc = VpGrille.Donnees();
-  const int derniere = VpGrille.Borne();
+namespace {
+
+template <int kMots>
+std::int32_t Check(Bloc& bloc, int derniere, Revisions& revisions) {
   int pleines = 0;
   for (int premiere = 1; premiere <= derniere; premiere += kLot) {
     const int combien = std::min(kLot, derniere + 1 - premiere);
     Survol survol{.aVisiter = (1U << combien) - 1};
-    if (bloc.mots == 1 && combien == kLot) survol = Survole(bloc, premiere);
+    if (combien == kLot) survol = Survole<kMots>(bloc, premiere);
     pleines += survol.pleines;
     for (std::uint32_t reste = survol.aVisiter; reste != 0; reste &= reste - 1) {
       const Visite visite = VisiteCase(bloc, premiere + std::countr_zero(reste), revisions);
@@ -154,6 +158,15 @@ std::int32_t GrilleCheck(Grille& VpGrille, Revisions& revisions) {
     }
   }
   return derniere - pleines;
+}
+
+}  // namespace
+
+std::int32_t GrilleCheck(Grille& VpGrille, Revisions& revisions) {
+  Bloc& bloc = VpGrille.Donnees();
+  if (bloc.mots == 1) return Check<1>(bloc, VpGrille.Borne(), revisions);
+  if (bloc.mots == 2) return Check<2>(bloc, VpGrille.Borne(), revisions);
+  return Check<4>(bloc, VpGrille.Borne(), revisions);
 }
 
 }  // namespace sudoku
